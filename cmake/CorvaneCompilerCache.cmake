@@ -1,0 +1,6 @@
+# Uses ccache where it is installed.
+find_program(CORVANE_CCACHE ccache)
+if(CORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_C_COMPILER_LAUNCHER ${CORVANE_CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CORVANE_CCACHE})
+endif()
