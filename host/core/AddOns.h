@@ -1,0 +1,40 @@
+// The add-ons of this process.
+#pragma once
+
+#include "hostapi/CorTypes.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// What an add-on's id points to. Ids stay valid for the life of the process.
+struct CorAddOn_s {
+    int interfaceNumber = 0;
+    std::string name;
+    std::string version;
+    std::string author;
+};
+
+namespace corvane::host {
+
+class Application;
+
+/// The number of the contract that this host offers.
+inline constexpr int interfaceNumber = 110;
+
+class AddOns {
+public:
+    CorAddOnID add(CorAddOn_s addOn);
+    const std::vector<std::unique_ptr<CorAddOn_s>>& all() const { return m_addOns; }
+    bool isKnown(CorAddOnID id) const;
+
+private:
+    std::vector<std::unique_ptr<CorAddOn_s>> m_addOns;
+};
+
+/// Loads the library and calls its entry point behind the exception wall. The library stays loaded
+/// until the process ends, since its objects are destroyed then. Throws HostError: the library, and
+/// what is wrong with it.
+void loadAddOn(Application& application, const std::string& library);
+
+} // namespace corvane::host

@@ -1,0 +1,115 @@
+// The host as a whole: its state, its rules, and its ports to the outside.
+#pragma once
+
+#include "host/core/AddOns.h"
+#include "host/core/CallTrace.h"
+#include "host/core/Drawing.h"
+#include "host/core/ExportSetup.h"
+#include "host/core/Exporter.h"
+#include "host/core/IdleQueue.h"
+#include "host/core/Locks.h"
+#include "host/core/MacroPlayer.h"
+#include "host/core/Macros.h"
+#include "host/core/Page.h"
+#include "host/core/Ports.h"
+#include "host/core/StateChanges.h"
+#include "host/core/StatusLine.h"
+#include "host/core/StyleTree.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace corvane::host {
+
+/// References must outlive the application.
+struct Ports {
+    Renderer& renderer;
+    DataReader& reader;
+    MovieWriters& movies;
+    StatusDisplay& status;
+    Dialogs& dialogs;
+    Screen* screen = nullptr;       ///< null: nobody looks
+    IdleTimer* idleTimer = nullptr; ///< null: no event loop
+};
+
+/// Everything here belongs to the one user-interface thread.
+class Application {
+public:
+    explicit Application(Ports ports);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    /// The one that the C operations work on: the youngest one alive, null without one. Add-ons may
+    /// still call when the process ends.
+    static Application* current();
+
+    Page& page() { return m_page; }
+    Locks& locks() { return m_locks; }
+    Drawing& drawing() { return m_drawing; }
+    IdleQueue& idle() { return m_idle; }
+    StateChanges& stateChanges() { return m_stateChanges; }
+    StatusLine& status() { return m_status; }
+    ExportSetup& exportSetup() { return m_exportSetup; }
+    Exporter& exporter() { return m_exporter; }
+    AddOns& addOns() { return m_addOns; }
+    AddOnCommands& addOnCommands() { return m_addOnCommands; }
+    MacroRecorder& recorder() { return m_recorder; }
+    MacroPlayer& macros() { return m_macros; }
+    CallTrace& trace() { return m_trace; }
+    Dialogs& dialogs() { return m_ports.dialogs; }
+
+    /// Style values of the frame in question (Page::current) and of the application ("Interface",
+    /// "ExportSetup"). Without a frame, or with one that is not 3D, the frame's paths answer
+    /// StyleSet_NotAllowed and StyleGet_NotAvailable.
+    StyleSetResult_e setStyle(const StylePath& path, const StyleInput& value);
+    StyleGetResult_e getStyle(const StylePath& path, StyleInput& value) const;
+
+    /// Reads the files into the active frame (made when there is none), chooses plots and view, and
+    /// tells the listeners. Throws HostError; the data loaded before stay then.
+    void openData(const std::vector<std::string>& files);
+    /// Without data or with a time that is not finite: false, and nothing changes.
+    bool setSolutionTime(double time);
+    bool rotateView(RotateAxis_e axis, double degrees); ///< false without a 3D frame
+    bool fitView();                                     ///< false without data
+    bool setPlotType(PlotType_e type);                  ///< false without a frame
+    /// Announces a change made to the page, and marks it for drawing.
+    void pageChanged(StateChange_e change);
+
+    /// Calls into an add-on, behind a wall: whatever it throws is caught, locks and suspended
+    /// drawing are put back to what they were, and the text of the error is returned (empty
+    /// without one). Locks that are left behind or taken away without an error are told to the
+    /// trace and left alone, since a dialog may hold one for its whole life.
+    std::string callAddOn(const std::string& what, const std::function<void()>& call);
+
+    /// To be called by the event loop when nothing else is to be done.
+    void onIdle();
+    /// Tells the listeners that the host ends, and drops idle work.
+    void quit();
+
+private:
+    void bindApplicationStyles();
+    StyleTree* treeFor(const StylePath& path);
+    void announce(const StyleLeaf& leaf);
+    Frame* spatialFrame() const; ///< the frame in question when it shows 3D
+
+    Ports m_ports;
+    CallTrace m_trace;
+    Page m_page;
+    Locks m_locks;
+    ExportSetup m_exportSetup;
+    bool m_useDisplayLists = true;
+    StyleTree m_styles; ///< of the application
+    Drawing m_drawing;
+    IdleQueue m_idle;
+    StateChanges m_stateChanges;
+    StatusLine m_status;
+    Exporter m_exporter;
+    AddOns m_addOns;
+    AddOnCommands m_addOnCommands;
+    MacroRecorder m_recorder;
+    MacroPlayer m_macros;
+};
+
+} // namespace corvane::host

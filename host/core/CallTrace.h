@@ -1,0 +1,34 @@
+// One record for each call an add-on makes of its host: the first thing to look at when an add-on
+// misbehaves, and what tests compare orders of calls with.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace corvane::host {
+
+struct TraceRecord {
+    std::string call;   ///< with its arguments: CorUtilDrawGraphics(FALSE)
+    std::string result; ///< empty for operations without one
+    int depth = 0;      ///< locks held after the call
+};
+
+/// "CorUtilExportStart() = TRUE [1]": result when there is one, lock depth in brackets.
+std::string toString(const TraceRecord& record);
+
+class CallTrace {
+public:
+    /// Either may be empty; records are made only while there is somebody to take them.
+    std::function<void(const TraceRecord&)> onCall;
+    /// What an add-on did wrong and the host ignored, as a sentence.
+    std::function<void(const std::string&)> onMisuse;
+
+    bool isOn() const { return static_cast<bool>(onCall); }
+    void misuse(const std::string& what) const {
+        if (onMisuse) {
+            onMisuse(what);
+        }
+    }
+};
+
+} // namespace corvane::host

@@ -1,0 +1,49 @@
+// The text of macros: lines, words and quotes.
+#pragma once
+
+#include <istream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace corvane::host {
+
+/// A macro that cannot be read or carried out. what() names file and line, shows the line and tells
+/// the cause.
+class MacroError : public std::runtime_error {
+public:
+    MacroError(const std::string& file, unsigned long line, const std::string& text,
+               const std::string& cause);
+};
+
+/// "$!STYLE Slice/1/Position = 0.5" has the name STYLE and the words "Slice/1/Position", "=",
+/// "0.5".
+struct MacroLine {
+    std::string name;               ///< without "$!", in capitals
+    std::vector<std::string> words; ///< unquoted
+    unsigned long number = 0;       ///< from 1 on
+    std::string text;               ///< as it stands in the file, without blanks around it
+};
+
+/// In double quotes, with \" and \\ for quotes and backslashes and \n for line breaks.
+std::string quoted(const std::string& text);
+
+/// Words are separated by blanks and tabs; "=" is a word of its own outside quotes; a word in
+/// double quotes may hold anything, with \", \\ and \n as above. Throws std::invalid_argument with
+/// the cause.
+std::vector<std::string> splitWords(const std::string& text);
+
+/// Reads the next line that is neither empty nor a comment (#). False at the end. Throws MacroError
+/// for a line that does not begin with "$!", cannot be split, or is longer than 1 MiB.
+class MacroReader {
+public:
+    MacroReader(std::istream& stream, std::string fileName);
+    bool next(MacroLine& line);
+
+private:
+    std::istream& m_stream;
+    std::string m_fileName;
+    unsigned long m_number = 0;
+};
+
+} // namespace corvane::host

@@ -1,0 +1,68 @@
+// Addresses values by paths of keywords: the one way in for add-ons and macros.
+#pragma once
+
+#include "hostapi/CorEnums.h"
+
+#include <functional>
+#include <limits>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+namespace corvane::host {
+
+/// A path of keywords, "ThreeDView" "ViewerPosition" "X". Letter case (ASCII) is ignored.
+using StylePath = std::vector<std::string>;
+
+/// A value on its way in or out. Integers carry booleans too (0 and 1).
+using StyleInput = std::variant<long, double, std::string>;
+
+/// What kind of change a write is, since the host announces and draws them differently.
+enum class StyleEffect { View, Picture, None };
+
+struct StyleLeaf {
+    StylePath path; ///< as it is written in macros
+    std::variant<bool*, int*, double*, std::string*> target;
+    double minimum = -std::numeric_limits<double>::max(); ///< numbers outside are refused
+    double maximum = std::numeric_limits<double>::max();
+    StyleEffect effect = StyleEffect::Picture;
+    std::function<bool()> isAllowed; ///< empty: always
+};
+
+/// An index from paths to values that live elsewhere, in plain structs. The structs must outlive
+/// the tree and stay where they are.
+class StyleTree {
+public:
+    /// Called after a write changed a value.
+    std::function<void(const StyleLeaf&)> onChanged;
+
+    void bind(StyleLeaf leaf);
+    /// Forgets all leaves whose path starts with this keyword.
+    void unbind(const std::string& firstKeyword);
+
+    bool contains(const StylePath& path) const;
+
+    /// StyleSet_BadPath: no such leaf. StyleSet_NotAllowed: the value cannot be set in this state.
+    /// StyleSet_BadValue: wrong type, not finite or out of range. StyleSet_Unchanged: it was so.
+    /// The value changes for StyleSet_Ok only. Integer and boolean leaves take an integer, others
+    /// take their own type.
+    StyleSetResult_e set(const StylePath& path, const StyleInput& value);
+
+    /// The value, or nothing when there is no such leaf. Booleans arrive as 0 and 1.
+    std::optional<StyleInput> get(const StylePath& path) const;
+
+    const StyleLeaf* find(const StylePath& path) const;
+    const std::vector<StyleLeaf>& leaves() const { return m_leaves; } ///< in order of binding
+
+private:
+    std::vector<StyleLeaf> m_leaves;
+    std::unordered_map<std::string, std::size_t> m_index; ///< lower-case path, joined
+};
+
+/// The path as macros write it: keywords joined by '/'.
+std::string toString(const StylePath& path);
+StylePath stylePathFromString(const std::string& text);
+
+} // namespace corvane::host
