@@ -1,0 +1,17 @@
+// The end of a chain that plays on screen.
+#include "addon/engine/AnimatorOnScreen.h"
+
+#include "hostapi/CorHost.h"
+
+namespace corvane::corutiltools {
+
+AnimatorOnScreen::AnimatorOnScreen(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* next)
+    : AnimatorAbstract(keyFrames, next) {}
+
+AnimatorOnScreen::~AnimatorOnScreen() = default;
+
+void AnimatorOnScreen::drawFrameAtIndex(unsigned long /*frameIndex*/) {
+    CorUtilRedraw(TRUE);
+}
+
+} // namespace corvane::corutiltools
