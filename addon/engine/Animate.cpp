@@ -1,0 +1,77 @@
+// The main loop of a flight.
+#include "addon/engine/Action.h"
+
+#include "addon/engine/AnimationManager.h"
+#include "addon/engine/KeyFrameError.h"
+#include "addon/engine/Status.h"
+#include "addon/engine/SuspendDisplayLists.h"
+#include "addon/macro/EnumMap.h"
+#include "addon/macro/MacroManager.h"
+#include "addon/shell/HostLock.h"
+#include "hostapi/CorHost.h"
+
+#include <new>
+#include <stdexcept>
+#include <utility>
+
+namespace corvane::corutiltools {
+
+namespace {
+
+void playFrames(AnimationManager& manager, Status& status) {
+    while (manager.hasNextFrame() && !status.isCanceled()) {
+        manager.drawNextFrame();
+        ++status;
+    }
+    if (status.isCanceled()) {
+        manager.cancelAnimation();
+        CorUtilRedraw(TRUE);
+        throw KeyFrameError("Animation canceled.");
+    }
+}
+
+void recordFlight(Destination_e destination, MacroOption_e macroOption) {
+    if (macroOption == MacroOption_Record && CorUtilMacroIsRecordingActive()) {
+        std::vector<std::pair<Parameter_e, std::string>> const parameters{
+            {Parameter_AnimationDestination,
+             EnumMap<Destination_e>::instance().toString(destination)}};
+        MacroManager::instance().recordCommand(Command_Animate, parameters);
+    }
+}
+
+// What lives in here ends in reverse order: the display lists come back, the percent-done display
+// ends, and then the chain goes, putting back what it changed or finishing the file.
+void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, unsigned long count,
+          Settings_s const& settings, MacroOption_e macroOption) {
+    AnimationManager manager(keyFrames, startIndex, count, settings);
+    Status status(static_cast<double>(manager.numFrames()), "Animating....");
+    SuspendDisplayLists const displayListsOff;
+    playFrames(manager, status);
+    recordFlight(settings.destination, macroOption);
+}
+
+[[noreturn]] void throwOutOfMemory() {
+    throw KeyFrameError("Not enough memory to produce the animation.\n"
+                        "Try reducing the number of total frames in the animation.");
+}
+
+} // namespace
+
+void Animate(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex,
+             unsigned long count, Settings_s const& settings, MacroOption_e macroOption) {
+    HostLock const lock;
+    if (CorUtilFrameGetPlotType() != PlotType_Cartesian3D) {
+        throw KeyFrameError("The current frame must be in 3D Cartesian mode.");
+    }
+    // A list too long for a vector shows as a logic error, so all of them are taken for want of
+    // memory.
+    try {
+        play(keyFrames, startIndex, count, settings, macroOption);
+    } catch (std::logic_error const&) {
+        throwOutOfMemory();
+    } catch (std::bad_alloc const&) {
+        throwOutOfMemory();
+    }
+}
+
+} // namespace corvane::corutiltools
