@@ -35,8 +35,13 @@ public:
     /// name and folder stand for the file in messages and for relative file names.
     void play(std::istream& macro, const std::string& name, const std::string& folder);
 
+    /// One command, as if it stood in a macro of that folder. Throws std::invalid_argument for
+    /// words that make no sense, HostError for what cannot be done.
+    void run(const std::string& name, const std::vector<std::string>& words,
+             const std::string& folder = ".");
+
 private:
-    void run(const MacroLine& line, const std::string& name, const std::string& folder);
+    void runLine(const MacroLine& line, const std::string& name, const std::string& folder);
 
     Application& m_application;
     int m_depth = 0;
