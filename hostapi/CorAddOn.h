@@ -1,4 +1,17 @@
-/* Registration of an add-on and its entry point. */
+/* Registration of an add-on, and its entry point.
+ *
+ * The life of an add-on:
+ *   1. The host makes its main window, menus, style values and message loop. It has no data yet.
+ *   2. It loads the add-on's library and calls InitCorAddOn113 once. The add-on registers itself,
+ *      its menu options, its macro commands and its listeners.
+ *   3. The host loads what the user asked for, then runs its event loop. State changes tell of it.
+ *   4. At the end it delivers StateChange_HostQuit, drops the idle queue, and deletes the widgets.
+ *      The library stays loaded until the process ends, and removing a listener works to the very
+ *      last, so objects of the add-on may be destroyed together with the process.
+ *
+ * An exception may leave a callback of an add-on: the host catches it, shows its what() in one
+ * error box, brings the lock depth and the suspension of drawing back to what they were at the
+ * call, and goes on. No operation throws one at the add-on. */
 #ifndef HOSTAPI_COR_ADD_ON_H
 #define HOSTAPI_COR_ADD_ON_H
 
@@ -6,10 +19,21 @@
 
 COR_BEGIN_DECLS
 
+/* Registers the add-on, which the host then shows in its list of add-ons.
+ *   interfaceNumber  110, the number of this contract; the host reports any other one and goes on
+ *   name             shown to the user
+ *   version          shown to the user; any text
+ *   author           shown to the user
+ *   returns          the add-on's identity, valid until the process ends
+ *                    NULL when name is NULL; nothing is registered then
+ *   [main-thread & entry] */
 CorAddOnID CorUtilAddOnRegister(int interfaceNumber, const char* name, const char* version,
                                 const char* author);
 
-/* Exported by the add-on, called once by the host at load. */
+/* Exported by the add-on under exactly this name, and called by the host once, right after loading.
+ * A library without it is reported and unloaded. An exception out of it is reported; the host goes
+ * on.
+ *   [main-thread] */
 void InitCorAddOn113(void);
 
 COR_END_DECLS
