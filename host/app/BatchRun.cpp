@@ -1,0 +1,138 @@
+// A run without a window, from the options to the exit code.
+#include "host/app/BatchRun.h"
+
+#include "host/app/BatchDialogs.h"
+#include "host/app/Flight.h"
+#include "host/app/Messages.h"
+#include "host/app/StopSignal.h"
+#include "host/app/TerminalStatus.h"
+#include "host/app/TimedRenderer.h"
+#include "host/app/TraceFile.h"
+#include "host/core/Application.h"
+#include "host/movie/LibavMovieWriters.h"
+#include "host/scene/DataReaders.h"
+#include "host/scene/SceneRenderer.h"
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <unistd.h>
+
+namespace corvane::app {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The add-on lies beside the program, in the build tree as well as where it is installed.
+std::string addOnLibrary(const Options& options) {
+    if (!options.addOn.empty()) {
+        return options.addOn;
+    }
+    const fs::path program = fs::read_symlink("/proc/self/exe");
+    return (program.parent_path().parent_path() / "lib" / "libKeyFrameAnimation.so").string();
+}
+
+class BatchRun {
+public:
+    explicit BatchRun(const Options& options)
+        : m_options(options),
+          m_renderer(m_scene),
+          m_status(std::cerr, isatty(STDERR_FILENO) != 0, isStopSignalled),
+          m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs}) {}
+
+    ExitCode run();
+
+private:
+    void work();
+    void traceCalls();
+    void setUpPage();
+    void sayWhatWasMade(double seconds);
+    ExitCode failed(const std::string& message);
+
+    const Options& m_options;
+    scene::SceneRenderer m_scene;
+    TimedRenderer m_renderer;
+    scene::DataReaders m_reader;
+    movie::LibavMovieWriters m_movies;
+    TerminalStatus m_status;
+    BatchDialogs m_dialogs;
+    std::unique_ptr<TraceFile> m_trace;
+    host::Application m_application;
+};
+
+ExitCode BatchRun::run() {
+    ExitCode code = ExitDone;
+    try {
+        work();
+    } catch (const std::exception& error) {
+        code = failed(error.what());
+    }
+    m_application.quit();
+    return code;
+}
+
+void BatchRun::work() {
+    traceCalls();
+    setUpPage();
+    host::loadAddOn(m_application, addOnLibrary(m_options));
+    if (!m_options.data.empty()) {
+        m_application.openData(m_options.data);
+    }
+    if (!m_options.macro.empty()) {
+        m_application.macros().playFile(m_options.macro);
+    }
+    if (!m_options.keyFrames.empty()) {
+        const auto start = std::chrono::steady_clock::now();
+        fly(m_application, m_options);
+        sayWhatWasMade(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+void BatchRun::traceCalls() {
+    if (!m_options.trace.empty()) {
+        m_trace = std::make_unique<TraceFile>(m_options.trace);
+        m_trace->attachTo(m_application.trace());
+    }
+}
+
+void BatchRun::setUpPage() {
+    constexpr double pageWidthInches = 8.0;
+    m_application.page().workArea = {m_options.width, m_options.height,
+                                     m_options.width / pageWidthInches};
+}
+
+void BatchRun::sayWhatWasMade(double seconds) {
+    const unsigned long frames = m_application.exporter().frames();
+    char figures[128];
+    std::snprintf(figures, sizeof figures,
+                  ": %lu frames in %.1f s, %.1f frames a second, %.0f %% of it drawing", frames,
+                  seconds, static_cast<double>(frames) / seconds,
+                  100.0 * m_renderer.seconds() / seconds);
+    say(m_options.output + figures);
+}
+
+ExitCode BatchRun::failed(const std::string& message) {
+    if (isStopSignalled()) {
+        say("Stopped; no movie was written.");
+        return ExitStopped;
+    }
+    say(message);
+    return ExitFailed;
+}
+
+} // namespace
+
+ExitCode runBatch(const Options& options) {
+    watchStopSignals();
+    try {
+        return BatchRun(options).run();
+    } catch (const std::exception& error) {
+        say(error.what());
+        return ExitFailed;
+    }
+}
+
+} // namespace corvane::app

@@ -1,0 +1,63 @@
+// The main job: a key frame file becomes a movie, by the add-on's own macro commands.
+#include "host/app/Flight.h"
+
+#include "host/app/MovieFormats.h"
+#include "host/core/Application.h"
+#include "host/core/HostError.h"
+
+#include <charconv>
+
+namespace corvane::app {
+namespace {
+
+std::string number(double value) {
+    char buffer[32];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+    return {buffer, end};
+}
+
+// A flight from the command line is no other thing than one from a macro.
+void runAddOnCommand(host::Application& application, const std::string& command) {
+    application.macros().run("EXTCOMMAND", {"Key Frame Animation", command});
+}
+
+void setUp(host::Application& application, const std::string& name, const std::string& value) {
+    application.macros().run("EXPORTSETUP", {name, "=", value});
+}
+
+void openKeyFrames(host::Application& application, const std::string& fileName) {
+    // The command's syntax has no escape for quotes.
+    if (fileName.find('"') != std::string::npos) {
+        throw host::HostError("The key frame file \"" + fileName +
+                              "\" has a double quote in its name, which the command that opens it "
+                              "cannot carry; rename the file.");
+    }
+    runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
+}
+
+void setUpMovie(host::Application& application, const Options& options, double speed) {
+    setUp(application, "ExportFormat", movieFormatFor(options.output)->keyword);
+    setUp(application, "ExportRegion", "CURRENTFRAME");
+    setUp(application, "ImageWidth", std::to_string(options.width));
+    setUp(application, "AnimationSpeed", number(options.framesPerSecond.value_or(speed)));
+    if (options.supersample) {
+        const bool isOn = *options.supersample > 1;
+        setUp(application, "UseSuperSampleAntiAliasing", isOn ? "true" : "false");
+        if (isOn) {
+            setUp(application, "SuperSampleFactor", std::to_string(*options.supersample));
+        }
+    }
+    setUp(application, "ExportFName", options.output);
+}
+
+} // namespace
+
+void fly(host::Application& application, const Options& options) {
+    // Opening a key frame file for the first time makes the add-on set its own speed.
+    const double speed = application.exportSetup().animationSpeed;
+    openKeyFrames(application, options.keyFrames);
+    setUpMovie(application, options, speed);
+    runAddOnCommand(application, "Animate AnimationDestination=ToFile");
+}
+
+} // namespace corvane::app

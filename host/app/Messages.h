@@ -1,0 +1,13 @@
+// How the program speaks on standard error: one line a message.
+#pragma once
+
+#include <string>
+
+namespace corvane::app {
+
+/// Line breaks become blanks.
+std::string onOneLine(const std::string& message);
+/// "corvane: message"
+void say(const std::string& message);
+
+} // namespace corvane::app

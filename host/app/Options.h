@@ -1,0 +1,40 @@
+// The command line as values.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace corvane::app {
+
+struct Options {
+    std::vector<std::string> data;
+    std::string macro;
+    bool batch = false;
+    std::string keyFrames;
+    std::string output;
+    int width = 1280; ///< pixels of the picture
+    int height = 720;
+    std::optional<double> framesPerSecond;
+    std::optional<int> supersample;
+    std::string addOn;
+    std::string trace;
+};
+
+/// The command line asks for help or the version: print what() and end with success.
+class PrintAndExit : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The command line makes no sense: what() tells why, in one sentence.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Throws PrintAndExit or UsageError.
+Options parseCommandLine(int argc, const char* const* argv);
+
+} // namespace corvane::app

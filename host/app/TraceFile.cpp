@@ -1,0 +1,26 @@
+// Writes what an add-on calls of its host into a file, a line a call.
+#include "host/app/TraceFile.h"
+
+#include "host/core/CallTrace.h"
+#include "host/core/HostError.h"
+
+namespace corvane::app {
+
+TraceFile::TraceFile(const std::string& fileName) : m_file(fileName) {
+    if (!m_file) {
+        throw host::HostError("The trace file \"" + fileName +
+                              "\" cannot be written; name a file in a folder that exists.");
+    }
+}
+
+void TraceFile::attachTo(host::CallTrace& trace) {
+    trace.onCall = [this](const host::TraceRecord& record) { writeLine(toString(record)); };
+    trace.onMisuse = [this](const std::string& what) { writeLine("misuse: " + what); };
+}
+
+// Flushed at once, since the trace is looked at when an add-on has brought the process down.
+void TraceFile::writeLine(const std::string& line) {
+    m_file << line << std::endl;
+}
+
+} // namespace corvane::app
