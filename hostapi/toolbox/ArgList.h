@@ -12,7 +12,7 @@ namespace corvane::toolbox {
 class ArgList {
 public:
     ArgList() : m_list(CorUtilArgListAlloc()) {}
-    ~ArgList() { free(); }
+    ~ArgList() { freeList(); }
     ArgList(const ArgList&) = delete;
     ArgList& operator=(const ArgList&) = delete;
 
@@ -44,7 +44,7 @@ public:
 
     // Drops all entries. The handle changes.
     void clear() {
-        free();
+        freeList();
         m_list = CorUtilArgListAlloc();
     }
 
@@ -54,7 +54,7 @@ public:
 private:
     bool canAppend(const char* name) const { return m_list && name; }
 
-    void free() {
+    void freeList() {
         if (m_list)
             CorUtilArgListDealloc(&m_list);
     }

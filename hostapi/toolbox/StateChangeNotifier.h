@@ -15,20 +15,23 @@ namespace corvane::toolbox {
 // must not be destroyed while it delivers.
 class StateChangeNotifier : public StateChangeNotifierInterface {
 public:
-    explicit StateChangeNotifier(StateChangeMode_e mode);
-    ~StateChangeNotifier();
+    explicit StateChangeNotifier(StateChangeMode_e mode) {
+        CorUtilStateChangeAddListener(mode, deliver, this);
+    }
+    ~StateChangeNotifier() { CorUtilStateChangeRemoveListener(deliver, this); }
     StateChangeNotifier(const StateChangeNotifier&) = delete;
     StateChangeNotifier& operator=(const StateChangeNotifier&) = delete;
 
-    void addListener(StateChangeListenerInterface* l);
-    void removeListener(StateChangeListenerInterface* l);
+    void addListener(StateChangeListenerInterface* l) {
+        if (l && std::find(m_listeners.begin(), m_listeners.end(), l) == m_listeners.end())
+            m_listeners.push_back(l);
+    }
+    void removeListener(StateChangeListenerInterface* l) {
+        m_listeners.erase(std::remove(m_listeners.begin(), m_listeners.end(), l),
+                          m_listeners.end());
+    }
 
 private:
-    struct Impl;
-    Impl* m_impl;
-};
-
-struct StateChangeNotifier::Impl {
     class Event : public StateChangeEventInterface {
     public:
         explicit Event(StateChange_e code) : m_code(code) {}
@@ -38,38 +41,15 @@ struct StateChangeNotifier::Impl {
         StateChange_e m_code;
     };
 
-    explicit Impl(StateChangeNotifier& notifier) : m_notifier(notifier) {}
-
     static void deliver(StateChange_e stateChange, void* clientData) {
-        const Impl& self = *static_cast<Impl*>(clientData);
+        StateChangeNotifier& self = *static_cast<StateChangeNotifier*>(clientData);
         const Event event(stateChange);
         const std::vector<StateChangeListenerInterface*> listeners = self.m_listeners;
         for (StateChangeListenerInterface* listener : listeners)
-            listener->stateChanged(event, self.m_notifier);
+            listener->stateChanged(event, self);
     }
 
-    StateChangeNotifier& m_notifier;
     std::vector<StateChangeListenerInterface*> m_listeners;
 };
-
-inline StateChangeNotifier::StateChangeNotifier(StateChangeMode_e mode) : m_impl(new Impl(*this)) {
-    CorUtilStateChangeAddListener(mode, Impl::deliver, m_impl);
-}
-
-inline StateChangeNotifier::~StateChangeNotifier() {
-    CorUtilStateChangeRemoveListener(Impl::deliver, m_impl);
-    delete m_impl;
-}
-
-inline void StateChangeNotifier::addListener(StateChangeListenerInterface* l) {
-    std::vector<StateChangeListenerInterface*>& listeners = m_impl->m_listeners;
-    if (l && std::find(listeners.begin(), listeners.end(), l) == listeners.end())
-        listeners.push_back(l);
-}
-
-inline void StateChangeNotifier::removeListener(StateChangeListenerInterface* l) {
-    std::vector<StateChangeListenerInterface*>& listeners = m_impl->m_listeners;
-    listeners.erase(std::remove(listeners.begin(), listeners.end(), l), listeners.end());
-}
 
 } // namespace corvane::toolbox
