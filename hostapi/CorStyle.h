@@ -24,8 +24,9 @@
  *   ExportSetup
  *     the values of CorUtilExportSetup, the same ones; see hostapi/CorExport.h
  *
- * Values under ThreeDView tell listeners StateChange_ViewChanged, all others
- * StateChange_StyleChanged. A write marks the frame for drawing, and draws nothing by itself. */
+ * A write tells listeners StateChange_ViewChanged for values under ThreeDView, and
+ * StateChange_StyleChanged for all others. It marks the frame for drawing when the picture depends on
+ * the value, and draws nothing by itself. */
 #ifndef HOSTAPI_COR_STYLE_H
 #define HOSTAPI_COR_STYLE_H
 
