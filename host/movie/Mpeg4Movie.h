@@ -1,0 +1,24 @@
+// An MPEG-4 movie being written.
+#pragma once
+
+#include "host/movie/MovieFile.h"
+
+#include <string>
+
+namespace corvane::movie {
+
+/// Fragmented while it is written, so that what a killed process leaves can be played; plain when
+/// it is finished, for the widest choice of players.
+class Mpeg4Movie : public PictureSink {
+public:
+    explicit Mpeg4Movie(const host::MovieRequest& request);
+
+    void write(const host::Picture& picture) override { m_file.write(picture); }
+    void finish() override;
+
+private:
+    std::string m_path;
+    MovieFile m_file;
+};
+
+} // namespace corvane::movie

@@ -1,0 +1,18 @@
+// Where the encoder thread's pictures go.
+#pragma once
+
+#include "host/core/Picture.h"
+
+namespace corvane::movie {
+
+/// Used by one thread at a time. Destroying it before finish() closes the file and leaves it.
+class PictureSink {
+public:
+    virtual ~PictureSink() = default;
+    /// Throws when the picture cannot be written.
+    virtual void write(const host::Picture& picture) = 0;
+    /// Completes the file and closes it. Throws when that fails.
+    virtual void finish() = 0;
+};
+
+} // namespace corvane::movie

@@ -1,0 +1,49 @@
+// Compresses the frames of a movie.
+#pragma once
+
+#include "host/movie/LibavCheck.h"
+#include "host/movie/LibavHandles.h"
+#include "host/movie/MovieFormat.h"
+
+#include <functional>
+
+namespace corvane::movie {
+
+/// What the encoder is to know of the movie.
+struct VideoShape {
+    int width = 0;
+    int height = 0;
+    AVPixelFormat pixelFormat = AV_PIX_FMT_NONE;
+    AVRational rate{0, 1};
+    bool headerApart = false; ///< the container keeps the stream's header, not the packets
+};
+
+class VideoEncoder {
+public:
+    /// Times of packets count frames. The packet is the encoder's own.
+    using PacketTaker = std::function<void(AVPacket*)>;
+
+    /// Throws HostError when there is no such encoder, or when it does not take such a movie.
+    VideoEncoder(const EncoderSettings& settings, const VideoShape& shape, LibavCheck check);
+
+    const AVCodecContext& context() const { return *m_context; }
+
+    /// Gives the frame to the encoder, and to the taker what is ready by then.
+    void encode(AVFrame* frame, const PacketTaker& taker);
+    /// Gives all that is left to the taker.
+    void drain(const PacketTaker& taker);
+
+private:
+    void setShape(const VideoShape& shape);
+    void send(AVFrame* frame, const PacketTaker& taker);
+
+    LibavCheck m_check;
+    CodecContextHandle m_context;
+    PacketHandle m_packet;
+    std::int64_t m_frames = 0;
+};
+
+/// The first of the format's encoders that this libav has. Throws HostError when it has none.
+const EncoderSettings& availableEncoder(const MovieFormat& format, const LibavCheck& check);
+
+} // namespace corvane::movie
