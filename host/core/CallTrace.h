@@ -22,6 +22,10 @@ public:
     std::function<void(const TraceRecord&)> onCall;
     /// What an add-on did wrong and the host ignored, as a sentence.
     std::function<void(const std::string&)> onMisuse;
+    /// Asked before each call, for tests of what an add-on does when its host fails. False: the
+    /// call answers its failure and does nothing else. An exception of it leaves the operation,
+    /// which no other one does. hasResult: the operation can answer a failure at all.
+    std::function<bool(const char* operation, bool hasResult)> onEnter;
 
     bool isOn() const { return static_cast<bool>(onCall); }
     void misuse(const std::string& what) const {

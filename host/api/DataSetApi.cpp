@@ -1,0 +1,114 @@
+// Zones and solution time.
+#include "hostapi/CorDataSet.h"
+
+#include "host/api/TracedCall.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+struct CorSet_s {
+    std::vector<long> members; ///< ascending
+};
+
+using namespace corvane::host;
+
+namespace {
+
+const DataSet* currentData(Application& app) {
+    const Frame* const frame = app.page().current();
+    return frame ? frame->data().get() : nullptr;
+}
+
+/// Null for a zone that does not exist.
+const Zone* find(Application& app, long zone) {
+    const DataSet* const data = currentData(app);
+    const bool exists = data && zone >= 1 && static_cast<std::size_t>(zone) <= data->zones.size();
+    return exists ? &data->zones[static_cast<std::size_t>(zone - 1)] : nullptr;
+}
+
+std::unique_ptr<CorSet_s> enabledZones(const DataSet& data) {
+    auto set = std::make_unique<CorSet_s>();
+    for (std::size_t i = 0; i < data.zones.size(); ++i) {
+        if (data.zones[i].enabled) {
+            set->members.push_back(static_cast<long>(i + 1));
+        }
+    }
+    return set;
+}
+
+} // namespace
+
+CorBool CorUtilDataSetIsAvailable(void) {
+    return TracedCall("CorUtilDataSetIsAvailable").answer(false, [](Application& app) {
+        return currentData(app) != nullptr;
+    });
+}
+
+CorBool CorUtilZoneGetEnabled(CorSet* enabled) {
+    const TracedCall call("CorUtilZoneGetEnabled", enabled);
+    if (enabled) {
+        *enabled = nullptr;
+    }
+    return call.answer(false, [&](Application& app) {
+        if (!enabled) {
+            return call.misuse("enabled is NULL");
+        }
+        if (const DataSet* const data = currentData(app)) {
+            *enabled = enabledZones(*data).release();
+        }
+        return *enabled != nullptr;
+    });
+}
+
+long CorUtilSetGetNextMember(CorSet set, long member) {
+    return TracedCall("CorUtilSetGetNextMember", set, member).answer(0L, [&](Application&) {
+        if (!set) {
+            return 0L;
+        }
+        const auto next = std::upper_bound(set->members.begin(), set->members.end(), member);
+        return next != set->members.end() ? *next : 0L;
+    });
+}
+
+void CorUtilSetDealloc(CorSet* set) {
+    TracedCall("CorUtilSetDealloc", set).perform([](Application&) {});
+    if (set) {
+        delete *set;
+        *set = nullptr;
+    }
+}
+
+double CorUtilZoneGetSolutionTime(long zone) {
+    const TracedCall call("CorUtilZoneGetSolutionTime", zone);
+    return call.answer(0.0, [&](Application& app) {
+        if (const Zone* const found = find(app, zone)) {
+            return found->solutionTime;
+        }
+        call.misuse("no such zone");
+        return 0.0;
+    });
+}
+
+long CorUtilZoneGetStrandID(long zone) {
+    const TracedCall call("CorUtilZoneGetStrandID", zone);
+    return call.answer(0L, [&](Application& app) {
+        if (const Zone* const found = find(app, zone)) {
+            return found->strand;
+        }
+        call.misuse("no such zone");
+        return 0L;
+    });
+}
+
+double CorUtilSolutionTimeGetCurrent(void) {
+    return TracedCall("CorUtilSolutionTimeGetCurrent").answer(0.0, [](Application& app) {
+        return currentData(app) ? app.page().current()->solutionTime : 0.0;
+    });
+}
+
+CorBool CorUtilSolutionTimeSetCurrent(double t) {
+    return TracedCall("CorUtilSolutionTimeSetCurrent", t).answer(false, [&](Application& app) {
+        return app.setSolutionTime(t);
+    });
+}

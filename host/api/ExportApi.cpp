@@ -1,0 +1,74 @@
+// Recording of movies.
+#include "hostapi/CorExport.h"
+
+#include "host/api/TracedCall.h"
+
+using namespace corvane::host;
+
+namespace {
+
+/// Integers, numbers and texts come in different arguments; the setting decides which one counts.
+bool setSetting(Application& app, const StylePath& path, const char* text, long integer,
+                double number) {
+    StyleInput value;
+    if (app.getStyle(path, value) != StyleGet_Ok) {
+        return false;
+    }
+    if (std::holds_alternative<long>(value)) {
+        value = integer;
+    } else if (std::holds_alternative<double>(value)) {
+        value = number;
+    } else if (text) {
+        value = std::string(text);
+    } else {
+        return false;
+    }
+    const StyleSetResult_e result = app.setStyle(path, value);
+    return result == StyleSet_Ok || result == StyleSet_Unchanged;
+}
+
+/// An operation that needs a movie being recorded.
+CorBool whileRecording(const char* operation, bool (Exporter::*step)()) {
+    const TracedCall call(operation);
+    return call.answer(false, [&](Application& app) {
+        Exporter& exporter = app.exporter();
+        return exporter.isRecording() ? (exporter.*step)() : call.misuse("nothing is recorded");
+    });
+}
+
+} // namespace
+
+CorBool CorUtilExportIsRecording(void) {
+    return TracedCall("CorUtilExportIsRecording").answer(false, [](Application& app) {
+        return app.exporter().isRecording();
+    });
+}
+
+CorBool CorUtilExportStart(void) {
+    const TracedCall call("CorUtilExportStart");
+    return call.answer(false, [&](Application& app) {
+        return app.exporter().isRecording() ? call.misuse("a movie is being recorded already")
+                                            : app.exporter().start();
+    });
+}
+
+CorBool CorUtilExportNextFrame(void) {
+    return whileRecording("CorUtilExportNextFrame", &Exporter::nextFrame);
+}
+
+CorBool CorUtilExportFinish(void) {
+    return whileRecording("CorUtilExportFinish", &Exporter::finish);
+}
+
+CorBool CorUtilExportCancel(void) {
+    return whileRecording("CorUtilExportCancel", &Exporter::cancel);
+}
+
+CorBool CorUtilExportSetup(const char* name, const char* text, int integerValue,
+                           double doubleValue) {
+    const TracedCall call("CorUtilExportSetup", name, text, integerValue, doubleValue);
+    return call.answer(false, [&](Application& app) {
+        return name ? setSetting(app, {"ExportSetup", name}, text, integerValue, doubleValue)
+                    : call.misuse("name is NULL");
+    });
+}

@@ -1,0 +1,20 @@
+// The idle queue.
+#include "hostapi/CorIdle.h"
+
+#include "host/api/TracedCall.h"
+
+using namespace corvane::host;
+
+CorBool CorUtilOnIdleQueueAddCallback(CorOnIdleCallback f, long clientData) {
+    const TracedCall call("CorUtilOnIdleQueueAddCallback", f, clientData);
+    return call.answer(false, [&](Application& app) {
+        if (!f) {
+            return call.misuse("f is NULL");
+        }
+        app.idle().add([&app, f, clientData] {
+            app.callAddOn("idle callback", [f, clientData] { f(clientData); });
+        });
+        // A queue that was closed drops what it is given.
+        return !app.idle().isEmpty();
+    });
+}

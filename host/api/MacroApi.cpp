@@ -1,0 +1,67 @@
+// Macro commands of add-ons, and recording.
+#include "hostapi/CorMacro.h"
+
+#include "host/api/TracedCall.h"
+#include "hostapi/CorMemory.h"
+
+#include <optional>
+
+using namespace corvane::host;
+
+namespace {
+
+std::string withoutTrailingBlanks(const std::string& text) {
+    return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
+}
+
+/// What went wrong, or nothing.
+std::optional<std::string> runCommand(Application& app, const std::string& macroName,
+                                      CorMacroCommandCallback callback,
+                                      const std::string& command) {
+    std::string copy = withoutTrailingBlanks(command);
+    char* message = nullptr;
+    bool succeeded = false;
+    std::string failure = app.callAddOn(
+        "command of " + macroName, [&] { succeeded = callback(copy.data(), &message) != FALSE; });
+    if (failure.empty() && !succeeded) {
+        failure = message && *message ? message : "The command failed.";
+    }
+    CorUtilStringDealloc(&message);
+    return failure.empty() ? std::nullopt : std::optional(std::move(failure));
+}
+
+} // namespace
+
+CorBool CorUtilMacroAddCommandCallback(const char* macroName, CorMacroCommandCallback f) {
+    const TracedCall call("CorUtilMacroAddCommandCallback", macroName, f);
+    return call.answer(false, [&](Application& app) {
+        if (!macroName || !f) {
+            return call.misuse("an argument is NULL");
+        }
+        const std::string name = macroName;
+        return app.addOnCommands().add(name, [&app, name, f](const std::string& command) {
+            return runCommand(app, name, f, command);
+        });
+    });
+}
+
+CorBool CorUtilMacroIsRecordingActive(void) {
+    return TracedCall("CorUtilMacroIsRecordingActive").answer(false, [](Application& app) {
+        return app.recorder().isRecording();
+    });
+}
+
+CorBool CorUtilMacroRecordExtCommand(const char* macroName, const char* command) {
+    const TracedCall call("CorUtilMacroRecordExtCommand", macroName, command);
+    return call.answer(false, [&](Application& app) {
+        return macroName && command ? app.recorder().recordAddOnCommand(macroName, command)
+                                    : call.misuse("an argument is NULL");
+    });
+}
+
+CorBool CorUtilMacroRecordRawCommand(const char* line) {
+    const TracedCall call("CorUtilMacroRecordRawCommand", line);
+    return call.answer(false, [&](Application& app) {
+        return line ? app.recorder().recordRaw(line) : call.misuse("line is NULL");
+    });
+}

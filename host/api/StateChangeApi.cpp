@@ -1,0 +1,57 @@
+// Notification of state changes.
+#include "hostapi/CorStateChange.h"
+
+#include "host/api/ArgumentList.h"
+#include "host/api/TracedCall.h"
+
+using namespace corvane::host;
+
+namespace {
+
+constexpr int callbackTakesCodeAlone = 1;
+
+void checkMode(const auto& call, int mode) {
+    if (mode != StateChangeMode_Synchronous) {
+        call.misuse("unknown mode; changes are told at once");
+    }
+}
+
+} // namespace
+
+CorBool CorUtilStateChangeAddCallbackX(CorArgList args) {
+    const TracedCall call("CorUtilStateChangeAddCallbackX", args);
+    return call.answer(false, [&](Application& app) {
+        const auto* callback = args ? args->find<CorGenericFunc>("CallbackFunction") : nullptr;
+        if (!callback || !*callback) {
+            return call.misuse("no CallbackFunction");
+        }
+        const int* const api = args->find<int>("StateChangeCallbackAPI");
+        if (api && *api != callbackTakesCodeAlone) {
+            return call.misuse("unknown StateChangeCallbackAPI");
+        }
+        if (const int* const mode = args->find<int>("StateChangeMode")) {
+            checkMode(call, *mode);
+        }
+        app.stateChanges().addCallback(reinterpret_cast<CorStateChangeCallback>(*callback));
+        return true;
+    });
+}
+
+CorBool CorUtilStateChangeAddListener(StateChangeMode_e mode, CorStateChangeListener f,
+                                      void* clientData) {
+    const TracedCall call("CorUtilStateChangeAddListener", mode, f, clientData);
+    return call.answer(false, [&](Application& app) {
+        if (!f) {
+            return call.misuse("f is NULL");
+        }
+        checkMode(call, mode);
+        app.stateChanges().addListener(f, clientData);
+        return true;
+    });
+}
+
+CorBool CorUtilStateChangeRemoveListener(CorStateChangeListener f, void* clientData) {
+    const TracedCall call("CorUtilStateChangeRemoveListener", f, clientData);
+    return call.answer(
+        false, [&](Application& app) { return app.stateChanges().removeListener(f, clientData); });
+}

@@ -1,0 +1,46 @@
+// The percent-done display.
+#include "hostapi/CorStatus.h"
+
+#include "host/api/TracedCall.h"
+
+using namespace corvane::host;
+
+void CorUtilStatusStartPercentDone(const char* text, CorBool showStopButton,
+                                   CorBool showProgressBar) {
+    const TracedCall call("CorUtilStatusStartPercentDone", text, showStopButton != FALSE,
+                          showProgressBar != FALSE);
+    call.perform([&](Application& app) {
+        if (!text) {
+            call.misuse("text is NULL");
+        }
+        // The caller will finish what it started, with or without a text.
+        app.status().start(text ? text : "", showStopButton != FALSE, showProgressBar != FALSE);
+    });
+}
+
+void CorUtilStatusSetPercentDoneText(const char* text) {
+    const TracedCall call("CorUtilStatusSetPercentDoneText", text);
+    call.perform([&](Application& app) {
+        if (text) {
+            app.status().setText(text);
+        } else {
+            call.misuse("text is NULL");
+        }
+    });
+}
+
+CorBool CorUtilStatusCheckPercentDone(int percent) {
+    return TracedCall("CorUtilStatusCheckPercentDone", percent)
+        .answer(false, [&](Application& app) { return app.status().check(percent); });
+}
+
+void CorUtilStatusFinishPercentDone(void) {
+    const TracedCall call("CorUtilStatusFinishPercentDone");
+    call.perform([&](Application& app) {
+        if (app.status().isActive()) {
+            app.status().finish();
+        } else {
+            call.misuse("no display is open");
+        }
+    });
+}

@@ -1,0 +1,98 @@
+// Style values by path.
+#include "hostapi/CorStyle.h"
+
+#include "host/api/ArgumentList.h"
+#include "host/api/TracedCall.h"
+
+#include <optional>
+
+using namespace corvane::host;
+
+namespace {
+
+constexpr int longestPath = 8;
+
+StylePath pathOf(const CorArgList_s& args) {
+    StylePath path;
+    for (int depth = 1; depth <= longestPath; ++depth) {
+        const auto* const keyword = args.find<std::string>("Path" + std::to_string(depth));
+        if (!keyword) {
+            break;
+        }
+        path.push_back(*keyword);
+    }
+    return path;
+}
+
+/// The argument that a value of this kind takes: callers may send several, such as a boolean both
+/// as an integer and as a number.
+std::optional<StyleInput> inputLike(const StyleInput& kind, const CorArgList_s& args) {
+    if (std::holds_alternative<long>(kind)) {
+        const int* const value = args.find<int>("IValue");
+        return value ? std::optional<StyleInput>(static_cast<long>(*value)) : std::nullopt;
+    }
+    if (std::holds_alternative<double>(kind)) {
+        const double* const value = args.find<double>("DValue");
+        return value ? std::optional<StyleInput>(*value) : std::nullopt;
+    }
+    const auto* const value = args.find<std::string>("SValue");
+    return value ? std::optional<StyleInput>(*value) : std::nullopt;
+}
+
+StyleSetResult_e setByPath(Application& app, const CorArgList_s& args) {
+    const StylePath path = pathOf(args);
+    StyleInput present;
+    switch (app.getStyle(path, present)) {
+    case StyleGet_Ok: {
+        const std::optional<StyleInput> input = inputLike(present, args);
+        return input ? app.setStyle(path, *input) : StyleSet_BadValue;
+    }
+    case StyleGet_NotAvailable:
+        return StyleSet_NotAllowed;
+    default:
+        return StyleSet_BadPath;
+    }
+}
+
+/// False when the caller left no room for a value of this kind.
+bool deliver(const StyleInput& value, const CorArgList_s& args) {
+    if (const long* const integer = std::get_if<long>(&value)) {
+        if (int* const* const result = args.find<int*>("IValue")) {
+            **result = static_cast<int>(*integer);
+            return true;
+        }
+    }
+    if (const double* const number = std::get_if<double>(&value)) {
+        if (double* const* const result = args.find<double*>("DValue")) {
+            **result = *number;
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+int CorUtilStyleSet(CorArgList args) {
+    const TracedCall call("CorUtilStyleSet", args);
+    return call.answer(int(StyleSet_NotAllowed), [&](Application& app) -> int {
+        if (!args) {
+            call.misuse("args is NULL");
+            return StyleSet_BadPath;
+        }
+        return setByPath(app, *args);
+    });
+}
+
+int CorUtilStyleGet(CorArgList args) {
+    const TracedCall call("CorUtilStyleGet", args);
+    return call.answer(int(StyleGet_NotAvailable), [&](Application& app) -> int {
+        if (!args) {
+            call.misuse("args is NULL");
+            return StyleGet_BadPath;
+        }
+        StyleInput value;
+        const StyleGetResult_e result = app.getStyle(pathOf(*args), value);
+        return result != StyleGet_Ok || deliver(value, *args) ? result : StyleGet_NotAvailable;
+    });
+}

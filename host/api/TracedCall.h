@@ -1,0 +1,123 @@
+// The frame of every C operation: what happens before, after and instead of its work.
+#pragma once
+
+#include "host/api/CallText.h"
+#include "host/core/Application.h"
+
+#include <string>
+#include <tuple>
+
+namespace corvane::host {
+
+/// One call of a C operation. It answers the failure without an application, records the call and
+/// its result in the trace, and keeps exceptions of the host inside. While nobody listens to the
+/// trace, no text is made.
+template <class... Arguments>
+class TracedCall {
+public:
+    explicit TracedCall(const char* operation, Arguments... arguments)
+        : m_operation(operation), m_arguments(arguments...) {}
+
+    /// The result of work(application); failure when that is not possible.
+    template <class Result, class Work>
+    Result answer(Result failure, const Work& work) const;
+
+    /// Does work(application), for operations without a result.
+    template <class Work>
+    void perform(const Work& work) const;
+
+    /// Tells the trace what the caller did wrong. Answers false, which often is the result then.
+    bool misuse(const std::string& what) const;
+
+private:
+    std::string text() const;
+
+    const char* m_operation;
+    std::tuple<Arguments...> m_arguments;
+};
+
+/// Whether the call may do its work: false when the trace was told to let it fail.
+inline bool mayProceed(const CallTrace& trace, const char* operation, bool hasResult) {
+    return !trace.onEnter || trace.onEnter(operation, hasResult);
+}
+
+/// For the operations that build lists and strings: they are needed with or without an
+/// application, and would drown all others in the trace.
+bool mayProceedUntraced(const char* operation, bool hasResult);
+void reportMisuse(const char* operation, const std::string& what);
+
+/// To be called in a catch block: tells the trace about the exception.
+void reportException(const char* operation);
+void record(Application& application, std::string call, std::string result);
+
+template <class... Arguments>
+std::string TracedCall<Arguments...>::text() const {
+    std::string text = m_operation;
+    text += '(';
+    const char* separator = "";
+    const auto append = [&](auto argument) {
+        text += separator;
+        appendValue(text, argument);
+        separator = ", ";
+    };
+    std::apply([&](auto... arguments) { (append(arguments), ...); }, m_arguments);
+    text += ')';
+    return text;
+}
+
+template <class... Arguments>
+template <class Result, class Work>
+Result TracedCall<Arguments...>::answer(Result failure, const Work& work) const {
+    Application* const application = Application::current();
+    if (!application) {
+        return failure;
+    }
+    const bool proceeds = mayProceed(application->trace(), m_operation, true);
+    Result result = failure;
+    try {
+        // The arguments as they came: the work may free what they point to.
+        const bool isTraced = application->trace().isOn();
+        std::string call = isTraced ? text() : std::string();
+        if (proceeds) {
+            result = work(*application);
+        }
+        if (isTraced) {
+            std::string resultText;
+            appendValue(resultText, result);
+            record(*application, std::move(call), std::move(resultText));
+        }
+    } catch (...) {
+        reportException(m_operation);
+    }
+    return result;
+}
+
+template <class... Arguments>
+template <class Work>
+void TracedCall<Arguments...>::perform(const Work& work) const {
+    Application* const application = Application::current();
+    if (!application) {
+        return;
+    }
+    const bool proceeds = mayProceed(application->trace(), m_operation, false);
+    try {
+        const bool isTraced = application->trace().isOn();
+        std::string call = isTraced ? text() : std::string();
+        if (proceeds) {
+            work(*application);
+        }
+        if (isTraced) {
+            record(*application, std::move(call), {});
+        }
+    } catch (...) {
+        reportException(m_operation);
+    }
+}
+
+template <class... Arguments>
+bool TracedCall<Arguments...>::misuse(const std::string& what) const {
+    reportMisuse(m_operation, what);
+    return false;
+}
+
+} // namespace corvane::host
