@@ -27,9 +27,12 @@ public:
     CorAddOnID add(CorAddOn_s addOn);
     const std::vector<std::unique_ptr<CorAddOn_s>>& all() const { return m_addOns; }
     bool isKnown(CorAddOnID id) const;
+    /// Notes a library that stays loaded. False: it was noted before.
+    bool keepLibrary(void* handle);
 
 private:
     std::vector<std::unique_ptr<CorAddOn_s>> m_addOns;
+    std::vector<void*> m_libraries;
 };
 
 /// Loads the library and calls its entry point behind the exception wall. The library stays loaded

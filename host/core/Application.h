@@ -65,15 +65,18 @@ public:
     /// StyleSet_NotAllowed and StyleGet_NotAvailable.
     StyleSetResult_e setStyle(const StylePath& path, const StyleInput& value);
     StyleGetResult_e getStyle(const StylePath& path, StyleInput& value) const;
+    /// What kind of value stands there; null without one, and where the others do not answer.
+    const StyleLeaf* findStyle(const StylePath& path) const;
 
     /// Reads the files into the active frame (made when there is none), chooses plots and view, and
     /// tells the listeners. Throws HostError; the data loaded before stay then.
     void openData(const std::vector<std::string>& files);
     /// Without data or with a time that is not finite: false, and nothing changes.
     bool setSolutionTime(double time);
-    bool rotateView(RotateAxis_e axis, double degrees); ///< false without a 3D frame
-    bool fitView();                                     ///< false without data
-    bool setPlotType(PlotType_e type);                  ///< false without a frame
+    /// False without a 3D frame, for an unknown axis and for degrees that are not finite.
+    bool rotateView(RotateAxis_e axis, double degrees);
+    bool fitView();                    ///< false without a 3D frame and data with an extent
+    bool setPlotType(PlotType_e type); ///< false without a frame
     /// Announces a change made to the page, and marks it for drawing.
     void pageChanged(StateChange_e change);
 
@@ -85,13 +88,15 @@ public:
 
     /// To be called by the event loop when nothing else is to be done.
     void onIdle();
-    /// Tells the listeners that the host ends, and drops idle work.
+    /// Tells the listeners that the host ends, and drops idle work. Only the first call counts.
     void quit();
 
 private:
     void bindApplicationStyles();
-    StyleTree* treeFor(const StylePath& path);
-    void announce(const StyleLeaf& leaf);
+    const StyleTree* treeFor(const StylePath& path) const;
+    void announce(StyleEffect effect);
+    void announceIfMoved(const Frame& frame, const View3D& before);
+    void callAndReport(const char* what, const std::function<void()>& call);
     Frame* spatialFrame() const; ///< the frame in question when it shows 3D
 
     Ports m_ports;
@@ -100,6 +105,7 @@ private:
     Locks m_locks;
     ExportSetup m_exportSetup;
     bool m_useDisplayLists = true;
+    bool m_hasQuit = false;
     StyleTree m_styles; ///< of the application
     Drawing m_drawing;
     IdleQueue m_idle;

@@ -29,10 +29,14 @@ public:
 
     void mark();
     bool isMarked() const { return m_marked; }
+    /// Asks for idle time when the page is marked and drawing is on.
+    void schedule();
 
-    /// Draws now, at any depth of locks. False, and marked, while drawing is suspended.
+    /// Draws now, at any depth of locks. False, and marked, while drawing is suspended. Without a
+    /// screen only the mark goes. What the screen throws is passed on.
     bool redraw(bool allFrames);
-    /// Draws if the page is marked, drawing is on, no lock is held and there is a screen.
+    /// Draws if the page is marked, drawing is on, no lock is held and there is a screen. To be
+    /// called at the release of the last lock and at idle time.
     void drawIfDue();
 
     /// A picture for a movie or a file; neither marks nor unmarks.

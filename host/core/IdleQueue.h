@@ -20,6 +20,9 @@ public:
     bool isEmpty() const { return m_work.empty(); }
     void close(); ///< drops everything, for good
 
+    /// How an entry is called; the application puts its exception wall here.
+    std::function<void(const std::function<void()>&)> caller;
+
 private:
     IdleTimer* m_timer;
     std::deque<std::function<void()>> m_work;

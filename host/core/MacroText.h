@@ -41,6 +41,10 @@ public:
     bool next(MacroLine& line);
 
 private:
+    bool readLine(std::string& text);
+    void parse(const std::string& text, MacroLine& line) const;
+    [[noreturn]] void fail(const std::string& text, const std::string& cause) const;
+
     std::istream& m_stream;
     std::string m_fileName;
     unsigned long m_number = 0;

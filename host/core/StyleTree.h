@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <variant>
 #include <vector>
@@ -28,16 +29,15 @@ struct StyleLeaf {
     double minimum = -std::numeric_limits<double>::max(); ///< numbers outside are refused
     double maximum = std::numeric_limits<double>::max();
     StyleEffect effect = StyleEffect::Picture;
-    std::function<bool()> isAllowed; ///< empty: always
+    std::function<bool()> isAllowed;  ///< empty: always
+    std::vector<std::string> choices; ///< texts a text leaf may take; empty: any
 };
 
 /// An index from paths to values that live elsewhere, in plain structs. The structs must outlive
 /// the tree and stay where they are.
 class StyleTree {
 public:
-    /// Called after a write changed a value.
-    std::function<void(const StyleLeaf&)> onChanged;
-
+    /// A path is bound once; keywords hold no '/'.
     void bind(StyleLeaf leaf);
     /// Forgets all leaves whose path starts with this keyword.
     void unbind(const std::string& firstKeyword);
@@ -46,20 +46,38 @@ public:
 
     /// StyleSet_BadPath: no such leaf. StyleSet_NotAllowed: the value cannot be set in this state.
     /// StyleSet_BadValue: wrong type, not finite or out of range. StyleSet_Unchanged: it was so.
-    /// The value changes for StyleSet_Ok only. Integer and boolean leaves take an integer, others
-    /// take their own type.
+    /// The value changes for StyleSet_Ok only. Integer and boolean leaves take an integer (any but
+    /// 0 is true), others take their own type. Texts of StyleLeaf::choices compare without regard
+    /// to letter case and are stored as they are listed there.
     StyleSetResult_e set(const StylePath& path, const StyleInput& value);
+    /// The same for a leaf that find() gave.
+    static StyleSetResult_e set(const StyleLeaf& leaf, const StyleInput& value);
 
     /// The value, or nothing when there is no such leaf. Booleans arrive as 0 and 1.
     std::optional<StyleInput> get(const StylePath& path) const;
 
+    /// Valid until something is bound or unbound; null without such a leaf.
     const StyleLeaf* find(const StylePath& path) const;
     const std::vector<StyleLeaf>& leaves() const { return m_leaves; } ///< in order of binding
 
 private:
+    /// Lets find() look up a key that it built without allocating.
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const {
+            return std::hash<std::string_view>{}(key);
+        }
+    };
+
+    void rebuildIndex();
+
     std::vector<StyleLeaf> m_leaves;
-    std::unordered_map<std::string, std::size_t> m_index; ///< lower-case path, joined
+    /// From the lower-case path, joined.
+    std::unordered_map<std::string, std::size_t, KeyHash, std::equal_to<>> m_index;
 };
+
+/// Compares keywords and texts without regard to ASCII letter case.
+bool equalIgnoringCase(std::string_view a, std::string_view b);
 
 /// The path as macros write it: keywords joined by '/'.
 std::string toString(const StylePath& path);

@@ -1,0 +1,242 @@
+// Puts the parts of the host together.
+#include "host/core/Application.h"
+
+#include "host/core/HostError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace corvane::host {
+
+namespace {
+
+/// Never destroyed: add-ons may ask for the application when the process ends.
+std::vector<Application*>& alive() {
+    static auto* applications = new std::vector<Application*>;
+    return *applications;
+}
+
+/// A page that is not shown yet has no work area; a frame needs an extent all the same.
+Placement firstPlacement(const Page& page) {
+    const Placement area = page.regionOf(ExportRegion_WorkArea);
+    return area.width > 0.0 && area.height > 0.0 ? area : Placement{};
+}
+
+std::string textOf(const std::exception& error) {
+    const std::string text = error.what();
+    return text.empty() ? "The add-on failed without telling why." : text;
+}
+
+} // namespace
+
+Application::Application(Ports ports)
+    : m_ports(ports),
+      m_drawing(m_page, m_locks, ports.renderer, ports.screen, ports.idleTimer),
+      m_idle(ports.idleTimer),
+      m_status(ports.status),
+      m_exporter(m_page, m_exportSetup, m_drawing, ports.renderer, ports.movies),
+      m_macros(*this) {
+    bindApplicationStyles();
+    m_idle.caller = [this](const auto& work) { callAndReport("idle work", work); };
+    m_stateChanges.caller = [this](const auto& work) { callAndReport("state change", work); };
+    m_status.hasFailed = [this] { return m_exporter.isRecording() && m_exporter.hasFailed(); };
+    alive().push_back(this);
+}
+
+Application::~Application() {
+    std::erase(alive(), this);
+}
+
+Application* Application::current() {
+    return alive().empty() ? nullptr : alive().back();
+}
+
+void Application::bindApplicationStyles() {
+    StyleLeaf displayLists;
+    displayLists.path = {"Interface", "UseDisplayLists"};
+    displayLists.target = &m_useDisplayLists;
+    displayLists.effect = StyleEffect::None;
+    m_styles.bind(std::move(displayLists));
+    bindExportSetup(m_styles, m_exportSetup, [this] { return !m_exporter.isRecording(); });
+}
+
+Frame* Application::spatialFrame() const {
+    Frame* frame = m_page.current();
+    return frame != nullptr && frame->plotType == PlotType_Cartesian3D ? frame : nullptr;
+}
+
+const StyleTree* Application::treeFor(const StylePath& path) const {
+    if (!path.empty() && (equalIgnoringCase(path.front(), "ExportSetup") ||
+                          equalIgnoringCase(path.front(), "Interface"))) {
+        return &m_styles;
+    }
+    const Frame* frame = spatialFrame();
+    return frame != nullptr ? &frame->styles() : nullptr;
+}
+
+const StyleLeaf* Application::findStyle(const StylePath& path) const {
+    const StyleTree* tree = treeFor(path);
+    return tree != nullptr ? tree->find(path) : nullptr;
+}
+
+StyleSetResult_e Application::setStyle(const StylePath& path, const StyleInput& value) {
+    const StyleTree* tree = treeFor(path);
+    if (tree == nullptr) {
+        return StyleSet_NotAllowed;
+    }
+    const StyleLeaf* leaf = tree->find(path);
+    if (leaf == nullptr) {
+        return StyleSet_BadPath;
+    }
+    const StyleSetResult_e result = StyleTree::set(*leaf, value);
+    if (result == StyleSet_Ok) {
+        announce(leaf->effect);
+    }
+    return result;
+}
+
+StyleGetResult_e Application::getStyle(const StylePath& path, StyleInput& value) const {
+    const StyleTree* tree = treeFor(path);
+    if (tree == nullptr) {
+        return StyleGet_NotAvailable;
+    }
+    std::optional<StyleInput> found = tree->get(path);
+    if (!found) {
+        return StyleGet_BadPath;
+    }
+    value = std::move(*found);
+    return StyleGet_Ok;
+}
+
+void Application::announce(StyleEffect effect) {
+    switch (effect) {
+    case StyleEffect::View:
+        pageChanged(StateChange_ViewChanged);
+        break;
+    case StyleEffect::Picture:
+        pageChanged(StateChange_StyleChanged);
+        break;
+    case StyleEffect::None:
+        m_stateChanges.notify(StateChange_StyleChanged);
+        break;
+    }
+}
+
+void Application::openData(const std::vector<std::string>& files) {
+    std::shared_ptr<const DataSet> data = m_ports.reader.read(files);
+    if (m_page.active() == nullptr) {
+        m_page.createFrame(firstPlacement(m_page));
+        pageChanged(StateChange_FrameCreated);
+    }
+    Frame& frame = *m_page.active();
+    frame.attachData(std::move(data));
+    chooseDefaultPlots(frame);
+    pageChanged(StateChange_DataSetAttached);
+}
+
+bool Application::setSolutionTime(double time) {
+    Frame* frame = m_page.current();
+    if (frame == nullptr || !frame->data() || !std::isfinite(time)) {
+        return false;
+    }
+    if (frame->solutionTime != time) {
+        frame->solutionTime = time;
+        pageChanged(StateChange_SolutionTimeChanged);
+    }
+    return true;
+}
+
+bool Application::rotateView(RotateAxis_e axis, double degrees) {
+    Frame* frame = spatialFrame();
+    const bool isKnown =
+        axis == RotateAxis_Psi || axis == RotateAxis_Theta || axis == RotateAxis_Alpha;
+    if (frame == nullptr || !isKnown || !std::isfinite(degrees)) {
+        return false;
+    }
+    const View3D before = frame->view;
+    rotate(frame->view, axis, degrees);
+    announceIfMoved(*frame, before);
+    return true;
+}
+
+bool Application::fitView() {
+    Frame* frame = spatialFrame();
+    if (frame == nullptr || !frame->data() || frame->data()->bounds.isEmpty()) {
+        return false;
+    }
+    const View3D before = frame->view;
+    fit(frame->view, frame->data()->bounds, frame->placement.aspect());
+    announceIfMoved(*frame, before);
+    return true;
+}
+
+void Application::announceIfMoved(const Frame& frame, const View3D& before) {
+    if (frame.view != before) {
+        pageChanged(StateChange_ViewChanged);
+    }
+}
+
+bool Application::setPlotType(PlotType_e type) {
+    Frame* frame = m_page.current();
+    if (frame == nullptr) {
+        return false;
+    }
+    if (frame->plotType != type) {
+        frame->plotType = type;
+        pageChanged(StateChange_PlotTypeChanged);
+    }
+    return true;
+}
+
+void Application::pageChanged(StateChange_e change) {
+    m_drawing.mark();
+    m_stateChanges.notify(change);
+}
+
+std::string Application::callAddOn(const std::string& what, const std::function<void()>& call) {
+    const Locks::Snapshot locks = m_locks.snapshot();
+    const int suspensions = m_drawing.suspensions();
+    std::string error;
+    try {
+        call();
+        if (m_locks.snapshot() != locks) {
+            m_trace.misuse("The number of locks held is not the same before and after: " + what);
+        }
+        return error;
+    } catch (const std::exception& thrown) {
+        error = textOf(thrown);
+    } catch (...) {
+        error = "The add-on failed for an unknown reason.";
+    }
+    m_locks.restore(locks);
+    m_drawing.restoreSuspensions(suspensions);
+    return error;
+}
+
+void Application::callAndReport(const char* what, const std::function<void()>& call) {
+    const std::string error = callAddOn(what, call);
+    if (!error.empty()) {
+        m_ports.dialogs.showError(error);
+    }
+}
+
+void Application::onIdle() {
+    m_idle.run();
+    try {
+        m_drawing.drawIfDue();
+    } catch (const HostError& error) {
+        m_ports.dialogs.showError(error.what());
+    }
+}
+
+void Application::quit() {
+    if (std::exchange(m_hasQuit, true)) {
+        return;
+    }
+    m_stateChanges.notify(StateChange_HostQuit);
+    m_idle.close();
+    m_drawing.restoreSuspensions(0);
+}
+
+} // namespace corvane::host

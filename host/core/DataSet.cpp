@@ -1,0 +1,67 @@
+// Looks up variables, and the zones of a solution time.
+#include "host/core/DataSet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace corvane::host {
+
+namespace {
+
+constexpr double timeTolerance = 1e-9; ///< relative
+
+bool isReached(double zoneTime, double solutionTime) {
+    const double scale = std::max(std::abs(zoneTime), std::abs(solutionTime));
+    return zoneTime <= solutionTime + timeTolerance * scale;
+}
+
+/// Whether a zone shows its strand better than the one chosen so far: the latest of those that are
+/// reached, else the earliest.
+bool isBetter(const Zone& zone, const Zone& chosen, double solutionTime) {
+    const bool chosenReached = isReached(chosen.solutionTime, solutionTime);
+    if (isReached(zone.solutionTime, solutionTime)) {
+        return !chosenReached || zone.solutionTime > chosen.solutionTime;
+    }
+    return !chosenReached && zone.solutionTime < chosen.solutionTime;
+}
+
+} // namespace
+
+const Variable* DataSet::findVariable(const std::string& name) const {
+    const auto found = std::find_if(variables.begin(), variables.end(),
+                                    [&name](const Variable& v) { return v.name == name; });
+    return found == variables.end() ? nullptr : &*found;
+}
+
+bool DataSet::isTransient() const {
+    return std::any_of(zones.begin(), zones.end(),
+                       [](const Zone& zone) { return zone.enabled && zone.strand > 0; });
+}
+
+std::vector<int> zonesAtTime(const DataSet& data, double solutionTime) {
+    std::vector<int> chosen;
+    std::unordered_map<long, std::size_t> placeOfStrand; // in chosen
+    for (std::size_t i = 0; i < data.zones.size(); ++i) {
+        const Zone& zone = data.zones[i];
+        if (!zone.enabled) {
+            continue;
+        }
+        const int index = static_cast<int>(i);
+        if (zone.strand <= 0) {
+            chosen.push_back(index);
+            continue;
+        }
+        const auto [place, isNew] = placeOfStrand.try_emplace(zone.strand, chosen.size());
+        if (isNew) {
+            chosen.push_back(index);
+        } else if (int& best = chosen[place->second];
+                   isBetter(zone, data.zones[static_cast<std::size_t>(best)], solutionTime)) {
+            best = index;
+        }
+    }
+    std::sort(chosen.begin(), chosen.end());
+    return chosen;
+}
+
+} // namespace corvane::host

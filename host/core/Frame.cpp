@@ -1,0 +1,21 @@
+// Frames and the data they show.
+#include "host/core/Frame.h"
+
+#include "host/core/FrameStyles.h"
+
+#include <utility>
+
+namespace corvane::host {
+
+Frame::Frame(long id, Placement where) : placement(where), m_id(id) {
+    bindViewStyles(m_styles, view);
+    bindPlotStyles(m_styles, style);
+}
+
+void Frame::attachData(std::shared_ptr<const DataSet> data) {
+    m_data = std::move(data);
+    style.surfaces.assign(m_data ? m_data->blocks.size() : 0, SurfaceStyle{});
+    bindSurfaceStyles(m_styles, style.surfaces);
+}
+
+} // namespace corvane::host

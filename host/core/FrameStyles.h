@@ -1,0 +1,20 @@
+// The paths under which the values of a frame are reached.
+#pragma once
+
+#include "host/core/FrameStyle.h"
+#include "host/core/StyleTree.h"
+#include "host/core/View3D.h"
+
+namespace corvane::host {
+
+/// "ThreeDView" …: writes have the effect View.
+void bindViewStyles(StyleTree& tree, View3D& view);
+
+/// All paths outside of the view but "Surface" n.
+void bindPlotStyles(StyleTree& tree, FrameStyle& style);
+
+/// "Surface" n for each of the surfaces, n from 1 on; replaces the ones bound before. To be called
+/// again whenever the vector was resized.
+void bindSurfaceStyles(StyleTree& tree, std::vector<SurfaceStyle>& surfaces);
+
+} // namespace corvane::host
