@@ -11,9 +11,7 @@ CorBool CorUtilOnIdleQueueAddCallback(CorOnIdleCallback f, long clientData) {
         if (!f) {
             return call.misuse("f is NULL");
         }
-        app.idle().add([&app, f, clientData] {
-            app.callAddOn("idle callback", [f, clientData] { f(clientData); });
-        });
+        app.idle().add([f, clientData] { f(clientData); });
         // A queue that was closed drops what it is given.
         return !app.idle().isEmpty();
     });

@@ -1,6 +1,7 @@
 // Macro commands of add-ons, and recording.
 #include "hostapi/CorMacro.h"
 
+#include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
 #include "hostapi/CorMemory.h"
 
@@ -14,20 +15,21 @@ std::string withoutTrailingBlanks(const std::string& text) {
     return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
 }
 
-/// What went wrong, or nothing.
+/// What went wrong, which may be empty, or nothing.
 std::optional<std::string> runCommand(Application& app, const std::string& macroName,
                                       CorMacroCommandCallback callback,
                                       const std::string& command) {
     std::string copy = withoutTrailingBlanks(command);
     char* message = nullptr;
     bool succeeded = false;
-    std::string failure = app.callAddOn(
+    const std::string thrown = app.callAddOn(
         "command of " + macroName, [&] { succeeded = callback(copy.data(), &message) != FALSE; });
-    if (failure.empty() && !succeeded) {
-        failure = message && *message ? message : "The command failed.";
-    }
+    const std::string reported = textOf(message);
     CorUtilStringDealloc(&message);
-    return failure.empty() ? std::nullopt : std::optional(std::move(failure));
+    if (thrown.empty() && succeeded) {
+        return std::nullopt;
+    }
+    return thrown.empty() ? reported : thrown;
 }
 
 } // namespace

@@ -1,0 +1,39 @@
+// A small data set without a file.
+#include "tests/support/MemoryData.h"
+
+#include <utility>
+
+namespace corvane::test {
+
+namespace {
+
+std::shared_ptr<host::DataSet> makeData(std::vector<std::string> files) {
+    auto data = std::make_shared<host::DataSet>();
+    data->files = std::move(files);
+    data->variables = {{.name = "pressure", .components = 1, .minimum = 0.0, .maximum = 1.0},
+                       {.name = "velocity", .components = 3, .minimum = 0.0, .maximum = 2.0}};
+    data->bounds.add({0.0, 0.0, 0.0});
+    data->bounds.add({1.0, 2.0, 3.0});
+    return data;
+}
+
+} // namespace
+
+std::shared_ptr<host::DataSet> makeTransientData(std::vector<std::string> files) {
+    auto data = makeData(std::move(files));
+    data->blocks = {{.name = "flow", .dimension = 3}, {.name = "body", .dimension = 2}};
+    for (const double time : {0.0, 1.0, 2.0}) {
+        data->zones.push_back({.block = 0, .solutionTime = time, .strand = 1});
+    }
+    data->zones.push_back({.block = 1});
+    return data;
+}
+
+std::shared_ptr<host::DataSet> makeStaticData(std::vector<std::string> files) {
+    auto data = makeData(std::move(files));
+    data->blocks = {{.name = "body", .dimension = 2}};
+    data->zones = {{.block = 0}};
+    return data;
+}
+
+} // namespace corvane::test

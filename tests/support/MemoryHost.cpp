@@ -1,0 +1,116 @@
+// The host of the tests: the real core and C operations, with everything outside in memory.
+#include "tests/support/MemoryHost.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace corvane::test {
+
+MemoryHost::MemoryHost(Empty)
+    : m_app(std::make_unique<host::Application>(host::Ports{.renderer = m_renderer,
+                                                            .reader = m_reader,
+                                                            .movies = m_movies,
+                                                            .status = m_status,
+                                                            .dialogs = m_dialogs,
+                                                            .screen = &m_renderer,
+                                                            .idleTimer = &m_idleTimer})) {
+    host::CallTrace& trace = m_app->trace();
+    trace.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
+    trace.onMisuse = [this](const std::string& what) { m_misuse.push_back(what); };
+    trace.onEnter = [this](const char* operation, bool hasResult) {
+        return m_script.mayProceed(operation, hasResult);
+    };
+}
+
+MemoryHost::MemoryHost() : MemoryHost(Empty{}) {
+    addFrame();
+}
+
+MemoryHost::~MemoryHost() = default;
+
+host::Frame& MemoryHost::frame() {
+    host::Frame* const active = m_app->page().active();
+    if (active == nullptr) {
+        throw std::logic_error("The page has no frame.");
+    }
+    return *active;
+}
+
+host::Frame& MemoryHost::addFrame(host::Placement placement) {
+    host::Frame& added = m_app->page().createFrame(placement);
+    added.attachData(makeTransientData());
+    host::chooseDefaultPlots(added);
+    return added;
+}
+
+void MemoryHost::setData(std::shared_ptr<const host::DataSet> data) {
+    const bool isAttached = data != nullptr;
+    frame().attachData(std::move(data));
+    m_app->pageChanged(isAttached ? StateChange_DataSetAttached : StateChange_DataSetRemoved);
+}
+
+void MemoryHost::setPlotType(PlotType_e type) {
+    frame();
+    m_app->setPlotType(type);
+}
+
+std::vector<std::string> MemoryHost::callsOf(std::string_view prefix) const {
+    std::vector<std::string> calls;
+    for (const host::TraceRecord& record : m_records) {
+        if (record.call.starts_with(prefix)) {
+            calls.push_back(record.call);
+        }
+    }
+    return calls;
+}
+
+std::size_t MemoryHost::count(std::string_view operation) const {
+    return callsOf(std::string(operation) + '(').size();
+}
+
+void MemoryHost::failNext(const std::string& operation, std::size_t n) {
+    m_script.failNext(operation, n);
+}
+
+void MemoryHost::throwAt(const std::string& operation, std::size_t k) {
+    m_script.throwAt(operation, k);
+}
+
+bool MemoryHost::isExpected(const std::string& misuse) const {
+    return std::any_of(
+        m_expectedMisuse.begin(), m_expectedMisuse.end(),
+        [&](const std::string& part) { return misuse.find(part) != std::string::npos; });
+}
+
+std::vector<std::string> MemoryHost::leftBehind() const {
+    std::vector<std::string> findings = m_script.unmet();
+    for (const std::string& misuse : m_misuse) {
+        if (!isExpected(misuse)) {
+            findings.push_back("misuse: " + misuse);
+        }
+    }
+    for (const std::string& part : m_expectedMisuse) {
+        const auto holdsPart = [&](const std::string& misuse) {
+            return misuse.find(part) != std::string::npos;
+        };
+        if (std::none_of(m_misuse.begin(), m_misuse.end(), holdsPart)) {
+            findings.push_back("no misuse although it was expected: " + part);
+        }
+    }
+    if (m_app->locks().depth() != 0) {
+        findings.push_back("locks held: " + std::to_string(m_app->locks().depth()));
+    }
+    if (m_app->drawing().suspensions() != 0) {
+        findings.push_back("drawing suspended: " + std::to_string(m_app->drawing().suspensions()));
+    }
+    if (m_app->status().isActive()) {
+        findings.push_back("the percent-done display is open");
+    }
+    if (m_app->exporter().isRecording()) {
+        findings.push_back("a movie is being recorded");
+    }
+    return findings;
+}
+
+} // namespace corvane::test

@@ -1,0 +1,114 @@
+// The host of the tests: the real core and C operations, with everything outside in memory.
+#pragma once
+
+#include "host/core/Application.h"
+#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryMovies.h"
+#include "tests/support/MemoryReader.h"
+#include "tests/support/MemoryRenderer.h"
+#include "tests/support/ScriptedCalls.h"
+#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ScriptedStatus.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvane::test {
+
+/// One per test. The C operations reach it while it lives, and every call of them is remembered.
+///
+///     MemoryHost host;
+///     CorUtilDrawGraphics(FALSE);
+///     EXPECT_THAT(host.calls(), ElementsAre("CorUtilDrawGraphics(FALSE)"));
+class MemoryHost {
+public:
+    struct Empty {}; ///< no frame and no data, as when the add-on is loaded
+
+    /// One active 3D frame of 8 by 4.5 inches with the data of makeTransientData, at time 0.
+    /// Nothing is drawn, marked for drawing, or remembered as a call yet.
+    MemoryHost();
+    explicit MemoryHost(Empty);
+    ~MemoryHost();
+    MemoryHost(const MemoryHost&) = delete;
+    MemoryHost& operator=(const MemoryHost&) = delete;
+
+    host::Application& app() { return *m_app; }
+    MemoryRenderer& renderer() { return m_renderer; }
+    MemoryMovies& movies() { return m_movies; }
+    MemoryReader& reader() { return m_reader; }
+    ScriptedStatus& status() { return m_status; }
+    ScriptedDialogs& dialogs() { return m_dialogs; }
+
+    /// The active frame; there must be one.
+    host::Frame& frame();
+    /// Adds a frame on top, with data and a view that shows them, and makes it active. Tells
+    /// nobody.
+    host::Frame& addFrame(host::Placement placement = {});
+    /// Both tell the listeners. No data (null) is allowed.
+    void setData(std::shared_ptr<const host::DataSet> data);
+    void setPlotType(PlotType_e type);
+
+    /// What the event loop does when nothing is pending.
+    void runIdle() { m_app->onIdle(); }
+    /// How often the host asked for idle time.
+    std::size_t idleRequests() const { return m_idleTimer.requests; }
+
+    /// The calls so far, in the order in which they returned, without results and lock depths:
+    /// CorUtilDrawGraphics(FALSE). Building argument lists and strings is left out, as in the
+    /// trace, and so is a call that threw.
+    std::vector<std::string> calls() const { return callsOf(""); }
+    const std::vector<host::TraceRecord>& records() const { return m_records; }
+    /// Of operations whose name begins so.
+    std::vector<std::string> callsOf(std::string_view prefix) const;
+    /// Of this very operation.
+    std::size_t count(std::string_view operation) const;
+    void clearCalls() { m_records.clear(); }
+
+    /// The next n calls of the operation answer their failure and do nothing. An operation without
+    /// a result does nothing then.
+    void failNext(const std::string& operation, std::size_t n = 1);
+    /// The k-th call from now (1 = the next one) of the operation does nothing but throw
+    /// std::runtime_error, which the real host never does.
+    void throwAt(const std::string& operation, std::size_t k = 1);
+    /// The k-th call from now of all operations that have a result answers its failure. For sweeps:
+    ///     for (std::size_t k = 1;; ++k) { MemoryHost host; host.failAt(k); …
+    ///         if (!host.hasFailedAt()) break; }
+    void failAt(std::size_t k) { m_script.failAt(k); }
+    bool hasFailedAt() const { return m_script.hasFailedAt(); }
+    /// The user stops at the n-th time from now that the host asks (1 = the next one).
+    void stopAtCheck(std::size_t n) { m_status.stopAtCheck(n); }
+
+    /// What the caller did wrong and the host ignored.
+    const std::vector<std::string>& misuse() const { return m_misuse; }
+    /// Misuse with this text in it is part of the test; without it the test fails.
+    void expectMisuse(std::string part = {}) { m_expectedMisuse.push_back(std::move(part)); }
+
+    /// What an add-on must not leave behind, as sentences: unexpected misuse, locks, suspended
+    /// drawing, an open percent-done display, a movie being recorded, scripted failures that never
+    /// came.
+    std::vector<std::string> leftBehind() const;
+
+private:
+    struct CountingTimer : host::IdleTimer {
+        void requestIdle() override { ++requests; }
+        std::size_t requests = 0;
+    };
+    bool isExpected(const std::string& misuse) const;
+
+    MemoryRenderer m_renderer;
+    MemoryMovies m_movies;
+    MemoryReader m_reader;
+    ScriptedStatus m_status;
+    ScriptedDialogs m_dialogs;
+    CountingTimer m_idleTimer;
+    ScriptedCalls m_script;
+    std::vector<host::TraceRecord> m_records;
+    std::vector<std::string> m_misuse;
+    std::vector<std::string> m_expectedMisuse;
+    std::unique_ptr<host::Application> m_app;
+};
+
+} // namespace corvane::test

@@ -1,0 +1,60 @@
+// Which calls of the host are to fail.
+#include "tests/support/ScriptedCalls.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace corvane::test {
+
+void ScriptedCalls::failNext(std::string operation, std::size_t n) {
+    m_entries.push_back({std::move(operation), 0, n, false, false});
+}
+
+void ScriptedCalls::throwAt(std::string operation, std::size_t k) {
+    m_entries.push_back({std::move(operation), k - 1, 1, true, false});
+}
+
+void ScriptedCalls::failAt(std::size_t k) {
+    m_failAt = k;
+}
+
+bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
+    if (hasResult && m_failAt > 0 && --m_failAt == 0) {
+        return false;
+    }
+    bool proceeds = true;
+    for (Entry& entry : m_entries) {
+        if (entry.operation == operation) {
+            proceeds = apply(entry) && proceeds;
+        }
+    }
+    return proceeds;
+}
+
+bool ScriptedCalls::apply(Entry& entry) {
+    if (entry.before > 0) {
+        --entry.before;
+        return true;
+    }
+    if (entry.count == 0) {
+        return true;
+    }
+    --entry.count;
+    entry.wasMet = true;
+    if (entry.throws) {
+        throw std::runtime_error(entry.operation + " threw");
+    }
+    return false;
+}
+
+std::vector<std::string> ScriptedCalls::unmet() const {
+    std::vector<std::string> sentences;
+    for (const Entry& entry : m_entries) {
+        if (!entry.wasMet) {
+            sentences.push_back(entry.operation + " was to fail and was not called");
+        }
+    }
+    return sentences;
+}
+
+} // namespace corvane::test
