@@ -34,6 +34,24 @@ const Variable* DataSet::findVariable(const std::string& name) const {
     return found == variables.end() ? nullptr : &*found;
 }
 
+const Variable* DataSet::findVector(const std::string& name) const {
+    const Variable* variable = findVariable(name);
+    return variable != nullptr && variable->components == 3 ? variable : nullptr;
+}
+
+bool DataSet::hasQuantity(const std::string& name) const {
+    if (findVariable(name) != nullptr) {
+        return true;
+    }
+    const std::size_t colon = name.rfind(':');
+    if (colon == std::string::npos) {
+        return false;
+    }
+    const std::string component = name.substr(colon + 1);
+    return (component == "X" || component == "Y" || component == "Z") &&
+           findVector(name.substr(0, colon)) != nullptr;
+}
+
 bool DataSet::isTransient() const {
     return std::any_of(zones.begin(), zones.end(),
                        [](const Zone& zone) { return zone.enabled && zone.strand > 0; });

@@ -45,6 +45,10 @@ public:
     Bounds bounds; ///< of all blocks, at the first solution time
 
     const Variable* findVariable(const std::string& name) const;
+    const Variable* findVector(const std::string& name) const; ///< with three components
+    /// Whether plots can be coloured by this: the name of an array, or "name:X", "name:Y", "name:Z"
+    /// of a vector.
+    bool hasQuantity(const std::string& name) const;
     bool isTransient() const; ///< an enabled zone has a strand
 };
 

@@ -146,6 +146,9 @@ Bounds finiteBounds(const Bounds& bounds) {
 
 } // namespace
 
+/// Volumes show one slice through the centre, across the shortest extent, and their outline; of
+/// anything else the cells themselves are shown. Colours follow the length of the first vector, else
+/// the first scalar. What is not shown is set to values that make sense once it is.
 void chooseDefaultPlots(Frame& frame) {
     if (!frame.data()) {
         return;

@@ -130,6 +130,9 @@ bool Exporter::guarded(void (Exporter::*step)()) {
     } catch (const std::exception& error) {
         m_failure = error.what();
     } catch (...) {
+        m_failure.clear();
+    }
+    if (m_failure.empty()) {
         m_failure = "The movie could not be written for an unknown reason.";
     }
     return false;

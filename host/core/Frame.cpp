@@ -9,7 +9,13 @@ namespace corvane::host {
 
 Frame::Frame(long id, Placement where) : placement(where), m_id(id) {
     bindViewStyles(m_styles, view);
-    bindPlotStyles(m_styles, style);
+    const auto isQuantity = [this](const std::string& name) {
+        return name.empty() || !m_data || m_data->hasQuantity(name);
+    };
+    const auto isVector = [this](const std::string& name) {
+        return name.empty() || !m_data || m_data->findVector(name) != nullptr;
+    };
+    bindPlotStyles(m_styles, style, isQuantity, isVector);
 }
 
 void Frame::attachData(std::shared_ptr<const DataSet> data) {

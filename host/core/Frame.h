@@ -56,8 +56,9 @@ private:
     StyleTree m_styles;
 };
 
-/// Plots that show something of data nobody described: see the definition for the rules. Sets
-/// style, view and solution time (the first one) of the frame from its data.
+/// Plots that show something of data nobody described; DefaultPlots.cpp holds the rules. Sets
+/// style, view and solution time (the first one) of the frame from its data; light, background and
+/// orientation axis, which are a matter of taste, stay. Without data nothing changes.
 void chooseDefaultPlots(Frame& frame);
 
 } // namespace corvane::host

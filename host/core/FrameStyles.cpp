@@ -26,6 +26,11 @@ public:
         bound.choices = std::move(choices);
         bind(std::move(bound));
     }
+    void name(const std::string& keyword, std::string& value, const NameCheck& accepts) const {
+        StyleLeaf bound = leaf(keyword, &value);
+        bound.accepts = accepts;
+        bind(std::move(bound));
+    }
     void integer(const std::string& keyword, int& value, int minimum, int maximum) const {
         bind(ranged(leaf(keyword, &value), minimum, maximum));
     }
@@ -78,9 +83,9 @@ private:
     StyleEffect m_effect;
 };
 
-void bindContour(StyleTree& tree, ContourStyle& contour) {
+void bindContour(StyleTree& tree, ContourStyle& contour, const NameCheck& isQuantity) {
     const Group group(tree, {"Contour"});
-    group.text("Variable", contour.variable);
+    group.name("Variable", contour.variable, isQuantity);
     group.flag("AutomaticRange", contour.automaticRange);
     group.number("Minimum", contour.minimum);
     group.number("Maximum", contour.maximum);
@@ -105,19 +110,19 @@ void bindSlice(const Group& group, SliceStyle& slice) {
     group.number("Opacity", slice.opacity, 0.0, 1.0);
 }
 
-void bindIsoSurface(const Group& group, IsoSurfaceStyle& surface) {
+void bindIsoSurface(const Group& group, IsoSurfaceStyle& surface, const NameCheck& isQuantity) {
     group.flag("Show", surface.show);
-    group.text("Variable", surface.variable);
+    group.name("Variable", surface.variable, isQuantity);
     group.number("Value", surface.value);
     group.flag("UseContour", surface.useContour);
     group.color("Color", surface.color);
     group.number("Opacity", surface.opacity, 0.0, 1.0);
 }
 
-void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces) {
+void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces, const NameCheck& isVector) {
     const Group group(tree, {"Streamtraces"});
     group.flag("Show", traces.show);
-    group.text("Variable", traces.variable);
+    group.name("Variable", traces.variable, isVector);
     group.integer("SeedKind", traces.seedKind, 1, 2);
     group.point("SeedStart", traces.seedStart);
     group.point("SeedEnd", traces.seedEnd);
@@ -176,13 +181,17 @@ void bindViewStyles(StyleTree& tree, View3D& view) {
     group.point("RotationOrigin", view.rotationOrigin);
 }
 
-void bindPlotStyles(StyleTree& tree, FrameStyle& style) {
+void bindPlotStyles(StyleTree& tree, FrameStyle& style, const NameCheck& isQuantity,
+                    const NameCheck& isVector) {
     bindLight(tree, style.light);
     bindStreamTiming(tree, style.streamTiming);
-    bindContour(tree, style.contour);
+    bindContour(tree, style.contour, isQuantity);
     bindNumbered(Group(tree, {"Slice"}), style.slices, bindSlice);
-    bindNumbered(Group(tree, {"IsoSurface"}), style.isoSurfaces, bindIsoSurface);
-    bindStreamtraces(tree, style.streamtraces);
+    bindNumbered(Group(tree, {"IsoSurface"}), style.isoSurfaces,
+                 [&isQuantity](const Group& group, IsoSurfaceStyle& surface) {
+                     bindIsoSurface(group, surface, isQuantity);
+                 });
+    bindStreamtraces(tree, style.streamtraces, isVector);
     bindAnnotations(tree, style.annotations);
 }
 

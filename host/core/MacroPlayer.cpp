@@ -145,19 +145,6 @@ std::string withoutTrailingBlanks(std::string text) {
     return text;
 }
 
-/// What the command itself reports, or throws.
-std::string errorOf(Application& application, const AddOnCommand& command,
-                    const std::string& text) {
-    std::optional<std::string> reported;
-    const std::string thrown = application.callAddOn(
-        "macro command", [&reported, &command, &text] { reported = command(text); });
-    if (!thrown.empty()) {
-        return thrown;
-    }
-    return reported && reported->empty() ? "The add-on reports a failure without a cause."
-                                         : reported.value_or("");
-}
-
 void runAddOnCommand(Application& application, const Words& words, const std::string& /*folder*/) {
     expect(words.size() == 2, "\"add-on\" \"command\"");
     if (application.status().isActive() || application.exporter().isRecording()) {
@@ -170,13 +157,13 @@ void runAddOnCommand(Application& application, const Words& words, const std::st
     const AddOnCommand command = *found;
     Exporter& exporter = application.exporter();
     exporter.forgetFailure();
-    const std::string error = errorOf(application, command, withoutTrailingBlanks(words[1]));
+    const std::optional<std::string> error = command(withoutTrailingBlanks(words[1]));
     // The add-on knows only that it was stopped; the exporter knows why.
     if (exporter.hasFailed()) {
         throw HostError(exporter.failure());
     }
-    if (!error.empty()) {
-        throw HostError(error);
+    if (error) {
+        throw HostError(*error);
     }
 }
 

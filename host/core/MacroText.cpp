@@ -29,9 +29,18 @@ std::string trimmed(const std::string& text) {
     return first < last ? std::string(first, last) : std::string();
 }
 
+/// Whether a byte belongs to a UTF-8 character that began before it.
+bool isContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xc0U) == 0x80U;
+}
+
 /// Part of a line that does no harm in a terminal, whatever file it comes from.
 std::string shown(const std::string& text) {
-    std::string result = text.substr(0, longestShown);
+    std::size_t size = std::min(text.size(), longestShown);
+    while (size > 0 && size < text.size() && isContinuation(text[size])) {
+        --size;
+    }
+    std::string result = text.substr(0, size);
     std::replace_if(
         result.begin(), result.end(),
         [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }, '?');

@@ -9,7 +9,8 @@
 
 namespace corvane::host {
 
-/// Runs one add-on command. Nothing: it succeeded; else what went wrong.
+/// Runs one add-on command, behind the exception wall of Application::callAddOn. Nothing: it
+/// succeeded; else what went wrong.
 using AddOnCommand = std::function<std::optional<std::string>(const std::string& command)>;
 
 class AddOnCommands {

@@ -84,7 +84,7 @@ struct Writer {
     }
     StyleSetResult_e operator()(std::string* target) const {
         const std::string* value = std::get_if<std::string>(&input);
-        if (value == nullptr) {
+        if (value == nullptr || (leaf.accepts && !leaf.accepts(*value))) {
             return StyleSet_BadValue;
         }
         if (leaf.choices.empty()) {

@@ -29,8 +29,9 @@ struct StyleLeaf {
     double minimum = -std::numeric_limits<double>::max(); ///< numbers outside are refused
     double maximum = std::numeric_limits<double>::max();
     StyleEffect effect = StyleEffect::Picture;
-    std::function<bool()> isAllowed;  ///< empty: always
-    std::vector<std::string> choices; ///< texts a text leaf may take; empty: any
+    std::function<bool()> isAllowed;                 ///< empty: always
+    std::vector<std::string> choices;                ///< texts a text leaf may take; empty: any
+    std::function<bool(const std::string&)> accepts; ///< asked before a text is written; empty: any
 };
 
 /// An index from paths to values that live elsewhere, in plain structs. The structs must outlive
