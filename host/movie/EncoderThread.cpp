@@ -44,6 +44,11 @@ void EncoderThread::finish() {
     m_sink->finish();
 }
 
+std::size_t EncoderThread::waiting() const {
+    const std::lock_guard lock(m_mutex);
+    return m_waiting.size();
+}
+
 void EncoderThread::join() {
     {
         const std::lock_guard lock(m_mutex);

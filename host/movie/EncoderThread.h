@@ -28,6 +28,9 @@ public:
     void add(host::Picture picture) override;
     void finish() override;
 
+    /// Pictures that wait just now; for any thread.
+    std::size_t waiting() const;
+
 private:
     void run();
     bool takeNext(host::Picture& picture);

@@ -1,0 +1,81 @@
+// Movies in the ways that a libav without x264 leaves.
+#include "host/movie/MovieFile.h"
+
+#include "host/core/HostError.h"
+#include "host/movie/LibavLog.h"
+#include "host/movie/Mpeg4Format.h"
+#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/movie/TestFolder.h"
+#include "tests/unit/movie/TestMovie.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace corvane::movie_test {
+namespace {
+
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+class MovieFile : public testing::Test {
+protected:
+    MovieFile() { movie::captureLibavLog(); }
+
+    std::string path() const { return m_folder.path("movie.mp4"); }
+
+    TestFolder m_folder;
+    movie::MovieFormat m_format = movie::mpeg4Format();
+};
+
+TEST_F(MovieFile, usesTheNextEncoderWhereTheFirstIsMissing) {
+    m_format.encoders.front().encoder = "an encoder that nobody has";
+    movie::MovieFile file(movieRequest(path(), 321, 240, 29.97), m_format);
+    for (int n = 0; n < 40; ++n)
+        file.write(movingPicture(321, 240, n));
+    file.finish();
+
+    const DecodedMovie movie(path());
+    EXPECT_EQ(movie.codec, "mpeg4");
+    EXPECT_EQ(movie.width, 322);
+    EXPECT_EQ(movie.rateNumerator, 2997);
+    EXPECT_EQ(movie.rateDenominator, 100);
+    const auto pictures = movie.pictures();
+    ASSERT_EQ(pictures.size(), 40U);
+    for (int n = 0; n < 40; ++n)
+        EXPECT_GE(psnr(cropped(pictures[static_cast<std::size_t>(n)], 321, 240),
+                       movingPicture(321, 240, n)),
+                  30.0);
+}
+
+TEST_F(MovieFile, takesTheSlowestAndTheFastestSpeedWithTheNextEncoder) {
+    m_format.encoders.erase(m_format.encoders.begin());
+    for (const double speed : {0.001, 199.999, 200.0}) {
+        movie::MovieFile file(movieRequest(path(), 64, 48, speed), m_format);
+        file.write(movingPicture(64, 48, 0));
+        file.write(movingPicture(64, 48, 1));
+        file.finish();
+        EXPECT_NEAR(DecodedMovie(path()).duration * speed, 2.0, 0.01);
+    }
+}
+
+TEST_F(MovieFile, saysWhichEncoderIsMissing) {
+    m_format.encoders.resize(1);
+    m_format.encoders.front().encoder = "an encoder that nobody has";
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+                ThrowsMessage<host::HostError>(HasSubstr("an encoder that nobody has")));
+}
+
+TEST_F(MovieFile, refusesOptionsThatWouldHaveNoEffect) {
+    m_format.encoders.front().options.emplace_back("sharpness", "11");
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+                ThrowsMessage<host::HostError>(HasSubstr("sharpness")));
+}
+
+TEST_F(MovieFile, passesOnWhatTheEncoderSays) {
+    m_format.encoders.front().options = {{"preset", "leisurely"}};
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+                ThrowsMessage<host::HostError>(HasSubstr("leisurely")));
+}
+
+} // namespace
+} // namespace corvane::movie_test

@@ -1,0 +1,161 @@
+// Pictures made for movies, and movies made of them.
+#include "tests/unit/movie/TestMovie.h"
+
+#include "host/movie/LibavMovieWriters.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+
+namespace corvane::movie_test {
+
+namespace {
+
+std::uint8_t* pixel(host::Picture& picture, int x, int y) {
+    return picture.rgba.data() + 4 * (std::ptrdiff_t{y} * picture.width + x);
+}
+
+void paint(host::Picture& picture, int x, int y, const Color& color) {
+    if (x < 0 || y < 0 || x >= picture.width || y >= picture.height)
+        return;
+    std::copy(color.begin(), color.end(), pixel(picture, x, y));
+}
+
+void paintPatch(host::Picture& picture, int left, int top, int size, const Color& color) {
+    for (int y = top; y < top + size; ++y) {
+        for (int x = left; x < left + size; ++x)
+            paint(picture, x, y, color);
+    }
+}
+
+/// Shading like that of a lit surface, moving to the left.
+void paintShading(host::Picture& picture, int n) {
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            const double across = (x + 4.0 * n) / picture.width;
+            const double down = static_cast<double>(y) / picture.height;
+            const auto level = [](double value) {
+                return static_cast<std::uint8_t>(std::lround(127.5 + 100.0 * value));
+            };
+            paint(picture, x, y,
+                  {level(std::sin(6.0 * across)), level(2.0 * down - 1.0),
+                   level(std::cos(5.0 * (across + down)))});
+        }
+    }
+}
+
+/// Lines one pixel wide: upright, level and oblique ones.
+void paintLines(host::Picture& picture, int n) {
+    const Color white{255, 255, 255};
+    const Color black{0, 0, 0};
+    for (int y = 0; y < picture.height; ++y) {
+        paint(picture, (picture.width / 3 + 2 * n) % picture.width, y, white);
+        paint(picture, y + n, y, black);
+    }
+    for (int x = 0; x < picture.width; ++x)
+        paint(picture, x, (picture.height / 2 + n) % picture.height, white);
+}
+
+} // namespace
+
+host::Picture uniformPicture(int width, int height, const Color& color) {
+    host::Picture picture;
+    picture.width = width;
+    picture.height = height;
+    picture.rgba.assign(4U * static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+                        255);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            paint(picture, x, y, color);
+    }
+    return picture;
+}
+
+host::Picture movingPicture(int width, int height, int n) {
+    host::Picture picture = uniformPicture(width, height, {});
+    paintShading(picture, n);
+    if (width < 32 || height < 32)
+        return picture; // there is no room for more
+    const int size = std::min(width, height) / 8;
+    paintPatch(picture, size + 2 * n, size, size, {255, 0, 0});
+    paintPatch(picture, 3 * size, size + 2 * n, size, {0, 255, 0});
+    paintPatch(picture, 5 * size, 5 * size, size, {0, 0, 255});
+    paintLines(picture, n);
+    return picture;
+}
+
+host::Picture noisyPicture(int width, int height, int n) {
+    host::Picture picture = uniformPicture(width, height, {});
+    std::minstd_rand random(static_cast<unsigned>(n) + 1U);
+    for (std::size_t i = 0; i < picture.rgba.size(); ++i) {
+        if (i % 4 != 3)
+            picture.rgba[i] = static_cast<std::uint8_t>(random() >> 8U);
+    }
+    return picture;
+}
+
+host::MovieRequest movieRequest(const std::string& path, int width, int height,
+                                double framesPerSecond) {
+    host::MovieRequest request;
+    request.path = path;
+    request.width = width;
+    request.height = height;
+    request.framesPerSecond = framesPerSecond;
+    return request;
+}
+
+std::vector<host::Picture> writeMovingMovie(const host::MovieRequest& request, int frames) {
+    std::vector<host::Picture> pictures;
+    movie::LibavMovieWriters writers;
+    const auto writer = writers.open(request);
+    for (int n = 0; n < frames; ++n) {
+        pictures.push_back(movingPicture(request.width, request.height, n));
+        writer->add(pictures.back());
+    }
+    writer->finish();
+    return pictures;
+}
+
+host::Picture cropped(const host::Picture& picture, int width, int height) {
+    host::Picture part;
+    part.width = width;
+    part.height = height;
+    for (int y = 0; y < height; ++y)
+        part.rgba.insert(part.rgba.end(), picture.row(y),
+                         picture.row(y) + std::ptrdiff_t{4} * width);
+    return part;
+}
+
+std::array<double, 3> meanColor(const host::Picture& picture, int x, int y, int width, int height) {
+    std::array<double, 3> sum{};
+    for (int row = y; row < y + height; ++row) {
+        for (int column = x; column < x + width; ++column) {
+            for (std::size_t i = 0; i < 3; ++i)
+                sum[i] += picture.row(row)[4U * static_cast<std::size_t>(column) + i];
+        }
+    }
+    for (double& value : sum)
+        value /= double{1} * width * height;
+    return sum;
+}
+
+std::string topLevelBoxes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string types;
+    std::array<unsigned char, 8> head{};
+    while (file.read(reinterpret_cast<char*>(head.data()), head.size())) {
+        std::uint64_t size = 0;
+        for (std::size_t i = 0; i < 4; ++i)
+            size = size * 256 + head[i];
+        if (size < head.size())
+            throw std::runtime_error("a box of this size is not known here");
+        types += types.empty() ? "" : " ";
+        types.append(head.begin() + 4, head.end());
+        file.seekg(static_cast<std::streamoff>(size - head.size()), std::ios::cur);
+    }
+    return types;
+}
+
+} // namespace corvane::movie_test
