@@ -1,0 +1,134 @@
+// Runs the program as a user does, and keeps what it said.
+#include "tests/app/Program.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <poll.h>
+#include <spawn.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace corvane::test {
+namespace {
+
+constexpr const char* program = CORVANE_BINARY_DIR "/bin/corvane";
+
+struct Pipe {
+    int readEnd = -1;
+    int writeEnd = -1;
+    Pipe() {
+        std::array<int, 2> ends{};
+        if (pipe(ends.data()) != 0) {
+            throw std::runtime_error("no pipe");
+        }
+        readEnd = ends[0];
+        writeEnd = ends[1];
+    }
+};
+
+pid_t spawn(const std::vector<std::string>& arguments, const Pipe& output, const Pipe& errors) {
+    std::vector<char*> argv{const_cast<char*>(program)};
+    for (const std::string& argument : arguments) {
+        argv.push_back(const_cast<char*>(argument.c_str()));
+    }
+    argv.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", 0, 0);
+    posix_spawn_file_actions_adddup2(&actions, output.writeEnd, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, errors.writeEnd, STDERR_FILENO);
+    for (const int end : {output.readEnd, output.writeEnd, errors.readEnd, errors.writeEnd}) {
+        posix_spawn_file_actions_addclose(&actions, end);
+    }
+    pid_t pid = -1;
+    const int failure = posix_spawn(&pid, program, &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    close(output.writeEnd);
+    close(errors.writeEnd);
+    if (failure != 0) {
+        throw std::runtime_error(std::string("cannot start ") + program);
+    }
+    return pid;
+}
+
+// False, and the end closed, when there is nothing more to come.
+bool drain(int& end, std::string& text) {
+    std::array<char, 4096> buffer{};
+    const ssize_t count = read(end, buffer.data(), buffer.size());
+    if (count > 0) {
+        text.append(buffer.data(), static_cast<std::size_t>(count));
+        return true;
+    }
+    close(end);
+    end = -1;
+    return false;
+}
+
+} // namespace
+
+Program::Program(const std::vector<std::string>& arguments) {
+    const Pipe output;
+    const Pipe errors;
+    m_pid = spawn(arguments, output, errors);
+    m_outputPipe = output.readEnd;
+    m_errorPipe = errors.readEnd;
+}
+
+Program::~Program() {
+    if (m_pid > 0) {
+        kill(m_pid, SIGKILL);
+        waitpid(m_pid, nullptr, 0);
+    }
+    for (const int end : {m_outputPipe, m_errorPipe}) {
+        if (end >= 0) {
+            close(end);
+        }
+    }
+}
+
+bool Program::readSome() {
+    std::array<pollfd, 2> ends{pollfd{m_outputPipe, POLLIN, 0}, pollfd{m_errorPipe, POLLIN, 0}};
+    if (m_outputPipe < 0 && m_errorPipe < 0) {
+        return false;
+    }
+    while (poll(ends.data(), ends.size(), -1) < 0 && errno == EINTR) {
+    }
+    if (ends[0].revents != 0) {
+        drain(m_outputPipe, m_result.output);
+    }
+    if (ends[1].revents != 0) {
+        drain(m_errorPipe, m_result.errors);
+    }
+    return true;
+}
+
+bool Program::waitForError(const std::string& text) {
+    while (m_result.errors.find(text) == std::string::npos) {
+        if (!readSome()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Program::signal(int number) const {
+    kill(m_pid, number);
+}
+
+ProgramResult Program::finish() {
+    while (readSome()) {
+    }
+    int status = 0;
+    waitpid(m_pid, &status, 0);
+    m_pid = -1;
+    m_result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return m_result;
+}
+
+ProgramResult runProgram(const std::vector<std::string>& arguments) {
+    return Program(arguments).finish();
+}
+
+} // namespace corvane::test
