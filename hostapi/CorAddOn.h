@@ -6,8 +6,9 @@
  *      its menu options, its macro commands and its listeners.
  *   3. The host loads what the user asked for, then runs its event loop. State changes tell of it.
  *   4. At the end it delivers StateChange_HostQuit, drops the idle queue, and deletes the widgets.
- *      The library stays loaded until the process ends, and removing a listener works to the very
- *      last, so objects of the add-on may be destroyed together with the process.
+ *      The library stays loaded until the process ends, and operations may be called to the very
+ *      last: once the host is gone they do nothing and answer their failure. So objects of the
+ *      add-on may be destroyed together with the process.
  *
  * An exception may leave a callback of an add-on: the host catches it, shows its what() in one
  * error box, brings the lock depth and the suspension of drawing back to what they were at the

@@ -94,15 +94,15 @@ typedef enum AVICompression_e {
     AVICompression_LosslessUncompressed = 2
 } AVICompression_e;
 
-/* How an SWF movie holds its pictures. A value outside the list, such as 255, is no choice. */
+/* How an SWF movie holds its pictures. */
 typedef enum FlashImageType_e {
     FlashImageType_Lossless = 0, /* True colour. */
     FlashImageType_JPEG = 1,
     FlashImageType_256Color = 2
 } FlashImageType_e;
 
-/* What the compression of an SWF movie aims at. A value outside the list, such as 255, is no
- * choice. */
+/* What the compression of an SWF movie aims at. Outside of the set-up 255 stands for
+ * neither of them. */
 typedef enum FlashCompressionType_e {
     FlashCompressionType_BestSpeed = 0,
     FlashCompressionType_SmallestSize = 1
@@ -120,8 +120,8 @@ typedef enum StyleSetResult_e {
 /* What became of reading a style value. Only StyleGet_Ok writes a result. */
 typedef enum StyleGetResult_e {
     StyleGet_Ok = 0,
-    StyleGet_BadPath = 1,     /* There is no such path, or its value has another type. */
-    StyleGet_NotAvailable = 2 /* The path exists, but has no value now: there is no 3D frame. */
+    StyleGet_BadPath = 1,     /* There is no such path. */
+    StyleGet_NotAvailable = 2 /* No value of that type, or none now, such as without a 3D frame. */
 } StyleGetResult_e;
 
 #endif

@@ -4,7 +4,8 @@
  *   2. Add its controls.
  *   3. Launch it: its init callback runs, then callbacks arrive as the user acts.
  *   4. Drop it to hide it. It keeps its state and can be launched again.
- * Dialogs and controls live until the host quits, which deletes them.
+ * Dialogs and controls live until the host quits, which deletes them. In a run without windows none
+ * can be created.
  *
  * Places and sizes are in dialog units: 100 are the width of an average character across, and the
  * height of a line of text down. x and y count from the left and top edge of the dialog; a parent
@@ -65,7 +66,7 @@ typedef void (*CorGUIToggleCB)(const long* isOn);
  *            dropped
  *   help     called for Help; NULL for no Help button
  *   returns  the dialog
- *            COR_HANDLE_NOT_CREATED when the parent does not exist
+ *            COR_HANDLE_NOT_CREATED when the parent does not exist, or without windows
  *   [main-thread] */
 int CorGUIDialogCreateModeless(int parent, int width, int height, const char* title,
                                CorGUIVoidCB init, CorGUIVoidCB close, CorGUIVoidCB help);

@@ -24,7 +24,7 @@ typedef CorBool (*CorMacroCommandCallback)(char* commandString, char** errorMess
 /* Makes the commands of an add-on known, from now to the end of the process.
  *   macroName  what the commands are recorded under; found again by exactly this text
  *   returns    TRUE
- *              FALSE when an argument is NULL; nothing is added then
+ *              FALSE when an argument is NULL, or the name is empty or taken; nothing is added then
  *   [main-thread] */
 CorBool CorUtilMacroAddCommandCallback(const char* macroName, CorMacroCommandCallback f);
 

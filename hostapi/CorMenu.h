@@ -1,4 +1,4 @@
-/* Options in the menus of the host's main window. */
+/* Options in the menus of the host's main window. A run without windows has none. */
 #ifndef HOSTAPI_COR_MENU_H
 #define HOSTAPI_COR_MENU_H
 
@@ -12,7 +12,7 @@ COR_BEGIN_DECLS
  *   one       1; has no meaning
  *   callback  called when the user chooses the option, with no lock held by the host
  *   returns   TRUE
- *             FALSE for a NULL argument; nothing is added then
+ *             FALSE for a NULL argument, or without a main window; nothing is added then
  *   [main-thread] */
 CorBool CorUtilMenuAddOption(const char* menu, const char* label, int one, void (*callback)(void));
 

@@ -2,10 +2,10 @@
  *
  * Both kinds of callback get the same codes, one call per change, when the host's state is
  * consistent again; the host merges nothing. Codes arrive while drawing is suspended, under locks
- * and during animations too, so a callback should do little more than look at the code. It may add
- * and remove callbacks, itself included, which takes effect for the next change, and may use the
- * idle queue. Stepping through the frames by CorUtilFrameLightweightPopStart is no change and tells
- * nobody. */
+ * and during animations too, so a callback should do little more than look at the code, and may
+ * leave the rest to the idle queue. It may add callbacks, which hear of the next change, and remove
+ * any of them, itself included, which are not called any more. Stepping through the frames by
+ * CorUtilFrameLightweightPopStart is no change and tells nobody. */
 #ifndef HOSTAPI_COR_STATE_CHANGE_H
 #define HOSTAPI_COR_STATE_CHANGE_H
 
@@ -41,9 +41,9 @@ typedef void (*CorStateChangeListener)(StateChange_e stateChange, void* clientDa
 CorBool CorUtilStateChangeAddListener(StateChangeMode_e mode, CorStateChangeListener f,
                                       void* clientData);
 
-/* Removes a listener. Works after the host's shut-down too.
+/* Removes a listener. Allowed after the host's shut-down too, when there is nothing left to remove.
  *   returns  TRUE
- *            FALSE when the pair had not been added
+ *            FALSE when the pair is not there
  *   [main-thread] */
 CorBool CorUtilStateChangeRemoveListener(CorStateChangeListener f, void* clientData);
 

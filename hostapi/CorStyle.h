@@ -25,8 +25,8 @@
  *     the values of CorUtilExportSetup, the same ones; see hostapi/CorExport.h
  *
  * A write tells listeners StateChange_ViewChanged for values under ThreeDView, and
- * StateChange_StyleChanged for all others. It marks the frame for drawing when the picture depends on
- * the value, and draws nothing by itself. */
+ * StateChange_StyleChanged for all others. It marks the frame for drawing when the picture depends
+ * on the value, and draws nothing by itself. */
 #ifndef HOSTAPI_COR_STYLE_H
 #define HOSTAPI_COR_STYLE_H
 
@@ -58,7 +58,8 @@ int CorUtilStyleSet(CorArgList args);
  *   returns  a StyleGetResult_e:
  *              StyleGet_Ok            the result is written
  *              StyleGet_BadPath       there is no such path
- *              StyleGet_NotAvailable  there is no value now, such as without a 3D frame
+ *              StyleGet_NotAvailable  the value has another type than the result, or there is none
+ *                                     now, such as without a 3D frame
  *            on any but StyleGet_Ok the result is untouched
  *   [main-thread] */
 int CorUtilStyleGet(CorArgList args);
