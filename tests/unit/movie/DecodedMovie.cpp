@@ -1,6 +1,7 @@
 // Reads movies with ffprobe and ffmpeg.
 #include "tests/unit/movie/DecodedMovie.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -75,6 +76,8 @@ DecodedMovie::DecodedMovie(std::string path) : m_path(std::move(path)) {
     pixelFormat = values["pix_fmt"];
     colors = values["color_range"] + " " + values["color_space"] + " " + values["color_primaries"] +
              " " + values["color_transfer"];
+    // ffmpeg of itself converts as if colours shared by two pixels belonged between them.
+    m_chromaPosition = values["chroma_location"] == "left" ? "0" : "-513";
     if (frames < 1)
         throw std::runtime_error("no picture in " + m_path);
 }
@@ -94,9 +97,10 @@ std::vector<host::Picture> DecodedMovie::decode(const std::string& filter) const
     // Any damage ends ffmpeg with an error; no picture is repeated or dropped to fit a rate.
     const std::string bytes = outputOf(
         std::string(CORVANE_FFMPEG) + " -nostdin -v error -xerror -err_detect explode -i " +
-        quotedForShell("file:" + m_path) + " -map 0:v:0 -vf " + quotedForShell(filter) +
-        " -vsync passthrough -sws_flags bicubic+accurate_rnd+full_chroma_int" +
-        " -pix_fmt rgba -f rawvideo -");
+        quotedForShell("file:" + m_path) + " -map 0:v:0 -vf " +
+        quotedForShell(filter + ",scale=in_h_chr_pos=" + m_chromaPosition +
+                       ":flags=bicubic+accurate_rnd+full_chroma_int") +
+        " -vsync passthrough -pix_fmt rgba -f rawvideo -");
     const std::size_t size =
         4U * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     std::vector<host::Picture> pictures;
@@ -121,6 +125,30 @@ double psnr(const host::Picture& a, const host::Picture& b) {
         return std::numeric_limits<double>::infinity();
     const double values = 3.0 * a.width * a.height;
     return 10.0 * std::log10(255.0 * 255.0 * values / squares);
+}
+
+host::Picture cropped(const host::Picture& picture, int width, int height) {
+    host::Picture part;
+    part.width = width;
+    part.height = height;
+    for (int y = 0; y < height; ++y)
+        part.rgba.insert(part.rgba.end(), picture.row(y),
+                         picture.row(y) + std::ptrdiff_t{4} * width);
+    return part;
+}
+
+double lowestPsnr(const DecodedMovie& movie, const std::vector<host::Picture>& originals) {
+    const std::vector<host::Picture> pictures = movie.pictures();
+    if (pictures.size() != originals.size())
+        throw std::runtime_error("the movie has " + std::to_string(pictures.size()) +
+                                 " pictures instead of " + std::to_string(originals.size()));
+    double lowest = std::numeric_limits<double>::infinity();
+    for (std::size_t n = 0; n < originals.size(); ++n) {
+        const host::Picture& original = originals[n];
+        lowest =
+            std::min(lowest, psnr(cropped(pictures[n], original.width, original.height), original));
+    }
+    return lowest;
 }
 
 } // namespace corvane::movie_test

@@ -35,10 +35,18 @@ private:
     std::vector<host::Picture> decode(const std::string& filter) const;
 
     std::string m_path;
+    std::string m_chromaPosition; ///< for ffmpeg's scale filter
 };
 
 /// Peak signal-to-noise ratio in dB over red, green and blue: infinite for equal pictures. Throws
 /// std::runtime_error when the sizes differ.
 double psnr(const host::Picture& a, const host::Picture& b);
+
+/// The left upper part of a picture.
+host::Picture cropped(const host::Picture& picture, int width, int height);
+
+/// The lowest psnr() of the movie's pictures to the originals, in their order. Where the movie is
+/// larger (padded) its left upper part counts. Throws std::runtime_error when their numbers differ.
+double lowestPsnr(const DecodedMovie& movie, const std::vector<host::Picture>& originals);
 
 } // namespace corvane::movie_test

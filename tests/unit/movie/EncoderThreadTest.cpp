@@ -122,7 +122,6 @@ TEST(EncoderThread, tellsTheCauseAtTheNextPicture) {
 }
 
 TEST(EncoderThread, tellsTheCauseAtTheEnd) {
-    SinkLog log;
     EncoderThread writer(
         std::make_unique<ScriptedSink>([](int) { throw host::HostError("the disk is full"); }), 4);
     writer.add(numberedPicture(0));
@@ -174,11 +173,14 @@ TEST(EncoderThread, dropsWaitingPicturesWhenDestroyedUnfinished) {
     std::vector<int> seen;
     std::promise<EncoderThread*> self;
     std::shared_future<EncoderThread*> writerReady = self.get_future().share();
+    std::promise<void> started;
     std::promise<void> destroying;
     std::shared_future<void> isDestroying = destroying.get_future().share();
     auto writer = std::make_unique<EncoderThread>(
         std::make_unique<ScriptedSink>([&](int number) {
             seen.push_back(number);
+            if (number == 0)
+                started.set_value();
             isDestroying.wait();
             const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
             while (writerReady.get()->waiting() > 0 && std::chrono::steady_clock::now() < deadline)
@@ -188,6 +190,7 @@ TEST(EncoderThread, dropsWaitingPicturesWhenDestroyedUnfinished) {
     self.set_value(writer.get());
     for (int n = 0; n < 4; ++n)
         writer->add(numberedPicture(n));
+    started.get_future().wait();
     destroying.set_value();
     writer.reset();
     EXPECT_THAT(seen, ElementsAre(0));

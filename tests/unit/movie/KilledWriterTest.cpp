@@ -12,8 +12,8 @@
 namespace corvane::movie_test {
 namespace {
 
-constexpr int width = 160;
-constexpr int height = 120;
+constexpr int width = 320;
+constexpr int height = 240;
 
 /// Ends the process in the middle of a movie of 30 pictures per second.
 [[noreturn]] void writeUntilKilled(const std::string& path, int frames) {
@@ -35,11 +35,8 @@ TEST(KilledWriterDeathTest, leavesAMovieOfAllButTheLastSeconds) {
     EXPECT_LT(movie.frames, 120);
     EXPECT_EQ(movie.width, width);
     EXPECT_EQ(movie.rateNumerator, 30);
-    const auto pictures = movie.pictures();
-    ASSERT_EQ(static_cast<long>(pictures.size()), movie.frames);
-    for (int n = 0; n < movie.frames; ++n)
-        EXPECT_GE(psnr(pictures[static_cast<std::size_t>(n)], movingPicture(width, height, n)),
-                  30.0);
+    EXPECT_GE(lowestPsnr(movie, movingPictures(width, height, static_cast<int>(movie.frames))),
+              30.0);
 }
 
 TEST(KilledWriterDeathTest, keepsWhatAnEarlierMovieAtTheSamePathHadNot) {

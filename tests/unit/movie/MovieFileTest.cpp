@@ -39,12 +39,7 @@ TEST_F(MovieFile, usesTheNextEncoderWhereTheFirstIsMissing) {
     EXPECT_EQ(movie.width, 322);
     EXPECT_EQ(movie.rateNumerator, 2997);
     EXPECT_EQ(movie.rateDenominator, 100);
-    const auto pictures = movie.pictures();
-    ASSERT_EQ(pictures.size(), 40U);
-    for (int n = 0; n < 40; ++n)
-        EXPECT_GE(psnr(cropped(pictures[static_cast<std::size_t>(n)], 321, 240),
-                       movingPicture(321, 240, n)),
-                  30.0);
+    EXPECT_GE(lowestPsnr(movie, movingPictures(321, 240, 40)), 30.0);
 }
 
 TEST_F(MovieFile, takesTheSlowestAndTheFastestSpeedWithTheNextEncoder) {

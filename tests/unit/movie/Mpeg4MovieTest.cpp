@@ -14,17 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Every picture is the one that was added, at its place.
-void expectPictures(const DecodedMovie& movie, const std::vector<host::Picture>& originals) {
-    const std::vector<host::Picture> pictures = movie.pictures();
-    ASSERT_EQ(pictures.size(), originals.size());
-    for (std::size_t n = 0; n < originals.size(); ++n) {
-        const host::Picture& original = originals[n];
-        const host::Picture shown = cropped(pictures[n], original.width, original.height);
-        EXPECT_GE(psnr(shown, original), 30.0) << "picture " << n;
-    }
-}
-
 struct Size {
     int width;
     int height;
@@ -43,7 +32,7 @@ TEST_P(MovieSize, comesBackWithAllPictures) {
     EXPECT_EQ(movie.height, height + height % 2);
     EXPECT_EQ(movie.frames, frames);
     EXPECT_EQ(movie.framesSaid, frames);
-    expectPictures(movie, originals);
+    EXPECT_GE(lowestPsnr(movie, originals), 30.0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, MovieSize,
@@ -75,7 +64,7 @@ TEST_P(MovieSpeed, isKeptExactly) {
     EXPECT_DOUBLE_EQ(movie.start, 0.0);
     // The last picture is shown as long as the others.
     EXPECT_NEAR(movie.duration, frames / speed.framesPerSecond, 1e-6 + 1e-9 * movie.duration);
-    expectPictures(movie, originals);
+    EXPECT_GE(lowestPsnr(movie, originals), 30.0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Speeds, MovieSpeed,
@@ -100,7 +89,7 @@ TEST(Mpeg4Movie, holdsOnePicture) {
     const DecodedMovie movie(folder.path("movie.mp4"));
     EXPECT_EQ(movie.frames, 1);
     EXPECT_NEAR(movie.duration, 0.04, 1e-6);
-    expectPictures(movie, originals);
+    EXPECT_GE(lowestPsnr(movie, originals), 30.0);
 }
 
 TEST(Mpeg4Movie, keepsTheOrderOfPictures) {
@@ -113,7 +102,7 @@ TEST(Mpeg4Movie, keepsTheOrderOfPictures) {
     }
 }
 
-TEST(Mpeg4Movie, isTheSameOneAtOncePictureByPicture) {
+TEST(Mpeg4Movie, givesTheSamePicturesOneByOne) {
     const TestFolder folder;
     writeMovingMovie(movieRequest(folder.path("movie.mp4"), 64, 48), 5);
     const DecodedMovie movie(folder.path("movie.mp4"));
@@ -184,7 +173,7 @@ TEST(Mpeg4Movie, staysAsItWasWrittenWhenItCannotBeRearranged) {
     EXPECT_EQ(movie.frames, 70);
     EXPECT_DOUBLE_EQ(movie.start, 0.0);
     EXPECT_NEAR(movie.duration, 70 / 30.0, 1e-5);
-    expectPictures(movie, originals);
+    EXPECT_GE(lowestPsnr(movie, originals), 30.0);
 }
 
 TEST(Mpeg4Movie, replacesWhatStandsAtItsPath) {

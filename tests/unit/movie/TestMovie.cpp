@@ -30,14 +30,16 @@ void paintPatch(host::Picture& picture, int left, int top, int size, const Color
     }
 }
 
-/// Shading like that of a lit surface, moving to the left.
+/// Shading like that of a lit surface, moving to the left. It is gentle where pictures are small,
+/// since movies keep one colour for several pixels.
 void paintShading(host::Picture& picture, int n) {
+    const double strength = std::min(1.0, std::min(picture.width, picture.height) / 128.0);
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
             const double across = (x + 4.0 * n) / picture.width;
             const double down = static_cast<double>(y) / picture.height;
-            const auto level = [](double value) {
-                return static_cast<std::uint8_t>(std::lround(127.5 + 100.0 * value));
+            const auto level = [strength](double value) {
+                return static_cast<std::uint8_t>(std::lround(127.5 + 100.0 * strength * value));
             };
             paint(picture, x, y,
                   {level(std::sin(6.0 * across)), level(2.0 * down - 1.0),
@@ -76,8 +78,8 @@ host::Picture uniformPicture(int width, int height, const Color& color) {
 host::Picture movingPicture(int width, int height, int n) {
     host::Picture picture = uniformPicture(width, height, {});
     paintShading(picture, n);
-    if (width < 32 || height < 32)
-        return picture; // there is no room for more
+    if (std::min(width, height) < 128)
+        return picture; // a line would be a large part of it
     const int size = std::min(width, height) / 8;
     paintPatch(picture, size + 2 * n, size, size, {255, 0, 0});
     paintPatch(picture, 3 * size, size + 2 * n, size, {0, 255, 0});
@@ -106,26 +108,21 @@ host::MovieRequest movieRequest(const std::string& path, int width, int height,
     return request;
 }
 
-std::vector<host::Picture> writeMovingMovie(const host::MovieRequest& request, int frames) {
+std::vector<host::Picture> movingPictures(int width, int height, int frames) {
     std::vector<host::Picture> pictures;
-    movie::LibavMovieWriters writers;
-    const auto writer = writers.open(request);
-    for (int n = 0; n < frames; ++n) {
-        pictures.push_back(movingPicture(request.width, request.height, n));
-        writer->add(pictures.back());
-    }
-    writer->finish();
+    for (int n = 0; n < frames; ++n)
+        pictures.push_back(movingPicture(width, height, n));
     return pictures;
 }
 
-host::Picture cropped(const host::Picture& picture, int width, int height) {
-    host::Picture part;
-    part.width = width;
-    part.height = height;
-    for (int y = 0; y < height; ++y)
-        part.rgba.insert(part.rgba.end(), picture.row(y),
-                         picture.row(y) + std::ptrdiff_t{4} * width);
-    return part;
+std::vector<host::Picture> writeMovingMovie(const host::MovieRequest& request, int frames) {
+    movie::LibavMovieWriters writers;
+    const auto writer = writers.open(request);
+    auto pictures = movingPictures(request.width, request.height, frames);
+    for (const host::Picture& picture : pictures)
+        writer->add(picture);
+    writer->finish();
+    return pictures;
 }
 
 std::array<double, 3> meanColor(const host::Picture& picture, int x, int y, int width, int height) {

@@ -25,11 +25,11 @@ host::Picture noisyPicture(int width, int height, int n);
 host::MovieRequest movieRequest(const std::string& path, int width, int height,
                                 double framesPerSecond = 30.0);
 
+/// Moving pictures 0 to frames - 1.
+std::vector<host::Picture> movingPictures(int width, int height, int frames);
+
 /// Writes moving pictures 0 to frames - 1, and returns them.
 std::vector<host::Picture> writeMovingMovie(const host::MovieRequest& request, int frames);
-
-/// The left upper part of a picture.
-host::Picture cropped(const host::Picture& picture, int width, int height);
 
 /// The mean colour of a rectangle.
 std::array<double, 3> meanColor(const host::Picture& picture, int x, int y, int width, int height);
