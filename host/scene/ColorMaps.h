@@ -1,0 +1,15 @@
+// From values to colours.
+#pragma once
+
+#include <vtkLookupTable.h>
+#include <vtkSmartPointer.h>
+
+#include <string>
+
+namespace corvane::scene {
+
+/// A table of 256 colours by name (see host::ContourStyle::colorMap, letter case ignored); unknown
+/// names give Viridis. Its range is 0..1. Values that are no number become grey.
+vtkSmartPointer<vtkLookupTable> makeColorMap(const std::string& name);
+
+} // namespace corvane::scene

@@ -1,0 +1,36 @@
+// Reads simulation results from files.
+#pragma once
+
+#include "host/core/Ports.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace corvane::scene {
+
+struct SceneStatistics;
+
+/// Reads VTK's XML files (.vtu .vtp .vti .vtr .vts .vtm and the parallel ones) and legacy files
+/// (.vtk), lists of files through time (.pvd), and surfaces in .stl, .ply and .obj files.
+///
+/// Several files make one data set of several blocks. Only the first, the middle and the last
+/// solution time are read at once, to know the ranges of values; others when they are drawn.
+class DataReaders : public host::DataReader {
+public:
+    /// A quarter of this machine's memory, in bytes.
+    static std::size_t defaultMemoryBudget();
+
+    /// memoryBudget: bytes of meshes that each data set may keep. Statistics may be null.
+    explicit DataReaders(std::size_t memoryBudget = defaultMemoryBudget(),
+                         std::shared_ptr<SceneStatistics> statistics = nullptr);
+
+    std::shared_ptr<const host::DataSet> read(const std::vector<std::string>& files) override;
+
+private:
+    std::size_t m_memoryBudget;
+    std::shared_ptr<SceneStatistics> m_statistics;
+};
+
+} // namespace corvane::scene

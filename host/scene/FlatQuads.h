@@ -1,0 +1,37 @@
+// Coloured rectangles over a picture.
+#pragma once
+
+#include "host/core/FrameStyle.h"
+
+#include <vtkActor2D.h>
+#include <vtkCellArray.h>
+#include <vtkNew.h>
+#include <vtkPoints.h>
+#include <vtkPolyData.h>
+#include <vtkPolyDataMapper2D.h>
+#include <vtkUnsignedCharArray.h>
+
+namespace corvane::scene {
+
+/// Drawn in the order in which they were added, without any blending at their edges.
+class FlatQuads {
+public:
+    FlatQuads();
+
+    void clear();
+    /// Pixels in the visible part of the frame.
+    void add(double left, double bottom, double right, double top, const host::Color& color);
+    void finish(); ///< after the last add()
+
+    vtkActor2D* actor() const { return m_actor; }
+
+private:
+    vtkNew<vtkPoints> m_points;
+    vtkNew<vtkCellArray> m_cells;
+    vtkNew<vtkUnsignedCharArray> m_colors;
+    vtkNew<vtkPolyData> m_data;
+    vtkNew<vtkPolyDataMapper2D> m_mapper;
+    vtkNew<vtkActor2D> m_actor;
+};
+
+} // namespace corvane::scene

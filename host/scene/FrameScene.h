@@ -1,0 +1,71 @@
+// What VTK needs to draw one frame, kept from picture to picture.
+#pragma once
+
+#include "host/core/Frame.h"
+#include "host/scene/ColorBar.h"
+#include "host/scene/ContourColors.h"
+#include "host/scene/OrientationAxis.h"
+#include "host/scene/Outline.h"
+#include "host/scene/PixelRect.h"
+#include "host/scene/Plot.h"
+#include "host/scene/SceneDataSet.h"
+#include "host/scene/SceneStatistics.h"
+#include "host/scene/TextItem.h"
+
+#include <vtkLight.h>
+#include <vtkNew.h>
+#include <vtkRenderer.h>
+#include <vtkSmartPointer.h>
+
+#include <map>
+#include <memory>
+#include <tuple>
+#include <vector>
+
+namespace corvane::scene {
+
+/// Everything is set again from the frame for each picture; what is costly is rebuilt only when
+/// what it was built from has changed. So a picture never depends on the ones before.
+class FrameScene {
+public:
+    explicit FrameScene(std::shared_ptr<SceneStatistics> statistics);
+
+    void update(const host::Frame& frame, const FrameArea& area, int pictureWidth,
+                int pictureHeight);
+    void hide(); ///< leaves the next picture without this frame
+
+    /// In the order of drawing.
+    std::vector<vtkRenderer*> renderers() const { return {m_renderer, m_axis.renderer()}; }
+
+private:
+    /// Kind of plot, its number in the style, block.
+    using PlotKey = std::tuple<Recipe::Kind, int, int>;
+
+    void updatePlots(const host::Frame& frame);
+    void updatePlots(const host::Frame& frame, const SceneDataSet& data);
+    void addSurface(const host::Frame& frame, const SceneDataSet& data, int zone);
+    void addSlices(const host::Frame& frame, const SceneDataSet& data, int zone);
+    void addIsoSurfaces(const host::Frame& frame, const SceneDataSet& data, int zone);
+    void showPlot(const host::Frame& frame, const SceneDataSet& data, int zone, int number,
+                  const Recipe& recipe, const Look& look);
+    void updateAnnotations(const host::Frame& frame, const FrameArea& area);
+    void updateLegend(const host::Frame& frame, const FrameArea& area);
+    host::Bounds shownBounds() const;
+
+    std::shared_ptr<SceneStatistics> m_statistics;
+    vtkNew<vtkRenderer> m_renderer;
+    vtkSmartPointer<vtkLight> m_light;
+    ContourColors m_colors;
+    Outline m_outline;
+    ColorBar m_colorBar;
+    OrientationAxis m_axis;
+    TextItem m_title;
+    TextItem m_time;
+
+    std::shared_ptr<const host::DataSet> m_data; ///< whose plots are kept
+    std::map<PlotKey, std::unique_ptr<Plot>> m_plots;
+    bool m_isTranslucent = false;
+    bool m_isContourShown = false;
+};
+
+} // namespace corvane::scene

@@ -1,0 +1,120 @@
+// Which class reads which file.
+#include "host/scene/MeshFormats.h"
+
+#include "host/scene/ReadError.h"
+#include "host/scene/VtkMeshFile.h"
+
+#include <vtkGenericDataObjectReader.h>
+#include <vtkNew.h>
+#include <vtkOBJReader.h>
+#include <vtkPLYReader.h>
+#include <vtkPolyData.h>
+#include <vtkSTLReader.h>
+#include <vtkXMLGenericDataObjectReader.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string_view>
+
+namespace corvane::scene {
+
+namespace {
+
+/// Reads with a VTK reader that has a file name and one output.
+template <class Reader>
+class SimpleMeshFile final : public VtkMeshFile {
+public:
+    using VtkMeshFile::VtkMeshFile;
+
+private:
+    vtkSmartPointer<vtkDataObject> readObject() const override {
+        const vtkNew<Reader> reader;
+        reader->SetFileName(path().c_str());
+        if constexpr (std::is_base_of_v<vtkDataReader, Reader>) {
+            // Otherwise it keeps the first array of each kind alone.
+            reader->ReadAllScalarsOn();
+            reader->ReadAllVectorsOn();
+            reader->ReadAllFieldsOn();
+        }
+        reader->Update();
+        return reader->GetOutputDataObject(0);
+    }
+};
+
+using Opener = std::unique_ptr<MeshFile> (*)(const std::string&);
+
+template <class File>
+std::unique_ptr<MeshFile> openAs(const std::string& path) {
+    return std::make_unique<File>(path);
+}
+
+constexpr Opener openXml = openAs<SimpleMeshFile<vtkXMLGenericDataObjectReader>>;
+constexpr Opener openLegacy = openAs<SimpleMeshFile<vtkGenericDataObjectReader>>;
+constexpr Opener openStl = openAs<SimpleMeshFile<vtkSTLReader>>;
+constexpr Opener openPly = openAs<SimpleMeshFile<vtkPLYReader>>;
+constexpr Opener openObj = openAs<SimpleMeshFile<vtkOBJReader>>;
+
+constexpr std::string_view seriesExtension = ".pvd";
+
+const std::map<std::string, Opener, std::less<>>& openers() {
+    static const std::map<std::string, Opener, std::less<>> table{
+        {".vtu", openXml},  {".vtp", openXml},  {".vti", openXml},  {".vtr", openXml},
+        {".vts", openXml},  {".vtm", openXml},  {".pvtu", openXml}, {".pvtp", openXml},
+        {".pvti", openXml}, {".pvtr", openXml}, {".pvts", openXml}, {".vtk", openLegacy},
+        {".stl", openStl},  {".ply", openPly},  {".obj", openObj},
+    };
+    return table;
+}
+
+std::string extensionOf(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
+}
+
+std::string firstBytesOf(const std::string& path) {
+    std::array<char, 256> bytes{};
+    std::ifstream stream(path, std::ios::binary);
+    stream.read(bytes.data(), bytes.size());
+    return {bytes.data(), static_cast<std::size_t>(stream.gcount())};
+}
+
+Opener openerByContent(const std::string& path) {
+    const std::string start = firstBytesOf(path);
+    if (start.find("<VTKFile") != std::string::npos)
+        return openXml;
+    if (start.starts_with("# vtk DataFile"))
+        return openLegacy;
+    if (start.starts_with("ply\n") || start.starts_with("ply\r"))
+        return openPly;
+    return nullptr;
+}
+
+std::string knownExtensions() {
+    std::string text(seriesExtension);
+    for (const auto& [extension, opener] : openers())
+        text += " " + extension;
+    return text;
+}
+
+} // namespace
+
+std::unique_ptr<MeshFile> openMeshFile(const std::string& path) {
+    checkReadable(path);
+    if (const auto found = openers().find(extensionOf(path)); found != openers().end())
+        return found->second(path);
+    if (const Opener opener = openerByContent(path))
+        return opener(path);
+    throw readError(path, "its kind is unknown; known are " + knownExtensions());
+}
+
+bool isSeriesFile(const std::string& path) {
+    return extensionOf(path) == seriesExtension;
+}
+
+} // namespace corvane::scene

@@ -1,0 +1,22 @@
+// Where the frames of a page lie in a picture.
+#pragma once
+
+#include "host/core/Page.h"
+#include "host/core/Picture.h"
+#include "host/scene/PixelRect.h"
+
+#include <vector>
+
+namespace corvane::scene {
+
+struct FrameInPicture {
+    const host::Frame* frame = nullptr;
+    FrameArea area;
+};
+
+/// The frames that the picture shows, from the bottom of the stack up. The region of the current
+/// frame shows that frame alone, whatever lies over it.
+std::vector<FrameInPicture> framesInPicture(const host::Page& page,
+                                            const host::PictureRequest& request);
+
+} // namespace corvane::scene

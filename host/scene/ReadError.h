@@ -1,0 +1,16 @@
+// The sentences for files that cannot be read.
+#pragma once
+
+#include "host/core/HostError.h"
+
+#include <string>
+
+namespace corvane::scene {
+
+/// "path cannot be read: reason."
+host::HostError readError(const std::string& path, const std::string& reason);
+
+/// Throws a readError when the path is not that of a readable file with something in it.
+void checkReadable(const std::string& path);
+
+} // namespace corvane::scene

@@ -1,0 +1,18 @@
+// Round numbers for scales.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace corvane::scene {
+
+struct Tick {
+    double value = 0.0;
+    std::string label;
+};
+
+/// At most maximumCount (>= 2) round numbers, evenly spaced, from minimum to maximum, labelled with
+/// as many digits as tell them apart. A range without extent has its one number.
+std::vector<Tick> roundTicks(double minimum, double maximum, int maximumCount);
+
+} // namespace corvane::scene

@@ -1,0 +1,14 @@
+// The solution time as text.
+#pragma once
+
+#include "host/core/DataSet.h"
+
+#include <string>
+
+namespace corvane::scene {
+
+/// "t = 3.6", with as many decimals as the times of the data need, so that the text keeps its
+/// width while time passes.
+std::string timeText(double time, const host::DataSet& data);
+
+} // namespace corvane::scene
