@@ -66,12 +66,12 @@ void chooseSurfaces(FrameStyle& style, const DataSet& data) {
 }
 
 /// All slots cut through the centre; the first one is shown, across the shortest extent.
-void chooseSlices(FrameStyle& style, const DataSet& data, const Vec3& center) {
-    const std::size_t shortest = axesByExtent(data.bounds.size()).front();
+void chooseSlices(FrameStyle& style, const DataSet& data, const Bounds& box) {
+    const std::size_t shortest = axesByExtent(box.size()).front();
     for (SliceStyle& slice : style.slices) {
         slice = {};
         slice.axis = static_cast<int>(shortest) + 1;
-        slice.position = center.*coordinates[shortest];
+        slice.position = box.center().*coordinates[shortest];
         slice.useContour = !style.contour.variable.empty();
     }
     style.slices.front().show = hasVolumes(data);
@@ -147,8 +147,8 @@ Bounds finiteBounds(const Bounds& bounds) {
 } // namespace
 
 /// Volumes show one slice through the centre, across the shortest extent, and their outline; of
-/// anything else the cells themselves are shown. Colours follow the length of the first vector, else
-/// the first scalar. What is not shown is set to values that make sense once it is.
+/// anything else the cells themselves are shown. Colours follow the length of the first vector,
+/// else the first scalar. What is not shown is set to values that make sense once it is.
 void chooseDefaultPlots(Frame& frame) {
     if (!frame.data()) {
         return;
@@ -159,7 +159,7 @@ void chooseDefaultPlots(Frame& frame) {
     const Bounds box = finiteBounds(data.bounds);
     chooseContour(frame.style.contour, vector != nullptr ? vector : scalar);
     chooseSurfaces(frame.style, data);
-    chooseSlices(frame.style, data, box.center());
+    chooseSlices(frame.style, data, box);
     chooseIsoSurfaces(frame.style, scalar != nullptr ? scalar : vector);
     chooseStreamtraces(frame.style, box, vector);
     chooseAnnotations(frame.style.annotations, data);
