@@ -4,7 +4,6 @@
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
 
-#include <cmath>
 #include <numbers>
 
 using namespace corvane::host;
@@ -65,12 +64,6 @@ CorBool CorUtilViewRotate3D(RotateAxis_e axis, double degrees, double vx, double
                             RotateOrigin_e origin) {
     const TracedCall call("CorUtilViewRotate3D", axis, degrees, vx, vy, vz, origin);
     return call.answer(false, [&](Application& app) {
-        if (!isKnown(axis)) {
-            return call.misuse("unknown axis");
-        }
-        if (!std::isfinite(degrees)) {
-            return call.misuse("degrees is not finite");
-        }
-        return app.rotateView(axis, degrees);
+        return isKnown(axis) ? app.rotateView(axis, degrees) : call.misuse("unknown axis");
     });
 }

@@ -73,7 +73,10 @@ public:
     /// The k-th call from now (1 = the next one) of the operation does nothing but throw
     /// std::runtime_error, which the real host never does.
     void throwAt(const std::string& operation, std::size_t k = 1);
-    /// The k-th call from now of all operations that have a result answers its failure. For sweeps:
+    /// The k-th call from now of all operations that have a result answers its failure and does
+    /// nothing, those that build argument lists and strings included. Left out are operations whose
+    /// failure would break the contract: the end of a movie (see movies().failFinish()), the
+    /// question whether one is recorded, and the removal of a listener. For sweeps:
     ///     for (std::size_t k = 1;; ++k) { MemoryHost host; host.failAt(k); …
     ///         if (!host.hasFailedAt()) break; }
     void failAt(std::size_t k) { m_script.failAt(k); }

@@ -1,0 +1,37 @@
+# Compares the operations that the headers in HEADERS declare with those that LIBRARY exports.
+# Only declarations count: an operation's name in a comment is not followed by an argument list with
+# a semicolon behind it.
+file(GLOB headers ${HEADERS}/*.h)
+set(declared)
+foreach(header IN LISTS headers)
+    file(READ ${header} text)
+    string(REGEX REPLACE "[][]" " " text "${text}")
+    string(REGEX REPLACE "/\\*[^*]*\\*+([^/*][^*]*\\*+)*/" " " text "${text}")
+    string(REPLACE ";" "@" text "${text}")
+    string(REGEX MATCHALL "Cor(Util|GUI)[A-Za-z0-9]+\\([^@]*\\)@" declarations "${text}")
+    foreach(declaration IN LISTS declarations)
+        string(REGEX MATCH "^[A-Za-z0-9]+" operation "${declaration}")
+        list(APPEND declared ${operation})
+    endforeach()
+endforeach()
+list(REMOVE_DUPLICATES declared)
+list(SORT declared)
+
+execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
+    OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL " T Cor(Util|GUI)[A-Za-z0-9]+" exported "${symbols}")
+list(TRANSFORM exported REPLACE "^ T " "")
+list(SORT exported)
+
+list(LENGTH declared count)
+if(count LESS 100)
+    message(FATAL_ERROR "Only ${count} operations were found in ${HEADERS}: ${declared}")
+endif()
+set(missing ${declared})
+list(REMOVE_ITEM missing ${exported})
+set(undeclared ${exported})
+list(REMOVE_ITEM undeclared ${declared})
+if(missing OR undeclared)
+    message(FATAL_ERROR "Declared but not exported: ${missing}\nExported but not declared: ${undeclared}")
+endif()
+message(STATUS "${count} operations are declared and exported")
