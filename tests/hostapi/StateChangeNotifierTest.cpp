@@ -42,6 +42,7 @@ protected:
     std::vector<std::string> log;
     LoggingListener a{"a", log};
     LoggingListener b{"b", log};
+    LoggingListener c{"c", log};
 };
 
 TEST_F(StateChangeNotifierTest, registersWhileItLives) {
@@ -103,10 +104,11 @@ TEST_F(StateChangeNotifierTest, listenerMayRemoveItselfWhileItIsTold) {
     a.onChange = [&](StateChangeNotifierInterface& told) { told.removeListener(&a); };
     notifier.addListener(&a);
     notifier.addListener(&b);
+    notifier.addListener(&c);
     notify(StateChange_HostQuit);
     notify(StateChange_FrameCreated);
 
-    EXPECT_THAT(log, ElementsAre("a15", "b15", "b2"));
+    EXPECT_THAT(log, ElementsAre("a15", "b15", "c15", "b2", "c2"));
 }
 
 TEST_F(StateChangeNotifierTest, removalOfOthersCountsFromTheNextChange) {
