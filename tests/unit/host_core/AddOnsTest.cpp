@@ -1,0 +1,105 @@
+// Tests of add-ons and of loading their libraries.
+#include "host/core/AddOns.h"
+
+#include "tests/unit/host_core/Fakes.h"
+#include "tests/unit/host_core/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+
+#include <filesystem>
+
+namespace corvane::host {
+namespace {
+
+using testing::HasSubstr;
+
+std::string library(const std::string& name) {
+    return CORVANE_BINARY_DIR "/tests/libraries/" + name + ".so";
+}
+
+bool isLoaded(const std::string& file) {
+    void* handle = ::dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (handle != nullptr) {
+        ::dlclose(handle);
+    }
+    return handle != nullptr;
+}
+
+class AddOnsTest : public testing::Test {
+protected:
+    std::string failureOf(const std::string& file) {
+        try {
+            loadAddOn(app, file);
+        } catch (const HostError& error) {
+            return error.what();
+        }
+        return {};
+    }
+
+    fakes::FakeHost host;
+    Application& app = host.app;
+};
+
+TEST_F(AddOnsTest, KeepsAddOnsAtTheirAddress) {
+    AddOns addOns;
+    const CorAddOnID first = addOns.add({110, "A", "1", "x"});
+    for (int i = 0; i < 100; ++i) {
+        addOns.add({});
+    }
+    EXPECT_EQ(first->name, "A");
+    EXPECT_EQ(addOns.all().size(), 101U);
+    EXPECT_TRUE(addOns.isKnown(first));
+    EXPECT_FALSE(addOns.isKnown(nullptr));
+    CorAddOn_s stranger;
+    EXPECT_FALSE(addOns.isKnown(&stranger));
+}
+
+TEST_F(AddOnsTest, LoadsALibraryAndCallsItsEntryPoint) {
+    loadAddOn(app, library("WellBehaved"));
+    ASSERT_EQ(app.addOns().all().size(), 1U);
+    EXPECT_EQ(app.addOns().all()[0]->name, "Well behaved");
+    EXPECT_TRUE(isLoaded(library("WellBehaved")));
+}
+
+TEST_F(AddOnsTest, LoadsALibraryOnce) {
+    loadAddOn(app, library("WellBehaved"));
+    EXPECT_THAT(failureOf(library("WellBehaved")), HasSubstr("it is loaded already"));
+    EXPECT_EQ(app.addOns().all().size(), 1U);
+}
+
+TEST_F(AddOnsTest, ABareNameMeansAFileHere) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(CORVANE_BINARY_DIR "/tests/libraries");
+    const std::string failure = failureOf("WellBehaved.so");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(failure, "");
+    EXPECT_EQ(app.addOns().all().size(), 1U);
+}
+
+TEST_F(AddOnsTest, ALibraryWithoutEntryPointIsUnloadedAgain) {
+    const std::string failure = failureOf(library("NoEntryPoint"));
+    EXPECT_THAT(failure, HasSubstr(library("NoEntryPoint")));
+    EXPECT_THAT(failure, HasSubstr("InitCorAddOn113"));
+    EXPECT_FALSE(isLoaded(library("NoEntryPoint")));
+}
+
+TEST_F(AddOnsTest, AnEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
+    const std::string failure = failureOf(library("Throwing"));
+    EXPECT_THAT(failure, HasSubstr(library("Throwing")));
+    EXPECT_THAT(failure, HasSubstr("no menus here"));
+    EXPECT_EQ(app.locks().depth(), 0);
+    EXPECT_TRUE(isLoaded(library("Throwing"))) << "its objects may be in use";
+}
+
+TEST_F(AddOnsTest, FilesThatAreNoLibrariesAreNamed) {
+    const fakes::TemporaryFolder folder;
+    EXPECT_THAT(failureOf(folder.path("missing.so")), HasSubstr(folder.path("missing.so")));
+    const std::string text = folder.write("text.so", "not a library");
+    EXPECT_THAT(failureOf(text), HasSubstr("Cannot load the add-on " + text));
+}
+
+} // namespace
+} // namespace corvane::host

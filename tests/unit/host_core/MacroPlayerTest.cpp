@@ -1,0 +1,327 @@
+// Tests of the commands of the macro language.
+#include "host/core/MacroPlayer.h"
+
+#include "tests/unit/host_core/Fakes.h"
+#include "tests/unit/host_core/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <filesystem>
+#include <sstream>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+
+class MacroPlayerTest : public testing::Test {
+protected:
+    MacroPlayerTest() { host.reader.data = fakes::volumeData(); }
+
+    void play(const std::string& text) {
+        std::istringstream macro(text);
+        app.macros().play(macro, "test.macro", "/scenes");
+    }
+    /// The cause alone, without file, line and text.
+    std::string causeOf(const std::string& text) {
+        try {
+            play(text);
+        } catch (const MacroError& error) {
+            const std::string what = error.what();
+            return what.substr(what.find('\n') + 1);
+        }
+        return {};
+    }
+    Frame& frame() { return *app.page().active(); }
+
+    fakes::FakeHost host;
+    Application& app = host.app;
+};
+
+TEST_F(MacroPlayerTest, ReadsDataRelativeToTheMacro) {
+    play("$!READDATA \"wake.pvd\" \"/other/hull.vtp\" \"sub/a b.vtu\"");
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake.pvd", "/other/hull.vtp",
+                                                           "/scenes/sub/a b.vtu")));
+    EXPECT_NE(frame().data(), nullptr);
+}
+
+TEST_F(MacroPlayerTest, DataThatCannotBeReadStopTheMacro) {
+    host.reader.failure = "Cannot read wake.pvd: it is empty.";
+    EXPECT_EQ(causeOf("$!READDATA wake.pvd\n"), "Cannot read wake.pvd: it is empty.");
+    EXPECT_THAT(causeOf("$!READDATA\n"), HasSubstr("one or more file names"));
+}
+
+TEST_F(MacroPlayerTest, SetsStylesByTheirType) {
+    play("$!READDATA x\n"
+         "$!STYLE Slice/2/Show = TRUE\n"
+         "$!STYLE Slice/2/Axis = 1\n"
+         "$!STYLE slice/2/position=-1.5e-3\n"
+         "$!STYLE Annotations/Title = \"a = b\"\n"
+         "$!STYLE Contour/ColorMap = gray\n"
+         "$!STYLE Interface/UseDisplayLists = false\n");
+    EXPECT_TRUE(frame().style.slices[1].show);
+    EXPECT_EQ(frame().style.slices[1].axis, 1);
+    EXPECT_EQ(frame().style.slices[1].position, -0.0015);
+    EXPECT_EQ(frame().style.annotations.title, "a = b");
+    EXPECT_EQ(frame().style.contour.colorMap, "Gray");
+    StyleInput value;
+    EXPECT_EQ(app.getStyle({"Interface", "UseDisplayLists"}, value), StyleGet_Ok);
+    EXPECT_EQ(value, StyleInput(0L));
+}
+
+TEST_F(MacroPlayerTest, ReadsNumbersTheSameWayInEveryCountry) {
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // where it is installed
+    play("$!READDATA x\n$!STYLE Slice/1/Position = 0.25\n$!EXPORTSETUP AnimationSpeed = 12.5\n");
+    std::setlocale(LC_NUMERIC, before.c_str());
+    EXPECT_EQ(frame().style.slices[0].position, 0.25);
+    EXPECT_EQ(app.exportSetup().animationSpeed, 12.5);
+}
+
+TEST_F(MacroPlayerTest, StylesThatCannotBeSetNameTheirPath) {
+    play("$!READDATA x\n");
+    EXPECT_EQ(causeOf("$!STYLE Slice/9/Show = true"), "There is no value Slice/9/Show.");
+    EXPECT_EQ(causeOf("$!STYLE Slice/1/Show = yes"), "\"yes\" is neither true nor false.");
+    EXPECT_EQ(causeOf("$!STYLE Slice/1/Axis = 4"), "Slice/1/Axis cannot be \"4\".");
+    EXPECT_EQ(causeOf("$!STYLE Slice/1/Axis = 1.0"), "\"1.0\" is not a number that fits here.");
+    EXPECT_EQ(causeOf("$!STYLE Slice/1/Position = 1,5"), "\"1,5\" is not a number that fits here.");
+    EXPECT_EQ(causeOf("$!STYLE Slice/1/Position = nan"), "Slice/1/Position cannot be \"nan\".");
+    EXPECT_EQ(causeOf("$!STYLE Contour/Variable = Preasure"),
+              "Contour/Variable cannot be \"Preasure\".");
+    EXPECT_THAT(causeOf("$!STYLE ThreeDView/ViewWidth = 2"), HasSubstr("ThreeDView/ViewWidth"));
+    for (const char* line : {"$!STYLE", "$!STYLE Slice/1/Show true",
+                             "$!STYLE Slice/1/Show = ", "$!STYLE Annotations/Title = two words"}) {
+        EXPECT_EQ(causeOf(line), "Expected path = value.") << line;
+    }
+}
+
+TEST_F(MacroPlayerTest, StylesOfAFrameNeedOne) {
+    EXPECT_THAT(causeOf("$!STYLE Slice/1/Show = true"), HasSubstr("Slice/1/Show"));
+}
+
+TEST_F(MacroPlayerTest, SetsThePlotType) {
+    play("$!READDATA x\n$!PLOTTYPE = cartesian2d\n");
+    EXPECT_EQ(frame().plotType, PlotType_Cartesian2D);
+    play("$!PLOTTYPE = CARTESIAN3D\n");
+    EXPECT_EQ(frame().plotType, PlotType_Cartesian3D);
+    EXPECT_THAT(causeOf("$!PLOTTYPE = POLAR"), HasSubstr("CARTESIAN3D"));
+    EXPECT_THAT(causeOf("$!PLOTTYPE CARTESIAN3D"), HasSubstr("Expected"));
+    app.page().deleteFrame(frame().id());
+    EXPECT_EQ(causeOf("$!PLOTTYPE = CARTESIAN3D"), "There is no frame.");
+}
+
+TEST_F(MacroPlayerTest, FitsTheView) {
+    play("$!READDATA x\n");
+    const View3D fitted = frame().view;
+    frame().view.position = {};
+    play("$!VIEW fit\n");
+    EXPECT_EQ(frame().view, fitted);
+    EXPECT_EQ(causeOf("$!VIEW FILL"), "Expected FIT.");
+    frame().attachData(nullptr);
+    EXPECT_THAT(causeOf("$!VIEW FIT"), HasSubstr("no 3D data"));
+}
+
+TEST_F(MacroPlayerTest, SetsTheSolutionTime) {
+    play("$!READDATA x\n$!SOLUTIONTIME = 0.125\n");
+    EXPECT_EQ(frame().solutionTime, 0.125);
+    EXPECT_THAT(causeOf("$!SOLUTIONTIME = inf"), HasSubstr("not finite"));
+    EXPECT_THAT(causeOf("$!SOLUTIONTIME = soon"), HasSubstr("\"soon\""));
+    EXPECT_THAT(causeOf("$!SOLUTIONTIME 0.5"), HasSubstr("Expected = time"));
+    EXPECT_EQ(frame().solutionTime, 0.125);
+}
+
+TEST_F(MacroPlayerTest, Redraws) {
+    play("$!REDRAW\n");
+    EXPECT_THAT(host.screen.presented, ElementsAre(true));
+    EXPECT_THAT(causeOf("$!REDRAW now"), HasSubstr("nothing"));
+}
+
+TEST_F(MacroPlayerTest, SetsUpExports) {
+    play("$!EXPORTSETUP ExportFormat = MPEG4\n"
+         "$!EXPORTSETUP exportregion = WORKAREA\n"
+         "$!EXPORTSETUP ImageWidth = 640\n"
+         "$!EXPORTSETUP UseSuperSampleAntiAliasing = true\n"
+         "$!EXPORTSETUP ExportFName = \"movies/a \\\"b\\\".mp4\"\n");
+    EXPECT_EQ(app.exportSetup().format, ExportFormat_MPEG4);
+    EXPECT_EQ(app.exportSetup().region, ExportRegion_WorkArea);
+    EXPECT_EQ(app.exportSetup().imageWidth, 640);
+    EXPECT_TRUE(app.exportSetup().useSuperSampleAntiAliasing);
+    EXPECT_EQ(app.exportSetup().fileName, "movies/a \"b\".mp4") << "of the current folder";
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageHeight = 3"), "There is no export setting ImageHeight.");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 3"), "ImageWidth cannot be \"3\".");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ExportFormat = MOV"), "ExportFormat cannot be \"MOV\".");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth 3"), "Expected name = value.");
+}
+
+TEST_F(MacroPlayerTest, RunsCommandsOfAddOnsWithoutTrailingBlanks) {
+    std::vector<std::string> commands;
+    app.addOnCommands().add("Key Frames", [&commands](const std::string& command) {
+        commands.push_back(command);
+        return std::nullopt;
+    });
+    play("$!EXTCOMMAND \"Key Frames\" \"LOAD \\\"a b\\\" \t \"\n"
+         "$!EXTCOMMAND \"Key Frames\" \"  \"\n");
+    EXPECT_THAT(commands, ElementsAre("LOAD \"a b\"", ""));
+}
+
+TEST_F(MacroPlayerTest, CommandsThatFailTellTheirCause) {
+    app.addOnCommands().add("A", [](const std::string& text) { return "No " + text + "."; });
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A \"key frames\""), "No key frames.");
+    EXPECT_THAT(causeOf("$!EXTCOMMAND B go"), HasSubstr("There is no add-on \"B\""));
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A"), "Expected \"add-on\" \"command\".");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A b c"), "Expected \"add-on\" \"command\".");
+}
+
+TEST_F(MacroPlayerTest, NoCommandRunsDuringAnAnimation) {
+    int runs = 0;
+    app.addOnCommands().add("A", [&runs](const std::string&) {
+        ++runs;
+        return std::nullopt;
+    });
+    app.status().start("Playing", true, true);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    app.status().finish();
+    EXPECT_EQ(runs, 0);
+    play("$!EXTCOMMAND A go");
+    EXPECT_EQ(runs, 1);
+}
+
+/// An add-on that records a movie of one picture more than can be written.
+class MacroPlayerMovieTest : public MacroPlayerTest {
+protected:
+    MacroPlayerMovieTest() {
+        play("$!READDATA x\n$!EXPORTSETUP ImageWidth = 8\n");
+        app.exportSetup().fileName = folder.path("movie.avi");
+        host.movies.failAdd = 2;
+    }
+    void addCommand(const std::optional<std::string>& reported) {
+        app.addOnCommands().add("A", [this, reported](const std::string&) {
+            app.exporter().start();
+            app.exporter().nextFrame();
+            app.exporter().cancel();
+            return reported;
+        });
+    }
+
+    fakes::TemporaryFolder folder;
+};
+
+TEST_F(MacroPlayerMovieTest, TheCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
+    addCommand("Animation canceled.");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroPlayerMovieTest, AFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
+    addCommand(std::nullopt);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroPlayerMovieTest, AnOlderFailureIsForgotten) {
+    app.exporter().start();
+    app.exporter().nextFrame();
+    app.exporter().cancel();
+    ASSERT_TRUE(app.exporter().hasFailed());
+    app.addOnCommands().add("Idle", [](const std::string&) { return std::nullopt; });
+    play("$!EXTCOMMAND Idle go");
+    EXPECT_FALSE(app.exporter().hasFailed());
+}
+
+TEST_F(MacroPlayerMovieTest, NoCommandRunsWhileAMovieIsRecorded) {
+    addCommand(std::nullopt);
+    ASSERT_TRUE(app.exporter().start());
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 9"),
+              "ImageWidth cannot be set in the present state.");
+    EXPECT_TRUE(app.exporter().isRecording());
+}
+
+TEST_F(MacroPlayerTest, UnknownCommandsAreErrors) {
+    EXPECT_EQ(causeOf("$!FLY 1"), "There is no command FLY.");
+}
+
+TEST_F(MacroPlayerTest, AFailingLineStopsAndKeepsWhatWasDone) {
+    try {
+        play("$!EXPORTSETUP ImageWidth = 64\n\n$!BAD\n$!EXPORTSETUP ImageWidth = 128\n");
+        FAIL();
+    } catch (const MacroError& error) {
+        EXPECT_STREQ(error.what(), "test.macro:3: $!BAD\nThere is no command BAD.");
+    }
+    EXPECT_EQ(app.exportSetup().imageWidth, 64);
+    EXPECT_FALSE(app.macros().isPlaying());
+}
+
+TEST_F(MacroPlayerTest, TellsThatItPlays) {
+    bool playing = false;
+    app.addOnCommands().add("A", [this, &playing](const std::string&) {
+        playing = app.macros().isPlaying();
+        return std::nullopt;
+    });
+    EXPECT_FALSE(app.macros().isPlaying());
+    play("$!EXTCOMMAND A go");
+    EXPECT_TRUE(playing);
+    EXPECT_FALSE(app.macros().isPlaying());
+}
+
+TEST_F(MacroPlayerTest, PlaysFilesInTheirFolder) {
+    const fakes::TemporaryFolder folder;
+    const std::string file = folder.write("scene.macro", "$!READDATA data/x.vtu\n$!BAD\n");
+    try {
+        app.macros().playFile(file);
+        FAIL();
+    } catch (const MacroError& error) {
+        EXPECT_THAT(error.what(), HasSubstr(file + ":2: $!BAD"));
+    }
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.path("data/x.vtu"))));
+}
+
+TEST_F(MacroPlayerTest, AFileOfTheCurrentFolderNeedsNoPath) {
+    const fakes::TemporaryFolder folder;
+    folder.write("scene.macro", "$!READDATA x.vtu\n");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    app.macros().playFile("scene.macro");
+    std::filesystem::current_path(before);
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("x.vtu")));
+}
+
+TEST_F(MacroPlayerTest, FilesThatCannotBeOpenedAreNamed) {
+    const fakes::TemporaryFolder folder;
+    for (const std::string& file : {folder.path("missing.macro"), folder.path()}) {
+        try {
+            app.macros().playFile(file);
+            FAIL() << file;
+        } catch (const HostError& error) {
+            EXPECT_EQ(error.what(), "Cannot open the macro file " + file + ".");
+        }
+    }
+}
+
+TEST_F(MacroPlayerTest, ASingleCommandCanBeRun) {
+    app.macros().run("EXPORTSETUP", {"ImageWidth", "=", "77"});
+    EXPECT_EQ(app.exportSetup().imageWidth, 77);
+    app.macros().run("readdata", {"x.vtu"}, "/there");
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/there/x.vtu")));
+    EXPECT_THROW(app.macros().run("FLY", {}), std::invalid_argument);
+    EXPECT_THROW(app.macros().run("VIEW", {"UP"}), std::invalid_argument);
+    host.reader.failure = "Cannot read it.";
+    EXPECT_THROW(app.macros().run("READDATA", {"y"}), HostError);
+}
+
+TEST_F(MacroPlayerTest, TheLanguageIsDescribedInFull) {
+    std::vector<std::string> names;
+    for (const MacroCommand& command : macroCommands()) {
+        names.push_back(command.name);
+        EXPECT_THAT(command.purpose, EndsWith(".")) << command.name;
+        EXPECT_NE(command.run, nullptr);
+    }
+    EXPECT_THAT(names, testing::UnorderedElementsAre("READDATA", "PLOTTYPE", "STYLE", "VIEW",
+                                                     "SOLUTIONTIME", "REDRAW", "EXPORTSETUP",
+                                                     "EXTCOMMAND"));
+}
+
+} // namespace
+} // namespace corvane::host
