@@ -1,6 +1,6 @@
 // Reading key frame files.
+#include "tests/support/TempFolder.h"
 #include "tests/unit/addon_file/KeyFrameTexts.h"
-#include "tests/unit/addon_file/TemporaryFolder.h"
 #include "tests/unit/addon_lists/RecordingObserver.h"
 
 #include <gmock/gmock.h>
@@ -500,7 +500,7 @@ TEST(KeyFrameFileRead, saysWhenReadingFailed) {
 }
 
 TEST(KeyFrameFileRead, saysWhenTheFileCannotBeOpened) {
-    TemporaryFolder const folder;
+    TempFolder const folder;
     ReadResult result;
     try {
         KeyFrameFile().readFile(folder.file("missing"), result.settings, result.model);
@@ -511,10 +511,10 @@ TEST(KeyFrameFileRead, saysWhenTheFileCannotBeOpened) {
 }
 
 TEST(KeyFrameFileRead, takesAFolderForNoKeyFrameFile) {
-    TemporaryFolder const folder;
+    TempFolder const folder;
     ReadResult result;
     try {
-        KeyFrameFile().readFile(folder.path(), result.settings, result.model);
+        KeyFrameFile().readFile(folder.path().string(), result.settings, result.model);
         FAIL() << "was read";
     } catch (KeyFrameError const& error) {
         EXPECT_STREQ(error.what(), "Invalid file header.");
@@ -522,10 +522,11 @@ TEST(KeyFrameFileRead, takesAFolderForNoKeyFrameFile) {
 }
 
 TEST(KeyFrameFileRead, readsFiles) {
-    TemporaryFolder const folder;
-    writeContent(folder.file("a.keyframe"), header + settingsBlock("FadeOut true\n") + fullBlock);
+    TempFolder const folder;
+    std::string const fileName =
+        folder.write("a.keyframe", header + settingsBlock("FadeOut true\n") + fullBlock);
     ReadResult result;
-    KeyFrameFile().readFile(folder.file("a.keyframe"), result.settings, result.model);
+    KeyFrameFile().readFile(fileName, result.settings, result.model);
     EXPECT_TRUE(result.settings.fadeOut);
     EXPECT_EQ(result.first(), fullKeyFrame);
 }

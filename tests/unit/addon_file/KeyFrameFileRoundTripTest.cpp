@@ -1,7 +1,7 @@
 // Key frame files that were written are read back.
 #include "tests/cases/FlightCases.h"
+#include "tests/support/TempFolder.h"
 #include "tests/unit/addon_file/KeyFrameTexts.h"
-#include "tests/unit/addon_file/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -88,10 +88,10 @@ TEST(KeyFrameFileSize, takesEveryByteAndLineOfAHundredThousandKeyFramesOnce) {
     }
     ListModelKeyFrame model;
     model.setDataList(keyFrames);
-    TemporaryFolder const folder;
+    TempFolder const folder;
     std::string const fileName = folder.file("long.keyframe");
     KeyFrameFile().saveFile(fileName, defaultSettings(), model);
-    std::string const text = contentOf(fileName);
+    std::string const text = folder.read("long.keyframe");
     // Ten lines before the first key frame, and nine for each, the blank ones included.
     unsigned long const lineCount = 10 + 9 * keyFrameCount;
     EXPECT_EQ(static_cast<unsigned long>(std::count(text.begin(), text.end(), '\n')),

@@ -1,11 +1,10 @@
 // Writing key frame files.
+#include "tests/support/TempFolder.h"
 #include "tests/unit/addon_file/KeyFrameTexts.h"
-#include "tests/unit/addon_file/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -97,13 +96,13 @@ TEST(KeyFrameFileWrite, isTheSameInEveryLocale) {
     EXPECT_THAT(text, testing::HasSubstr(" AnimateTime false\n"));
     EXPECT_THAT(text, testing::HasSubstr(" Position 1234.5 0 0\n"));
     EXPECT_THAT(text, testing::HasSubstr(" FrameCount 1234567\n"));
-    TemporaryFolder const folder;
+    TempFolder const folder;
     KeyFrameFile().saveFile(folder.file("a"), defaultSettings(), model);
-    EXPECT_EQ(contentOf(folder.file("a")), text);
+    EXPECT_EQ(folder.read("a"), text);
 }
 
 TEST(KeyFrameFileWrite, refusesASettingWithoutKeywordAndLeavesThePartBefore) {
-    TemporaryFolder const folder;
+    TempFolder const folder;
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
     Settings_s settings = defaultSettings();
@@ -114,29 +113,28 @@ TEST(KeyFrameFileWrite, refusesASettingWithoutKeywordAndLeavesThePartBefore) {
     } catch (std::out_of_range const& error) {
         EXPECT_STREQ(error.what(), "Enumeration out of range.");
     }
-    EXPECT_THAT(contentOf(folder.file("a.keyframe")),
+    EXPECT_THAT(folder.read("a.keyframe"),
                 testing::StartsWith("#!KeyFrame 1\n\n%Settings\n AnimateTime false"));
 }
 
 TEST(KeyFrameFileWrite, savesToAFileAndReplacesWhatWasThere) {
-    TemporaryFolder const folder;
-    std::string const fileName = folder.file("a.keyframe");
-    writeContent(fileName, std::string(10000, 'x'));
+    TempFolder const folder;
+    std::string const fileName = folder.write("a.keyframe", std::string(10000, 'x'));
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
     KeyFrameFile().saveFile(fileName, defaultSettings(), model);
-    EXPECT_EQ(contentOf(fileName), illustratedSettings + illustratedKeyFrame);
+    EXPECT_EQ(folder.read("a.keyframe"), illustratedSettings + illustratedKeyFrame);
 }
 
 TEST(KeyFrameFileWrite, makesNoFileWithoutKeyFrames) {
-    TemporaryFolder const folder;
+    TempFolder const folder;
     try {
         KeyFrameFile().saveFile(folder.file("a.keyframe"), defaultSettings(), ListModelKeyFrame());
         FAIL() << "was written";
     } catch (KeyFrameError const& error) {
         EXPECT_STREQ(error.what(), "No Key Frames established.");
     }
-    EXPECT_FALSE(std::filesystem::exists(folder.file("a.keyframe")));
+    EXPECT_FALSE(folder.has("a.keyframe"));
 }
 
 TEST(KeyFrameFileWrite, asksTheModelForItsMessage) {
@@ -152,10 +150,11 @@ TEST(KeyFrameFileWrite, asksTheModelForItsMessage) {
 }
 
 TEST(KeyFrameFileWrite, saysWhenTheFileCannotBeOpened) {
-    TemporaryFolder const folder;
+    TempFolder const folder;
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
-    for (std::string const& fileName : {folder.path(), folder.file("missing/a.keyframe")}) {
+    for (std::string const& fileName :
+         {folder.path().string(), folder.file("missing/a.keyframe")}) {
         try {
             KeyFrameFile().saveFile(fileName, defaultSettings(), model);
             FAIL() << "was written";

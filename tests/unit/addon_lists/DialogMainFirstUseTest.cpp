@@ -1,0 +1,40 @@
+// When the process-wide main dialog comes into being: a program of its own with a single test, as
+// that happens once.
+#include "addon/ui/DialogMain.h"
+#include "tests/support/HostTest.h"
+#include "tests/unit/addon_shell/RegisteredAddOn.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace corvane::test;
+using namespace corvane::corutiltools;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DialogMainFirstUseTest : public HostTest {
+protected:
+    RegisteredAddOn const registration;
+};
+
+TEST_F(DialogMainFirstUseTest, setsTheAnimationSpeedOnceAndNotForTheLaunchTest) {
+    host.app().exportSetup().animationSpeed = 12.0;
+    EXPECT_TRUE(DialogMain::okToLaunch());
+    EXPECT_THAT(host.callsOf("CorUtilStyleSet"), IsEmpty());
+    host.clearCalls();
+
+    DialogMain::instance();
+    EXPECT_THAT(host.calls(),
+                ElementsAre(lockStart,
+                            "CorUtilStyleSet(\"ExportSetup\",\"AnimationSpeed\", DValue=30)",
+                            lockFinish));
+    EXPECT_EQ(host.app().exportSetup().animationSpeed, 30.0);
+
+    host.app().exportSetup().animationSpeed = 12.0;
+    DialogMain::instance();
+    EXPECT_EQ(host.app().exportSetup().animationSpeed, 12.0);
+}
+
+} // namespace
