@@ -64,8 +64,8 @@ void ColorBar::show(const ContourColors& colors, const std::string& title, const
     look.vertical = TextLook::Align::Middle;
 
     Layout layout{};
-    layout.minimum = colors.minimum();
-    layout.maximum = colors.maximum();
+    layout.minimum = colors.range().minimum;
+    layout.maximum = colors.range().maximum;
     layout.ticks = roundTicks(layout.minimum, layout.maximum, maximumTicks);
     double labelWidth = 0.0;
     for (const Tick& tick : layout.ticks)
@@ -94,8 +94,15 @@ void ColorBar::show(const ContourColors& colors, const std::string& title, const
 void ColorBar::drawStrip(const Layout& layout, const ContourColors& colors,
                          const Color& textColor) {
     m_quads.clear();
-    m_quads.add(layout.left - layout.line, layout.bottom - layout.line, layout.right + layout.line,
-                layout.top + layout.line, textColor);
+    const auto frame = [&](double left, double bottom, double right, double top) {
+        m_quads.add(left, bottom, right, top, textColor);
+    };
+    const double line = layout.line;
+    frame(layout.left - line, layout.bottom - line, layout.right + line, layout.bottom);
+    frame(layout.left - line, layout.top, layout.right + line, layout.top + line);
+    frame(layout.left - line, layout.bottom, layout.left, layout.top);
+    frame(layout.right, layout.bottom, layout.right + line, layout.top);
+
     vtkLookupTable& table = *colors.table();
     const double step = (layout.top - layout.bottom) / stripes;
     for (int i = 0; i < stripes; ++i) {
@@ -106,7 +113,7 @@ void ColorBar::drawStrip(const Layout& layout, const ContourColors& colors,
     }
     for (const Tick& tick : layout.ticks) {
         const double bottom = std::round(layout.heightOf(tick.value) - 0.5 * layout.line);
-        m_quads.add(layout.right, bottom, layout.tickEnd, bottom + layout.line, textColor);
+        frame(layout.right + line, bottom, layout.tickEnd, bottom + line);
     }
     m_quads.finish();
     m_quads.actor()->SetVisibility(1);

@@ -3,19 +3,17 @@
 
 #include "host/scene/ColorMaps.h"
 
-#include <tuple>
-
 namespace corvane::scene {
 
-void ContourColors::update(const host::ContourStyle& style, const host::DataSet& data) {
+void ContourColors::update(const host::ContourStyle& style, const SceneDataSet& data) {
     m_variable = variableRef(style.variable);
-    std::tie(m_minimum, m_maximum) =
-        style.automaticRange ? rangeOf(m_variable, data) : std::pair(style.minimum, style.maximum);
+    m_range =
+        style.automaticRange ? data.rangeOf(m_variable) : ValueRange{style.minimum, style.maximum};
     if (m_table == nullptr || style.colorMap != m_colorMap) {
         m_table = makeColorMap(style.colorMap);
         m_colorMap = style.colorMap;
     }
-    m_table->SetTableRange(m_minimum, m_maximum);
+    m_table->SetTableRange(m_range.minimum, m_range.maximum);
     if (m_variable.component < 0) {
         m_table->SetVectorModeToMagnitude();
     } else {

@@ -1,8 +1,8 @@
 // The colours of one frame's contour variable.
 #pragma once
 
-#include "host/core/DataSet.h"
 #include "host/core/FrameStyle.h"
+#include "host/scene/SceneDataSet.h"
 #include "host/scene/VariableRef.h"
 
 #include <vtkLookupTable.h>
@@ -14,19 +14,17 @@ namespace corvane::scene {
 
 class ContourColors {
 public:
-    void update(const host::ContourStyle& style, const host::DataSet& data);
+    void update(const host::ContourStyle& style, const SceneDataSet& data);
 
     const VariableRef& variable() const { return m_variable; }
-    double minimum() const { return m_minimum; }
-    double maximum() const { return m_maximum; }
+    const ValueRange& range() const { return m_range; }
     /// Knows range and component, stays the same object. Null before update().
     vtkLookupTable* table() const { return m_table; }
 
 private:
     std::string m_colorMap;
     VariableRef m_variable;
-    double m_minimum = 0.0;
-    double m_maximum = 1.0;
+    ValueRange m_range{0.0, 1.0};
     vtkSmartPointer<vtkLookupTable> m_table;
 };
 

@@ -36,8 +36,7 @@ void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
 }
 
 /// Of the first, the middle and the last time.
-std::vector<host::Variable> variablesOf(const std::vector<MeshSeries>& allSeries,
-                                        MeshCache& cache) {
+std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, MeshCache& cache) {
     VariableRanges ranges;
     for (const MeshSeries& series : allSeries) {
         const auto& sources = series.sourceOfTime;
@@ -46,7 +45,7 @@ std::vector<host::Variable> variablesOf(const std::vector<MeshSeries>& allSeries
             for (const MeshPart& part : *cache.get(source))
                 ranges.add(*part.mesh);
     }
-    return ranges.variables();
+    return ranges.ranges();
 }
 
 } // namespace
@@ -73,7 +72,7 @@ std::shared_ptr<const host::DataSet> DataReaders::read(const std::vector<std::st
     data->files = files;
     for (const MeshSeries& series : list.series())
         addSeries(*data, *cache, series);
-    data->variables = variablesOf(list.series(), *cache);
+    data->setVariables(rangesOf(list.series(), *cache));
     return data;
 }
 

@@ -21,6 +21,9 @@ EglRenderWindow::EglRenderWindow() {
     SetMapped(1);
     // Fonts then have the size in pixels that they are asked for.
     SetDPI(72);
+    // Several samples a pixel cost more in software than drawing larger, and see-through surfaces
+    // are lost with them.
+    SetMultiSamples(0);
 }
 
 EglRenderWindow::~EglRenderWindow() {

@@ -1,7 +1,7 @@
 // Coloured rectangles over a picture.
 #include "host/scene/FlatQuads.h"
 
-#include <vtkCellData.h>
+#include <vtkPointData.h>
 
 #include <array>
 
@@ -11,7 +11,7 @@ FlatQuads::FlatQuads() {
     m_colors->SetNumberOfComponents(3);
     m_data->SetPoints(m_points);
     m_data->SetPolys(m_cells);
-    m_data->GetCellData()->SetScalars(m_colors);
+    m_data->GetPointData()->SetScalars(m_colors);
     m_mapper->SetInputData(m_data);
     m_actor->SetMapper(m_mapper);
 }
@@ -28,7 +28,8 @@ void FlatQuads::add(double left, double bottom, double right, double top,
         m_points->InsertNextPoint(left, bottom, 0.0), m_points->InsertNextPoint(right, bottom, 0.0),
         m_points->InsertNextPoint(right, top, 0.0), m_points->InsertNextPoint(left, top, 0.0)};
     m_cells->InsertNextCell(4, corners.data());
-    m_colors->InsertNextTuple3(255.0 * color.red, 255.0 * color.green, 255.0 * color.blue);
+    for (std::size_t i = 0; i < corners.size(); ++i)
+        m_colors->InsertNextTuple3(255.0 * color.red, 255.0 * color.green, 255.0 * color.blue);
 }
 
 void FlatQuads::finish() {

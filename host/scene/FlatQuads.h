@@ -13,7 +13,7 @@
 
 namespace corvane::scene {
 
-/// Drawn in the order in which they were added, without any blending at their edges.
+/// They must not overlap, since they all lie at one depth. Their edges are not blended.
 class FlatQuads {
 public:
     FlatQuads();

@@ -112,7 +112,7 @@ void FrameScene::addSurface(const Frame& frame, const SceneDataSet& data, int zo
         return;
     const host::SurfaceStyle& style = frame.style.surfaces[block];
     showPlot(frame, data, zone, 0, {mesh, Recipe::Kind::Surface, 0, 0.0, {}},
-             {style.useContour, style.color, style.opacity, style.showMesh});
+             {style.useContour, style.color, style.opacity, style.showMesh, true});
 }
 
 void FrameScene::addSlices(const Frame& frame, const SceneDataSet& data, int zone) {
@@ -122,7 +122,7 @@ void FrameScene::addSlices(const Frame& frame, const SceneDataSet& data, int zon
         if (style.show)
             showPlot(frame, data, zone, i,
                      {mesh, Recipe::Kind::Slice, style.axis, style.position, {}},
-                     {style.useContour, style.color, style.opacity, false});
+                     {style.useContour, style.color, style.opacity, false, false});
     }
 }
 
@@ -133,7 +133,7 @@ void FrameScene::addIsoSurfaces(const Frame& frame, const SceneDataSet& data, in
         if (style.show)
             showPlot(frame, data, zone, i,
                      {mesh, Recipe::Kind::IsoSurface, 0, style.value, style.variable},
-                     {style.useContour, style.color, style.opacity, false});
+                     {style.useContour, style.color, style.opacity, false, true});
     }
 }
 

@@ -1,6 +1,10 @@
 // Which class reads which file.
 #include "host/scene/MeshFormats.h"
 
+#include "host/scene/CgnsFile.h"
+#include "host/scene/EnSightFile.h"
+#include "host/scene/ExodusFile.h"
+#include "host/scene/OpenFoamFile.h"
 #include "host/scene/ReadError.h"
 #include "host/scene/VtkMeshFile.h"
 
@@ -57,15 +61,21 @@ constexpr Opener openLegacy = openAs<SimpleMeshFile<vtkGenericDataObjectReader>>
 constexpr Opener openStl = openAs<SimpleMeshFile<vtkSTLReader>>;
 constexpr Opener openPly = openAs<SimpleMeshFile<vtkPLYReader>>;
 constexpr Opener openObj = openAs<SimpleMeshFile<vtkOBJReader>>;
+constexpr Opener openFoam = openAs<OpenFoamFile>;
+constexpr Opener openEnSight = openAs<EnSightFile>;
+constexpr Opener openExodus = openAs<ExodusFile>;
+constexpr Opener openCgns = openAs<CgnsFile>;
 
 constexpr std::string_view seriesExtension = ".pvd";
 
 const std::map<std::string, Opener, std::less<>>& openers() {
     static const std::map<std::string, Opener, std::less<>> table{
-        {".vtu", openXml},  {".vtp", openXml},  {".vti", openXml},  {".vtr", openXml},
-        {".vts", openXml},  {".vtm", openXml},  {".pvtu", openXml}, {".pvtp", openXml},
-        {".pvti", openXml}, {".pvtr", openXml}, {".pvts", openXml}, {".vtk", openLegacy},
-        {".stl", openStl},  {".ply", openPly},  {".obj", openObj},
+        {".vtu", openXml},      {".vtp", openXml},  {".vti", openXml},    {".vtr", openXml},
+        {".vts", openXml},      {".vtm", openXml},  {".pvtu", openXml},   {".pvtp", openXml},
+        {".pvti", openXml},     {".pvtr", openXml}, {".pvts", openXml},   {".vtk", openLegacy},
+        {".stl", openStl},      {".ply", openPly},  {".obj", openObj},    {".foam", openFoam},
+        {".case", openEnSight}, {".e", openExodus}, {".exo", openExodus}, {".ex2", openExodus},
+        {".cgns", openCgns},
     };
     return table;
 }
@@ -95,6 +105,13 @@ Opener openerByContent(const std::string& path) {
     return nullptr;
 }
 
+/// OpenFOAM cases are marked by a file that holds nothing.
+bool isEmptyMarker(const std::string& path) {
+    std::error_code error;
+    return extensionOf(path) == ".foam" && std::filesystem::is_regular_file(path, error) &&
+           std::filesystem::file_size(path, error) == 0;
+}
+
 std::string knownExtensions() {
     std::string text(seriesExtension);
     for (const auto& [extension, opener] : openers())
@@ -105,7 +122,8 @@ std::string knownExtensions() {
 } // namespace
 
 std::unique_ptr<MeshFile> openMeshFile(const std::string& path) {
-    checkReadable(path);
+    if (!isEmptyMarker(path))
+        checkReadable(path);
     if (const auto found = openers().find(extensionOf(path)); found != openers().end())
         return found->second(path);
     if (const Opener opener = openerByContent(path))

@@ -37,7 +37,7 @@ void Plot::setLook(const Look& look, const ContourColors& colors, const host::Li
     vtkProperty& property = *m_actor->GetProperty();
     setColor(property, look.color);
     property.SetOpacity(look.opacity);
-    if (hasFaces(*m_geometry))
+    if (look.isShaded && hasFaces(*m_geometry))
         setSurfaceMaterial(property, light);
     else
         setFlatMaterial(property, light);

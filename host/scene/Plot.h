@@ -20,6 +20,7 @@ struct Look {
     host::Color color;
     double opacity = 1.0;
     bool showMesh = false;
+    bool isShaded = true; ///< otherwise colours are those of the legend from wherever one looks
 };
 
 /// Keeps what it was built from, and does only what a change asks for.

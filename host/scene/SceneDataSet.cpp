@@ -13,6 +13,10 @@ long nextId() {
     return ++last;
 }
 
+ValueRange orZero(const ValueRange& range) {
+    return range.isEmpty() ? ValueRange{0.0, 0.0} : range;
+}
+
 } // namespace
 
 SceneDataSet::SceneDataSet(std::shared_ptr<MeshCache> cache)
@@ -28,6 +32,26 @@ void SceneDataSet::addBlock(host::Block block, const std::vector<double>& times,
     }
     blocks.push_back(std::move(block));
     m_partOfBlock.push_back(std::move(source.part));
+}
+
+void SceneDataSet::setVariables(std::vector<VariableRange> ranges) {
+    m_ranges = std::move(ranges);
+    variables.clear();
+    for (const VariableRange& range : m_ranges) {
+        const ValueRange whole = orZero(range.whole);
+        variables.push_back({range.name, range.components, whole.minimum, whole.maximum});
+    }
+}
+
+ValueRange SceneDataSet::rangeOf(const VariableRef& variable) const {
+    const auto found = std::find_if(m_ranges.begin(), m_ranges.end(), [&](const auto& range) {
+        return range.name == variable.array;
+    });
+    if (found == m_ranges.end())
+        return {0.0, 0.0};
+    const bool isComponent = found->components == 3 && variable.component >= 0;
+    return orZero(isComponent ? found->ofComponents[static_cast<std::size_t>(variable.component)]
+                              : found->whole);
 }
 
 MeshId SceneDataSet::meshId(int zone) const {

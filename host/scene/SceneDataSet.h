@@ -3,6 +3,8 @@
 
 #include "host/core/DataSet.h"
 #include "host/scene/MeshCache.h"
+#include "host/scene/VariableRanges.h"
+#include "host/scene/VariableRef.h"
 
 #include <vtkDataSet.h>
 #include <vtkSmartPointer.h>
@@ -37,6 +39,11 @@ public:
     /// Adds a block and its zones, one for each of the times; a single time makes it static.
     void addBlock(host::Block block, const std::vector<double>& times, BlockSource source);
 
+    /// Sets the variables. Those without any finite value have the range 0..0.
+    void setVariables(std::vector<VariableRange> ranges);
+    /// The values that plots by this variable meet; 0..0 when there is no such variable.
+    ValueRange rangeOf(const VariableRef& variable) const;
+
     MeshId meshId(int zone) const; ///< zone: index into zones
     /// Reads the mesh if it is not at hand. Null when the file holds no such part at that time.
     /// Throws host::HostError.
@@ -49,6 +56,7 @@ private:
     std::shared_ptr<MeshCache> m_cache;
     std::vector<std::string> m_partOfBlock;
     std::vector<int> m_sourceOfZone;
+    std::vector<VariableRange> m_ranges;
 };
 
 } // namespace corvane::scene

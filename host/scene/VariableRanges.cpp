@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <string>
 
 namespace corvane::scene {
@@ -21,19 +20,25 @@ bool isVariable(const vtkDataArray& array, const char* name) {
     return hasName && (components == 1 || components == 3) && !std::string(name).starts_with("vtk");
 }
 
+constexpr int lengthOfVector = -1;
+
+void addValues(ValueRange& range, vtkDataArray& array, int component) {
+    std::array<double, 2> values{};
+    if (array.GetNumberOfTuples() == 0)
+        return;
+    array.GetFiniteRange(values.data(), component);
+    // Without a finite value VTK gives an inverted range.
+    if (values[0] > values[1])
+        return;
+    range.minimum = std::min(range.minimum, values[0]);
+    range.maximum = std::max(range.maximum, values[1]);
+}
+
 } // namespace
 
 void VariableRanges::add(vtkDataSet& mesh) {
     addArrays(*mesh.GetPointData());
     addArrays(*mesh.GetCellData());
-}
-
-std::vector<host::Variable> VariableRanges::variables() const {
-    auto variables = m_variables;
-    for (auto& variable : variables)
-        if (variable.minimum > variable.maximum)
-            variable.minimum = variable.maximum = 0.0;
-    return variables;
 }
 
 void VariableRanges::addArrays(vtkDataSetAttributes& attributes) {
@@ -46,20 +51,15 @@ void VariableRanges::addArrays(vtkDataSetAttributes& attributes) {
 void VariableRanges::addArray(vtkDataArray& array) {
     const std::string name = array.GetName();
     const int components = array.GetNumberOfComponents();
-    auto found = std::find_if(m_variables.begin(), m_variables.end(),
-                              [&](const auto& variable) { return variable.name == name; });
-    if (found == m_variables.end()) {
-        constexpr double infinity = std::numeric_limits<double>::infinity();
-        found = m_variables.insert(found, {name, components, infinity, -infinity});
-    }
-    if (found->components != components || array.GetNumberOfTuples() == 0)
+    auto found = std::find_if(m_ranges.begin(), m_ranges.end(),
+                              [&](const auto& range) { return range.name == name; });
+    if (found == m_ranges.end())
+        found = m_ranges.insert(found, {name, components, {}, {}});
+    if (found->components != components)
         return;
-    std::array<double, 2> range{};
-    array.GetFiniteRange(range.data(), components == 1 ? 0 : -1);
-    if (range[0] > range[1])
-        return;
-    found->minimum = std::min(found->minimum, range[0]);
-    found->maximum = std::max(found->maximum, range[1]);
+    addValues(found->whole, array, components == 1 ? 0 : lengthOfVector);
+    for (int c = 0; components == 3 && c < 3; ++c)
+        addValues(found->ofComponents[static_cast<std::size_t>(c)], array, c);
 }
 
 } // namespace corvane::scene

@@ -21,15 +21,6 @@ VariableRef variableRef(const std::string& name) {
     return {name, -1};
 }
 
-std::pair<double, double> rangeOf(const VariableRef& variable, const host::DataSet& data) {
-    const host::Variable* const found = data.findVariable(variable.array);
-    if (found == nullptr)
-        return {0.0, 0.0};
-    if (found->components == 3 && variable.component >= 0)
-        return {-found->maximum, found->maximum};
-    return {found->minimum, found->maximum};
-}
-
 std::string displayName(const VariableRef& variable, const host::DataSet& data) {
     const host::Variable* const found = data.findVariable(variable.array);
     if (found == nullptr || found->components == 1)

@@ -4,7 +4,6 @@
 #include "host/core/DataSet.h"
 
 #include <string>
-#include <utility>
 
 namespace corvane::scene {
 
@@ -17,10 +16,6 @@ struct VariableRef {
 };
 
 VariableRef variableRef(const std::string& name);
-
-/// The values that the reference can have in the data; 0..0 when there is no such variable. Of
-/// components only the bound by the vector's length is known.
-std::pair<double, double> rangeOf(const VariableRef& variable, const host::DataSet& data);
 
 /// How a legend names it: "p", "|U|", "U X".
 std::string displayName(const VariableRef& variable, const host::DataSet& data);
