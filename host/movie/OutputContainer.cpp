@@ -43,7 +43,6 @@ void OutputContainer::addStream(const StreamShape& shape) {
     m_stream->sample_aspect_ratio = m_stream->codecpar->sample_aspect_ratio;
     m_stream->time_base = shape.timeBase;
     m_stream->avg_frame_rate = shape.rate;
-    m_stream->r_frame_rate = shape.rate;
     m_timeBase = shape.timeBase;
 }
 

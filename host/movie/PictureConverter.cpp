@@ -25,8 +25,8 @@ std::string sizeText(int width, int height) {
 }
 
 /// Repeats the last of the pixels that a row has until the row is full.
-void repeatLastPixel(std::uint8_t* row, int pixels, int wanted) {
-    for (int x = pixels; x < wanted; ++x)
+void repeatLastPixel(std::uint8_t* row, std::ptrdiff_t pixels, std::ptrdiff_t wanted) {
+    for (std::ptrdiff_t x = pixels; x < wanted; ++x)
         std::memcpy(row + 4 * x, row + 4 * (pixels - 1), 4);
 }
 

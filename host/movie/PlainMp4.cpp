@@ -63,7 +63,6 @@ void copyPlain(const std::string& from, const std::string& to) {
     StreamShape shape;
     shape.codec = stream.codecpar;
     shape.timeBase = stream.time_base;
-    shape.rate = stream.avg_frame_rate;
     OutputContainer output("mp4", toCheck);
     output.begin(shape, {{"movflags", "+faststart"}});
     copyPackets(*input, output, fromCheck);

@@ -39,14 +39,5 @@ TEST(KilledWriterDeathTest, leavesAMovieOfAllButTheLastSeconds) {
               30.0);
 }
 
-TEST(KilledWriterDeathTest, keepsWhatAnEarlierMovieAtTheSamePathHadNot) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const TestFolder folder;
-    writeMovingMovie(movieRequest(folder.path("movie.mp4"), 64, 48), 200);
-    EXPECT_EXIT(writeUntilKilled(folder.path("movie.mp4"), 120), testing::KilledBySignal(SIGKILL),
-                "");
-    EXPECT_EQ(DecodedMovie(folder.path("movie.mp4")).width, width);
-}
-
 } // namespace
 } // namespace corvane::movie_test

@@ -30,20 +30,30 @@ void paintPatch(host::Picture& picture, int left, int top, int size, const Color
     }
 }
 
+/// One period of a wave as levels of a colour, for places 0 to size - 1 of a picture.
+std::vector<std::uint8_t> wave(int size, double strength, double phase) {
+    std::vector<std::uint8_t> levels;
+    for (int i = 0; i < size; ++i) {
+        const double angle = 6.28 * i / size + phase;
+        levels.push_back(
+            static_cast<std::uint8_t>(std::lround(127.5 + 100.0 * strength * std::sin(angle))));
+    }
+    return levels;
+}
+
 /// Shading like that of a lit surface, moving to the left. It is gentle where pictures are small,
 /// since movies keep one colour for several pixels.
 void paintShading(host::Picture& picture, int n) {
     const double strength = std::min(1.0, std::min(picture.width, picture.height) / 128.0);
+    const auto red = wave(picture.width, strength, 24.0 * n / picture.width);
+    const auto green = wave(picture.height, strength, 1.0);
+    const auto blue = wave(picture.width + picture.height, strength, 0.1 * n);
+    auto* at = picture.rgba.data();
     for (int y = 0; y < picture.height; ++y) {
-        for (int x = 0; x < picture.width; ++x) {
-            const double across = (x + 4.0 * n) / picture.width;
-            const double down = static_cast<double>(y) / picture.height;
-            const auto level = [strength](double value) {
-                return static_cast<std::uint8_t>(std::lround(127.5 + 100.0 * strength * value));
-            };
-            paint(picture, x, y,
-                  {level(std::sin(6.0 * across)), level(2.0 * down - 1.0),
-                   level(std::cos(5.0 * (across + down)))});
+        for (int x = 0; x < picture.width; ++x, at += 4) {
+            at[0] = red[static_cast<std::size_t>(x)];
+            at[1] = green[static_cast<std::size_t>(y)];
+            at[2] = blue[static_cast<std::size_t>(x) + static_cast<std::size_t>(y)];
         }
     }
 }
@@ -68,10 +78,8 @@ host::Picture uniformPicture(int width, int height, const Color& color) {
     picture.height = height;
     picture.rgba.assign(4U * static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                         255);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
-            paint(picture, x, y, color);
-    }
+    for (std::size_t i = 0; i < picture.rgba.size(); i += 4)
+        std::copy(color.begin(), color.end(), picture.rgba.data() + i);
     return picture;
 }
 
