@@ -6,6 +6,7 @@
 
 #include <string>
 #include <tuple>
+#include <utility>
 
 namespace corvane::host {
 
@@ -30,6 +31,10 @@ public:
     bool misuse(const std::string& what) const;
 
 private:
+    template <class Work, class AppendResult>
+    void run(bool hasResult, const Work& work, const AppendResult& appendResult) const;
+    template <class Step>
+    void guarded(const Step& step) const;
     std::string text() const;
 
     const char* m_operation;
@@ -66,52 +71,57 @@ std::string TracedCall<Arguments...>::text() const {
 }
 
 template <class... Arguments>
-template <class Result, class Work>
-Result TracedCall<Arguments...>::answer(Result failure, const Work& work) const {
-    Application* const application = Application::current();
-    if (!application) {
-        return failure;
-    }
-    const bool proceeds = mayProceed(application->trace(), m_operation, true);
-    Result result = failure;
+template <class Step>
+void TracedCall<Arguments...>::guarded(const Step& step) const {
     try {
-        // The arguments as they came: the work may free what they point to.
-        const bool isTraced = application->trace().isOn();
-        std::string call = isTraced ? text() : std::string();
-        if (proceeds) {
-            result = work(*application);
-        }
-        if (isTraced) {
-            std::string resultText;
-            appendValue(resultText, result);
-            record(*application, std::move(call), std::move(resultText));
-        }
+        step();
     } catch (...) {
         reportException(m_operation);
     }
+}
+
+template <class... Arguments>
+template <class Work, class AppendResult>
+void TracedCall<Arguments...>::run(bool hasResult, const Work& work,
+                                   const AppendResult& appendResult) const {
+    Application* const application = Application::current();
+    if (!application) {
+        return;
+    }
+    const bool proceeds = mayProceed(application->trace(), m_operation, hasResult);
+    const bool isTraced = application->trace().isOn();
+    std::string call;
+    guarded([&] {
+        if (isTraced) {
+            call = text(); // before the work, which may free what the arguments point to
+        }
+        if (proceeds) {
+            work(*application);
+        }
+    });
+    guarded([&] {
+        if (isTraced) {
+            std::string result;
+            appendResult(result);
+            record(*application, std::move(call), std::move(result));
+        }
+    });
+}
+
+template <class... Arguments>
+template <class Result, class Work>
+Result TracedCall<Arguments...>::answer(Result failure, const Work& work) const {
+    Result result = failure;
+    run(
+        true, [&](Application& application) { result = work(application); },
+        [&](std::string& text) { appendValue(text, result); });
     return result;
 }
 
 template <class... Arguments>
 template <class Work>
 void TracedCall<Arguments...>::perform(const Work& work) const {
-    Application* const application = Application::current();
-    if (!application) {
-        return;
-    }
-    const bool proceeds = mayProceed(application->trace(), m_operation, false);
-    try {
-        const bool isTraced = application->trace().isOn();
-        std::string call = isTraced ? text() : std::string();
-        if (proceeds) {
-            work(*application);
-        }
-        if (isTraced) {
-            record(*application, std::move(call), {});
-        }
-    } catch (...) {
-        reportException(m_operation);
-    }
+    run(false, work, [](std::string&) {});
 }
 
 template <class... Arguments>

@@ -30,10 +30,12 @@ void ScriptedCalls::throwAt(std::string operation, std::size_t k) {
 
 void ScriptedCalls::failAt(std::size_t k) {
     m_failAt = k;
+    m_hasFailedAt = false;
 }
 
 bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
     if (hasResult && !cannotFail(operation) && m_failAt > 0 && --m_failAt == 0) {
+        m_hasFailedAt = true;
         return false;
     }
     bool proceeds = true;

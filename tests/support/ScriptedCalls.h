@@ -18,7 +18,7 @@ public:
     bool mayProceed(std::string_view operation, bool hasResult);
 
     /// Whether the call that failAt() chose has come.
-    bool hasFailedAt() const { return m_failAt == 0; }
+    bool hasFailedAt() const { return m_hasFailedAt; }
     /// Entries that no call ever met, as sentences: a name may be misspelt.
     std::vector<std::string> unmet() const;
 
@@ -33,7 +33,8 @@ private:
     static bool apply(Entry& entry);
 
     std::vector<Entry> m_entries;
-    std::size_t m_failAt = 0;
+    std::size_t m_failAt = 0; ///< 0: none
+    bool m_hasFailedAt = false;
 };
 
 } // namespace corvane::test

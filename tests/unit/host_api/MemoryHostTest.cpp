@@ -90,6 +90,7 @@ TEST(MemoryHostTest, callsCanThrow) {
 
 TEST(MemoryHostTest, anyCallWithAResultCanBeTheOneThatFails) {
     MemoryHost host;
+    EXPECT_FALSE(host.hasFailedAt());
     host.failAt(2);
     CorUtilLockStart(nullptr);
     EXPECT_EQ(CorUtilFrameGetCount(), 1);

@@ -84,6 +84,8 @@ TEST_F(TracedCallTest, exceptionsOfTheHostBecomeTheFailureValue) {
     host::TracedCall("Third").perform([](host::Application&) { throw std::bad_alloc(); });
     EXPECT_EQ(first, -1);
     EXPECT_EQ(second, -2);
+    EXPECT_EQ(lastLine(), "Third() [0]");
+    EXPECT_EQ(host::toString(host.records().front()), "First() = -1 [0]");
 }
 
 TEST_F(TracedCallTest, aListenerThatTakesItselfAwayDuringACallGetsNoRecord) {
