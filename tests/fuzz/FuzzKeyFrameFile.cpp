@@ -1,0 +1,80 @@
+// Any bytes as a key frame file: they are refused with nothing changed, or what was read survives
+// being written and read again.
+#include "addon/engine/KeyFrameError.h"
+#include "addon/file/KeyFrameFile.h"
+#include "addon/model/ListModelKeyFrame.h"
+#include "tests/fuzz/Require.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace corvane::corutiltools;
+using corvane::fuzz::require;
+
+struct Flight {
+    Settings_s settings{
+        {false, TimeAnimationOperation_Forward, 1}, Destination_OnScreen, false, false, false};
+    ListModelKeyFrame model;
+};
+
+std::string written(Flight const& flight) {
+    std::ostringstream stream;
+    KeyFrameFile().write(stream, flight.settings, flight.model);
+    return stream.str();
+}
+
+bool isKnownRefusal(std::string_view message) {
+    return message == "Invalid file header." ||
+           message == "File created with a newer version of the Key Frame add-on." ||
+           (message.starts_with("Error reading key frame settings file.\n\n") &&
+            message.find("\n\nError occurred on line number ") != std::string_view::npos);
+}
+
+// False when the text is refused.
+bool read(std::string const& text, Flight& flight) {
+    std::string const before = written(flight);
+    std::istringstream stream(text);
+    try {
+        KeyFrameFile().read(stream, flight.settings, flight.model);
+        return true;
+    } catch (KeyFrameError const& error) {
+        // A line that is quoted may hold a zero byte, where what() ends for us.
+        require(isKnownRefusal(error.what()) || text.find('\0') != std::string::npos,
+                "a refusal has a known text");
+    } catch (std::out_of_range const&) {
+        // A key frame without position or angle.
+    }
+    require(written(flight) == before, "a refusal changes nothing");
+    return false;
+}
+
+// Key frames may lack a name or a frame count, but neither can be written so that it is read again.
+bool canBeReadAgain(Flight const& flight) {
+    std::vector<KeyFrame_s> const& keyFrames = flight.model.dataList();
+    return std::all_of(keyFrames.begin(), keyFrames.end(), [](KeyFrame_s const& keyFrame) {
+        return !keyFrame.name.empty() && keyFrame.frameCount != 0;
+    });
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    Flight first;
+    if (!read(std::string(reinterpret_cast<char const*>(data), size), first))
+        return 0;
+    std::string const text = written(first);
+    Flight second;
+    bool const survives = read(text, second);
+    require(survives == canBeReadAgain(first), "what was read survives being written");
+    if (survives)
+        require(written(second) == text, "what was read twice is written alike");
+    return 0;
+}
