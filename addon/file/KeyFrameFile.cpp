@@ -6,6 +6,7 @@
 
 #include <fstream>
 #include <locale>
+#include <stdexcept>
 #include <string_view>
 
 namespace corvane::corutiltools {
@@ -254,8 +255,18 @@ void KeyFrameFile::readKeyFrameView(std::istream& stream, View& view, unsigned l
             break;
         }
     }
-    view = View(position.at(0), position.at(1), position.at(2), angle.at(0), angle.at(1),
-                angle.at(2), width);
+    requireItem(position, KeyFrameItem_Position);
+    requireItem(angle, KeyFrameItem_Angle);
+    view = View(position[0], position[1], position[2], angle[0], angle[1], angle[2], width);
+}
+
+// The same kind of error as reading past the end of the values, but with a text that tells users
+// what to mend.
+void KeyFrameFile::requireItem(std::vector<double> const& values, KeyFrameItem_e item) const {
+    if (values.empty())
+        throw std::out_of_range("The key frame view that ends on line number " +
+                                std::to_string(m_lineCounter) + " of the key frame file has no " +
+                                keyword(item) + " entry.");
 }
 
 std::string KeyFrameFile::readName(std::istringstream const& lineStream) {

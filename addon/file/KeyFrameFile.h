@@ -77,6 +77,7 @@ private:
     void readSetting(std::istringstream& lineStream, Setting_e setting, Settings_s& settings);
     void readKeyFrameView(std::istream& stream, View& view, unsigned long& frameCount,
                           std::string& name, double& solutionTime);
+    void requireItem(std::vector<double> const& values, KeyFrameItem_e item) const;
 
     static std::string readWord(std::istringstream& lineStream);
     bool readBoolean(std::istringstream& lineStream, Setting_e setting);

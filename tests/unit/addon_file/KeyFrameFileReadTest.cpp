@@ -340,6 +340,17 @@ TEST(KeyFrameFileRead, failsWithoutPlace) {
     }
 }
 
+TEST(KeyFrameFileRead, namesThePlaceThatIsMissing) {
+    ReadResult result;
+    try {
+        read(header + "%KeyFrameView\nPosition 1 2 3\n%KeyFrameView\n", result);
+        ADD_FAILURE() << "a view without angles was read";
+    } catch (std::out_of_range const& error) {
+        EXPECT_STREQ(error.what(), "The key frame view that ends on line number 4 of the key frame "
+                                   "file has no Angle entry.");
+    }
+}
+
 TEST(KeyFrameFileRead, takesNamesBetweenTheFirstTwoQuotes) {
     for (auto const& [line, name] :
          std::vector<std::pair<std::string, std::string>>{{"Name \"a\"", "a"},
