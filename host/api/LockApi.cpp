@@ -8,10 +8,10 @@ using namespace corvane::host;
 namespace {
 
 void release(Application& app, const auto& call, CorAddOnID id) {
-    if (!app.locks().finish(id)) {
-        call.misuse("no such lock is held");
-    } else if (app.locks().depth() == 0) {
+    if (app.locks().finish(id)) {
         app.drawing().drawIfDue();
+    } else {
+        call.misuse("no such lock is held");
     }
 }
 

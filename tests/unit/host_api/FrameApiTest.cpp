@@ -80,6 +80,16 @@ TEST_F(FrameApiTest, pushingVisitsEachFrameAndRestoresTheOrder) {
     EXPECT_EQ(host.renderer().renders(), 0U);
 }
 
+TEST_F(FrameApiTest, aStackInAnotherOrderIsDrawnAgainThoughTheSameFrameIsActive) {
+    CorUtilFrameActivateByUniqueID(second);
+    CorUtilRedraw(TRUE);
+    heard.clear();
+    CorUtilFramePushTop();
+    EXPECT_EQ(CorUtilFrameGetUniqueID(), second);
+    EXPECT_THAT(heard, IsEmpty());
+    EXPECT_TRUE(host.app().drawing().isMarked());
+}
+
 TEST_F(FrameApiTest, aVisitAnswersForEachFrameAndChangesNothing) {
     std::vector<long> visited;
     std::vector<double> lefts;

@@ -46,11 +46,23 @@ class MacroApiTest : public HostTest {
 protected:
     MacroApiTest() {
         script = {};
+        countFreedStrings();
         CorUtilMacroAddCommandCallback("Kites", &runCommand);
     }
 
     std::optional<std::string> run(const std::string& command) {
         return (*host.app().addOnCommands().find("Kites"))(command);
+    }
+
+    int freedStrings = 0;
+
+private:
+    void countFreedStrings() {
+        auto& onEnter = host.app().trace().onEnter;
+        onEnter = [this, inner = onEnter](const char* operation, bool hasResult) {
+            freedStrings += std::strcmp(operation, "CorUtilStringDealloc") == 0 ? 1 : 0;
+            return inner(operation, hasResult);
+        };
     }
 };
 
@@ -72,6 +84,7 @@ TEST_F(MacroApiTest, aFailureBringsItsMessage) {
     script.result = FALSE;
     script.message = "Kites error:\nno wind";
     EXPECT_EQ(run("fly"), "Kites error:\nno wind");
+    EXPECT_EQ(freedStrings, 1);
 }
 
 TEST_F(MacroApiTest, aFailureMayHaveNoMessage) {
@@ -82,6 +95,7 @@ TEST_F(MacroApiTest, aFailureMayHaveNoMessage) {
 TEST_F(MacroApiTest, theMessageOfASuccessIsFreedAndIgnored) {
     script.message = "all is well";
     EXPECT_EQ(run("fly"), std::nullopt);
+    EXPECT_EQ(freedStrings, 1);
 }
 
 TEST_F(MacroApiTest, anExceptionIsAFailureAndLeavesNoLocks) {
@@ -89,6 +103,7 @@ TEST_F(MacroApiTest, anExceptionIsAFailureAndLeavesNoLocks) {
     script.locks = true;
     script.message = "freed as well";
     EXPECT_EQ(run("fly"), "thrown by the add-on");
+    EXPECT_EQ(freedStrings, 1);
     EXPECT_EQ(host.app().locks().depth(), 0);
     EXPECT_EQ(host.app().drawing().suspensions(), 0);
 }
