@@ -32,7 +32,12 @@ void openKeyFrames(host::Application& application, const std::string& fileName) 
                               "\" has a double quote in its name, which the command that opens it "
                               "cannot carry; rename the file.");
     }
-    runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
+    try {
+        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
+    } catch (const host::HostError& error) {
+        // The add-on's texts tell what is wrong, but not with which file.
+        throw host::HostError("Cannot open the key frame file " + fileName + ": " + error.what());
+    }
 }
 
 void setUpMovie(host::Application& application, const Options& options, double speed) {

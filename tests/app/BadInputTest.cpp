@@ -83,7 +83,7 @@ TEST_F(BadInput, dataOfAnUnknownKind) {
 TEST_F(BadInput, missingKeyFrameFile) {
     auto arguments = shortRun(folder, movie);
     arguments[2] = folder.file("none.keyframe");
-    expectFailure(arguments, {"Unable to open file for reading."});
+    expectFailure(arguments, {"none.keyframe", "Unable to open file for reading."});
 }
 
 TEST_F(BadInput, keyFrameFileWithAQuoteInItsName) {
