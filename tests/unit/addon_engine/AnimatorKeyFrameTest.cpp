@@ -38,9 +38,12 @@ protected:
     KeyFrames const& keyFrames() { return GetParam().keyFrames; }
 };
 
+// The longest one is left to the test of drift, as it only repeats the shortest one's steps.
 std::vector<FlightCase> playableFlights() {
     std::vector<FlightCase> flights = flightCases();
-    std::erase_if(flights, [](FlightCase const& flight) { return flight.keyFrames.size() < 2; });
+    std::erase_if(flights, [](FlightCase const& flight) {
+        return flight.keyFrames.size() < 2 || flight.name == "HugeCount";
+    });
     return flights;
 }
 

@@ -12,7 +12,6 @@
 
 namespace corvane::test {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
@@ -33,6 +32,9 @@ protected:
     }
     /// Without arguments, except where that is a lone TRUE or FALSE.
     std::vector<std::string> callNames();
+
+    /// For flights whose calls would fill the memory: from now on calls() stays as it is.
+    void stopRemembering() { host.app().trace().onCall = nullptr; }
 
     /// Nothing is locked or suspended, and no percent-done display is open.
     bool hostIsAtRest();

@@ -1,6 +1,7 @@
 // The interpolated views against closed forms.
 #include "addon/engine/AnimatorKeyFrame.h"
 
+#include "addon/shell/HostLock.h"
 #include "tests/cases/FlightCases.h"
 #include "tests/unit/addon_engine/EngineTest.h"
 
@@ -12,12 +13,21 @@ namespace corvane::test {
 namespace {
 
 using corutiltools::AnimatorKeyFrame;
+using corutiltools::HostLock;
 using corutiltools::View;
 
 class InterpolationTest : public EngineTest {
 protected:
+    InterpolationTest() { stopRemembering(); }
+
     std::vector<View> viewsOf(std::string const& flight) {
-        return AnimatorKeyFrame(flightCase(flight).keyFrames, nullptr).views();
+        return viewsOf(flightCase(flight).keyFrames);
+    }
+
+    std::vector<View> viewsOf(KeyFrames const& keyFrames) {
+        // As the driver does: without a lock around it, the host would draw between the calls.
+        HostLock const lock;
+        return AnimatorKeyFrame(keyFrames, nullptr).views();
     }
 };
 
@@ -195,10 +205,13 @@ TEST_F(InterpolationTest, everySegmentArrivesAtItsKeyView) {
 }
 
 TEST_F(InterpolationTest, longFlightsDoNotDrift) {
-    std::vector<View> const views = viewsOf("HugeCount");
-    ASSERT_EQ(views.size(), 10001u);
-    for (std::size_t i = 0; i < 10000; i += 100) {
-        double const share = static_cast<double>(i) / 10000.0;
+    KeyFrames keyFrames = flightCase("HugeCount").keyFrames;
+    // Enough to see a drift, and short enough for every run of the tests.
+    keyFrames[0].frameCount = 2000;
+    std::vector<View> const views = viewsOf(keyFrames);
+    ASSERT_EQ(views.size(), 2001u);
+    for (std::size_t i = 0; i < 2000; i += 100) {
+        double const share = static_cast<double>(i) / 2000.0;
         expectNear(views[i], viewOfCentre(60.0, between(240.0, 360.0, share), 0.0, 10.0, 4.0), i);
     }
     EXPECT_LT(unevenness(views), 0.01);
