@@ -13,7 +13,7 @@ using host::Color;
 
 namespace {
 
-constexpr int maximumTicks = 7;
+constexpr int maximumTicks = 9;
 constexpr int stripes = 256;
 
 // Parts of the frame's height.

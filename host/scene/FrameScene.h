@@ -4,6 +4,7 @@
 #include "host/core/Frame.h"
 #include "host/scene/ColorBar.h"
 #include "host/scene/ContourColors.h"
+#include "host/scene/FrameRenderer.h"
 #include "host/scene/OrientationAxis.h"
 #include "host/scene/Outline.h"
 #include "host/scene/PixelRect.h"
@@ -53,7 +54,7 @@ private:
     host::Bounds shownBounds() const;
 
     std::shared_ptr<SceneStatistics> m_statistics;
-    vtkNew<vtkRenderer> m_renderer;
+    vtkNew<FrameRenderer> m_renderer;
     vtkSmartPointer<vtkLight> m_light;
     ContourColors m_colors;
     Outline m_outline;

@@ -5,13 +5,14 @@
 #include "host/scene/EnSightFile.h"
 #include "host/scene/ExodusFile.h"
 #include "host/scene/OpenFoamFile.h"
+#include "host/scene/PlyFile.h"
 #include "host/scene/ReadError.h"
 #include "host/scene/VtkMeshFile.h"
 
+#include <vtkDataSetAttributes.h>
 #include <vtkGenericDataObjectReader.h>
 #include <vtkNew.h>
 #include <vtkOBJReader.h>
-#include <vtkPLYReader.h>
 #include <vtkPolyData.h>
 #include <vtkSTLReader.h>
 #include <vtkXMLGenericDataObjectReader.h>
@@ -45,8 +46,15 @@ private:
             reader->ReadAllFieldsOn();
         }
         reader->Update();
-        return reader->GetOutputDataObject(0);
+        vtkDataObject* const object = reader->GetOutputDataObject(0);
+        if constexpr (std::is_same_v<vtkOBJReader, Reader>)
+            // It numbers groups and materials, which are no quantities.
+            object->GetAttributes(vtkDataObject::CELL)->Initialize();
+        return object;
     }
+
+    /// These readers only warn when a file ends too early.
+    bool areWarningsErrors() const override { return std::is_base_of_v<vtkDataReader, Reader>; }
 };
 
 using Opener = std::unique_ptr<MeshFile> (*)(const std::string&);
@@ -59,7 +67,7 @@ std::unique_ptr<MeshFile> openAs(const std::string& path) {
 constexpr Opener openXml = openAs<SimpleMeshFile<vtkXMLGenericDataObjectReader>>;
 constexpr Opener openLegacy = openAs<SimpleMeshFile<vtkGenericDataObjectReader>>;
 constexpr Opener openStl = openAs<SimpleMeshFile<vtkSTLReader>>;
-constexpr Opener openPly = openAs<SimpleMeshFile<vtkPLYReader>>;
+constexpr Opener openPly = openAs<PlyFile>;
 constexpr Opener openObj = openAs<SimpleMeshFile<vtkOBJReader>>;
 constexpr Opener openFoam = openAs<OpenFoamFile>;
 constexpr Opener openEnSight = openAs<EnSightFile>;

@@ -8,6 +8,7 @@
 #include <vtkPointData.h>
 
 #include <array>
+#include <cmath>
 
 namespace corvane::scene {
 
@@ -23,13 +24,23 @@ void setNormals(vtkPolyData& slice, const std::array<double, 3>& normal) {
     slice.GetPointData()->SetNormals(normals);
 }
 
+/// A plane in the lower face of a mesh would cut nothing, one in the upper face all of it.
+double movedInside(vtkDataSet& mesh, std::size_t axis, double position) {
+    std::array<double, 6> box{};
+    mesh.GetBounds(box.data());
+    const double low = box[2 * axis];
+    const double room = 1e-6 * (box[2 * axis + 1] - low);
+    return std::abs(position - low) <= room ? low + room : position;
+}
+
 } // namespace
 
 vtkSmartPointer<vtkPolyData> sliceOf(vtkDataSet& mesh, int axis, double position) {
+    const auto across = static_cast<std::size_t>(axis - 1);
     std::array<double, 3> normal{};
-    normal[static_cast<std::size_t>(axis - 1)] = 1.0;
+    normal[across] = 1.0;
     std::array<double, 3> origin{};
-    origin[static_cast<std::size_t>(axis - 1)] = position;
+    origin[across] = movedInside(mesh, across, position);
 
     const vtkNew<vtkPlane> plane;
     plane->SetNormal(normal.data());

@@ -28,7 +28,7 @@ std::string format(const char* pattern, int digits, double value) {
 
 std::string label(double value, double step, double largest) {
     const int decimals = static_cast<int>(-std::floor(std::log10(step) + 1e-9));
-    if (largest < 1e5 && decimals <= 4)
+    if (largest < 1e7 && decimals <= 4)
         return format("%.*f", std::max(0, decimals), value);
     const int digits = static_cast<int>(std::floor(std::log10(largest) + 1e-9)) + decimals + 1;
     return format("%.*g", std::clamp(digits, 1, 15), value);

@@ -44,7 +44,7 @@ void VariableRanges::add(vtkDataSet& mesh) {
 void VariableRanges::addArrays(vtkDataSetAttributes& attributes) {
     for (int i = 0; i < attributes.GetNumberOfArrays(); ++i)
         if (auto* const array = attributes.GetArray(i))
-            if (isVariable(*array, array->GetName()))
+            if (array != attributes.GetNormals() && isVariable(*array, array->GetName()))
                 addArray(*array);
 }
 

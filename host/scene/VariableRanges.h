@@ -28,8 +28,9 @@ struct VariableRange {
     std::array<ValueRange, 3> ofComponents;
 };
 
-/// Scalars and vectors of the points and the cells, in the order in which they are met first. Of
-/// arrays with the same name but another number of components the first one counts.
+/// Scalars and vectors of the points and the cells, in the order in which they are met first,
+/// without the normals of surfaces. Of arrays with the same name but another number of components
+/// the first one counts.
 class VariableRanges {
 public:
     void add(vtkDataSet& mesh);

@@ -1,6 +1,7 @@
 // Files that one of VTK's readers reads whole.
 #include "host/scene/VtkMeshFile.h"
 
+#include "host/scene/MeshCheck.h"
 #include "host/scene/MeshParts.h"
 #include "host/scene/ReadError.h"
 #include "host/scene/VtkMessages.h"
@@ -11,11 +12,14 @@ std::vector<MeshPart> VtkMeshFile::read(int /*step*/) const {
     checkReadable(path());
     const VtkMessages messages;
     const auto object = readObject();
-    if (messages.hasErrors())
+    if (messages.hasErrors() || (areWarningsErrors() && messages.hasWarnings()))
         throw readError(path(), messages.reason());
     auto parts = meshParts(object);
     if (parts.empty())
         throw readError(path(), "it holds no mesh");
+    for (const MeshPart& part : parts)
+        if (!isSound(*part.mesh))
+            throw readError(path(), "it is damaged");
     return parts;
 }
 

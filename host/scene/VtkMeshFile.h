@@ -17,6 +17,7 @@ public:
 protected:
     /// Runs the reader; errors that it reports to VTK are collected by the caller.
     virtual vtkSmartPointer<vtkDataObject> readObject() const = 0;
+    virtual bool areWarningsErrors() const { return false; }
 };
 
 } // namespace corvane::scene

@@ -16,14 +16,18 @@ public:
     VtkMessages& operator=(const VtkMessages&) = delete;
 
     bool hasErrors() const { return !m_errors.empty(); }
-    /// The first error without VTK's decoration (source file, line, class, address), on one line
-    /// and without a full stop; empty without errors.
+    bool hasWarnings() const { return !m_warnings.empty(); }
+    /// The first error, else the first warning, without VTK's decoration (source file, line, class,
+    /// address), on one line and without a full stop. Without any that says something, a general
+    /// sentence.
     std::string reason() const;
 
     void addError(const char* text) { m_errors.emplace_back(text); }
+    void addWarning(const char* text) { m_warnings.emplace_back(text); }
 
 private:
     std::vector<std::string> m_errors;
+    std::vector<std::string> m_warnings;
     VtkMessages* m_outer;
 };
 

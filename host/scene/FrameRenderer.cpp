@@ -1,0 +1,29 @@
+// VTK's renderer, with see-through surfaces in the right order.
+#include "host/scene/FrameRenderer.h"
+
+#include <vtkDepthPeelingPass.h>
+#include <vtkNew.h>
+#include <vtkObjectFactory.h>
+#include <vtkTranslucentPass.h>
+
+namespace corvane::scene {
+
+namespace {
+
+/// Each layer costs one more drawing of what can be seen through; peeling ends when none is left.
+constexpr int mostLayers = 16;
+
+} // namespace
+
+vtkStandardNewMacro(FrameRenderer);
+
+FrameRenderer::FrameRenderer() {
+    SetMaximumNumberOfPeels(mostLayers);
+    SetOcclusionRatio(0.0);
+    const vtkNew<vtkTranslucentPass> layer;
+    // The base class deletes it.
+    DepthPeelingPass = vtkDepthPeelingPass::New();
+    DepthPeelingPass->SetTranslucentPass(layer);
+}
+
+} // namespace corvane::scene
