@@ -31,8 +31,7 @@ void EncoderThread::add(host::Picture picture) {
     std::unique_lock lock(m_mutex);
     if (m_hasEnded)
         throw std::logic_error("a picture was added to a finished movie");
-    m_queueChanged.wait(lock,
-                        [this] { return !m_failure.empty() || m_waiting.size() < m_mostWaiting; });
+    m_queueChanged.wait(lock, [this] { return m_waiting.size() < m_mostWaiting; });
     throwFailure();
     m_waiting.push_back(std::move(picture));
     m_queueChanged.notify_all();
@@ -88,7 +87,7 @@ bool EncoderThread::takeNext(host::Picture& picture) {
 void EncoderThread::keepFailure(const std::string& reason) {
     const std::lock_guard lock(m_mutex);
     m_failure = reason;
-    m_waiting.clear();
+    m_waiting.clear(); // an add() that waits may go on, and throw
     m_queueChanged.notify_all();
 }
 

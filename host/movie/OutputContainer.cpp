@@ -54,8 +54,6 @@ void OutputContainer::write(AVPacket* packet) {
 
 void OutputContainer::finish() {
     m_check(av_write_trailer(m_context.get()), "writing the file's end");
-    avio_flush(m_context->pb);
-    m_check(m_context->pb->error, "writing the file's end");
     m_check(avio_closep(&m_context->pb), "closing the file");
 }
 

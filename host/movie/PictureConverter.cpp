@@ -70,8 +70,8 @@ void PictureConverter::makeScaler() {
     // Colours shared between pixels sit where the encoders' streams say: at the left one of two.
     set("dst_h_chr_pos", 0);
     set("dst_v_chr_pos", 128);
-    // Without the full chroma input every second pixel's colour would be left out, and with it
-    // thin upright lines.
+    // Without the full chroma input pairs of pixels would be averaged first, which places their
+    // colour between them all the same.
     set("sws_flags", SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INP);
     m_check(sws_init_context(m_scaler.get(), nullptr, nullptr), "setting up the colours");
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace corvane::movie {
 namespace {
 
@@ -29,7 +31,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Speed{1.0, 1, 1, 1}, Speed{12.345, 2469, 200, 12}, Speed{23.976, 2997, 125, 24},
                     Speed{29.97, 2997, 100, 30}, Speed{30000.0 / 1001.0, 30000, 1001, 30},
                     Speed{30.0, 30, 1, 30}, Speed{59.94, 2997, 50, 60},
-                    Speed{199.999, 199999, 1000, 200}, Speed{200.0, 200, 1, 200}));
+                    Speed{199.999, 199999, 1000, 200}, Speed{200.0, 200, 1, 200}),
+    [](const auto& test) {
+        return std::to_string(test.param.numerator) + "per" +
+               std::to_string(test.param.denominator);
+    });
 
 TEST(FrameRateBound, keepsBothTermsSmall) {
     const AVRational rate = frameRate(199.999, 65535);

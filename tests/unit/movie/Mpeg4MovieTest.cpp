@@ -7,7 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace corvane::movie_test {
 namespace {
@@ -40,7 +42,11 @@ INSTANTIATE_TEST_SUITE_P(Sizes, MovieSize,
                                          Size{301, 200, 4}, Size{16, 16, 8}, Size{4, 4, 8},
                                          Size{4, 3, 3}, Size{2, 2, 3}, Size{1, 1, 3},
                                          Size{1920, 1080, 8}, Size{4096, 64, 3}, Size{64, 4096, 3},
-                                         Size{16384, 32, 2}, Size{16383, 32, 1}));
+                                         Size{16384, 32, 2}, Size{16383, 32, 1}),
+                         [](const auto& test) {
+                             return std::to_string(test.param.width) + "x" +
+                                    std::to_string(test.param.height);
+                         });
 
 struct Speed {
     double framesPerSecond;
@@ -71,7 +77,11 @@ INSTANTIATE_TEST_SUITE_P(Speeds, MovieSpeed,
                          testing::Values(Speed{0.001, 1, 1000}, Speed{0.5, 1, 2}, Speed{1, 1, 1},
                                          Speed{23.976, 2997, 125}, Speed{29.97, 2997, 100},
                                          Speed{30, 30, 1}, Speed{59.94, 2997, 50}, Speed{60, 60, 1},
-                                         Speed{199.999, 199999, 1000}, Speed{200, 200, 1}));
+                                         Speed{199.999, 199999, 1000}, Speed{200, 200, 1}),
+                         [](const auto& test) {
+                             return std::to_string(test.param.numerator) + "per" +
+                                    std::to_string(test.param.denominator);
+                         });
 
 TEST(Mpeg4Movie, isWhatCommonPlayersTake) {
     const TestFolder folder;
@@ -111,6 +121,11 @@ TEST(Mpeg4Movie, givesTheSamePicturesOneByOne) {
         EXPECT_EQ(movie.picture(n), pictures[static_cast<std::size_t>(n)]);
 }
 
+std::string textOf(const Color& color) {
+    return "r" + std::to_string(color[0]) + "g" + std::to_string(color[1]) + "b" +
+           std::to_string(color[2]);
+}
+
 /// Strong colours come back within a few levels, whatever matrix a player would have guessed for
 /// the size: large movies and small ones are guessed at differently.
 class MovieColor : public testing::TestWithParam<Color> {};
@@ -134,7 +149,8 @@ INSTANTIATE_TEST_SUITE_P(Colors, MovieColor,
                          testing::Values(Color{255, 0, 0}, Color{0, 255, 0}, Color{0, 0, 255},
                                          Color{255, 255, 0}, Color{0, 255, 255}, Color{255, 0, 255},
                                          Color{255, 255, 255}, Color{0, 0, 0}, Color{128, 128, 128},
-                                         Color{200, 100, 50}));
+                                         Color{200, 100, 50}),
+                         [](const auto& test) { return textOf(test.param); });
 
 TEST(Mpeg4Movie, repeatsTheLastRowAndColumnOfOddSizes) {
     const TestFolder folder;
