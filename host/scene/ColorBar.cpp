@@ -88,7 +88,7 @@ void ColorBar::show(const ContourColors& colors, const std::string& title, const
     TextLook titleLook{std::max(1, size(titleSizePart)), textColor};
     const bool fits = layout.left + TextItem::widthOf(title, titleLook) <= edge;
     titleLook.horizontal = fits ? TextLook::Align::Low : TextLook::Align::High;
-    m_title.show(title, fits ? layout.left : edge, layout.top + 2.0 * size(gapPart), titleLook);
+    m_title.show(title, fits ? layout.left : edge, layout.top + look.size, titleLook);
 }
 
 void ColorBar::drawStrip(const Layout& layout, const ContourColors& colors,

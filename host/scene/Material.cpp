@@ -14,7 +14,7 @@ constexpr double percent = 0.01;
 vtkSmartPointer<vtkLight> makeLight() {
     const auto light = vtkSmartPointer<vtkLight>::New();
     light->SetLightTypeToCameraLight();
-    light->SetPosition(0.35, 0.45, 1.0);
+    light->SetPosition(0.25, 0.35, 1.0);
     light->SetFocalPoint(0.0, 0.0, 0.0);
     return light;
 }
