@@ -81,6 +81,12 @@ TEST(ZonesAtTime, LooksAtEachStrandByItself) {
     EXPECT_THAT(zonesAtTime(data, 10.0), ElementsAre(2, 3, 4));
 }
 
+TEST(ZonesAtTime, AnswersInTheOrderOfTheZones) {
+    DataSet data;
+    data.zones = {zone(1, 0), zone(2, 0), zone(1, 1)};
+    EXPECT_THAT(zonesAtTime(data, 1.0), ElementsAre(1, 2));
+}
+
 TEST(ZonesAtTime, ShowsAllEnabledStaticZonesAtAnyTime) {
     DataSet data;
     data.zones = {zone(0, 5), zone(-1, 6), zone(0, 7, false)};

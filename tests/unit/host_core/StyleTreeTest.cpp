@@ -110,6 +110,14 @@ TEST_F(StyleTreeTest, RefusesNumbersOutOfRange) {
     EXPECT_EQ(count, 3);
 }
 
+TEST_F(StyleTreeTest, RefusesIntegersThatDoNotFitWhereNoRangeIsGiven) {
+    bind({"Unlimited"}, &count);
+    EXPECT_EQ(tree.set({"Unlimited"}, 5L + (1L << 32)), StyleSet_BadValue);
+    EXPECT_EQ(tree.set({"Unlimited"}, std::numeric_limits<long>::min()), StyleSet_BadValue);
+    EXPECT_EQ(count, 3);
+    EXPECT_EQ(tree.set({"Unlimited"}, -5L), StyleSet_Ok);
+}
+
 TEST_F(StyleTreeTest, RefusesWhatTheStateDoesNotAllow) {
     bool allowed = false;
     double value = 1.0;
