@@ -12,7 +12,7 @@ function(corvane_add_test)
     add_executable(${arg_NAME} ${arg_SOURCES})
     target_link_libraries(${arg_NAME} PRIVATE ${arg_LIBS} GTest::gmock GTest::gtest_main Corvane::warnings)
     # Tests spend their time in what they test: optimising them costs minutes and gains nothing.
-    target_compile_options(${arg_NAME} PRIVATE $<$<CONFIG:Release>:-O0>)
+    target_compile_options(${arg_NAME} PRIVATE -O0)
     target_compile_definitions(${arg_NAME} PRIVATE
         CORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" CORVANE_BINARY_DIR="${PROJECT_BINARY_DIR}")
     set_target_properties(${arg_NAME} PROPERTIES
