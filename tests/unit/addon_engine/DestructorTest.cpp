@@ -35,7 +35,7 @@ TEST_F(DestructorDeathTest, streamsCannotPutTheAnchorBack) {
             AnimatorStreams const animator(keyFrames, nullptr);
             host.throwAt("CorUtilStyleSet");
         },
-        "CorUtilStyleSet threw");
+        "terminate called");
 }
 
 TEST_F(DestructorDeathTest, fadeCannotPutTheLightBack) {
@@ -44,7 +44,7 @@ TEST_F(DestructorDeathTest, fadeCannotPutTheLightBack) {
             AnimatorFade const animator(keyFrames, plainSettings(), nullptr);
             host.throwAt("CorUtilStyleSet");
         },
-        "CorUtilStyleSet threw");
+        "terminate called");
 }
 
 TEST_F(DestructorDeathTest, exportCannotBeFinished) {
@@ -56,7 +56,7 @@ TEST_F(DestructorDeathTest, exportCannotBeFinished) {
             animator.drawFrameAtIndex(0);
             host.throwAt("CorUtilExportFinish");
         },
-        "CorUtilExportFinish threw");
+        "terminate called");
 }
 
 } // namespace
