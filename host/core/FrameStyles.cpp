@@ -38,6 +38,11 @@ public:
                 double maximum = unlimited) const {
         bind(ranged(leaf(keyword, &value), minimum, maximum));
     }
+    void flagWhile(const std::string& keyword, bool& value, std::function<bool()> isAllowed) const {
+        StyleLeaf bound = leaf(keyword, &value);
+        bound.isAllowed = std::move(isAllowed);
+        bind(std::move(bound));
+    }
     void positiveWhile(const std::string& keyword, double& value,
                        std::function<bool()> isAllowed) const {
         StyleLeaf bound = ranged(leaf(keyword, &value), leastPositive, unlimited);
@@ -121,7 +126,8 @@ void bindIsoSurface(const Group& group, IsoSurfaceStyle& surface, const NameChec
 
 void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces, const NameCheck& isVector) {
     const Group group(tree, {"Streamtraces"});
-    group.flag("Show", traces.show);
+    // Refused rather than ignored, since the scene does not draw streamtraces.
+    group.flagWhile("Show", traces.show, [] { return false; });
     group.name("Variable", traces.variable, isVector);
     group.integer("SeedKind", traces.seedKind, 1, 2);
     group.point("SeedStart", traces.seedStart);

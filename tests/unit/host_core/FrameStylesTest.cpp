@@ -179,6 +179,12 @@ TEST_F(FrameStylesTest, VariablesAreThoseOfTheData) {
     EXPECT_EQ(set("Streamtraces/Variable", std::string("p")), StyleSet_BadValue);
 }
 
+TEST_F(FrameStylesTest, StreamtracesCannotBeShown) {
+    frame.attachData(fakes::volumeData());
+    EXPECT_EQ(set("Streamtraces/Show", 1L), StyleSet_NotAllowed);
+    EXPECT_FALSE(frame.style.streamtraces.show);
+}
+
 TEST_F(FrameStylesTest, AnyVariableCanBeNamedBeforeThereAreData) {
     EXPECT_EQ(set("Contour/Variable", std::string("later")), StyleSet_Ok);
 }
