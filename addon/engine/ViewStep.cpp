@@ -21,7 +21,7 @@ void rotate(RotateAxis_e axis, double degrees) {
     CorUtilViewRotate3D(axis, degrees, 0.0, 0.0, 0.0, RotateOrigin_Default);
 }
 
-// The order matters: the three turns do not commute.
+// Always in this order: a host may turn in a way that does not commute.
 void rotateByAngles(double psi, double theta, double alpha) {
     rotate(RotateAxis_Alpha, alpha);
     rotate(RotateAxis_Psi, psi);

@@ -172,21 +172,29 @@ bool MacroReader::next(MacroLine& line) {
     return false;
 }
 
+/// Straight from the buffer, since a stream makes much of each byte.
+int MacroReader::nextByte() {
+    try {
+        return m_stream.rdbuf()->sbumpc();
+    } catch (const std::exception&) {
+        fail({}, "The file cannot be read.");
+    }
+}
+
 /// Byte by byte, so that a line without end is given up before it fills the memory.
 bool MacroReader::readLine(std::string& text) {
     text.clear();
     ++m_number;
-    char c = '\0';
-    while (m_stream.get(c) && c != '\n') {
-        text += c;
+    int byte = nextByte();
+    const bool isAtEnd = byte == std::istream::traits_type::eof();
+    while (byte != '\n' && byte != std::istream::traits_type::eof()) {
+        text += static_cast<char>(byte);
         if (text.size() > longestLine) {
             fail(text, "The line is longer than 1 MiB. Is this a macro?");
         }
+        byte = nextByte();
     }
-    if (m_stream.bad()) {
-        fail(text, "The file cannot be read.");
-    }
-    return !text.empty() || !m_stream.eof();
+    return !isAtEnd;
 }
 
 void MacroReader::parse(const std::string& text, MacroLine& line) const {

@@ -41,6 +41,7 @@ public:
     bool next(MacroLine& line);
 
 private:
+    int nextByte();
     bool readLine(std::string& text);
     void parse(const std::string& text, MacroLine& line) const;
     [[noreturn]] void fail(const std::string& text, const std::string& cause) const;

@@ -186,7 +186,7 @@ TEST(EncoderThread, dropsWaitingPicturesWhenDestroyedUnfinished) {
             if (number == 0)
                 started.set_value();
             isDestroying.wait();
-            const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+            const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(120);
             while (writerReady.get()->waiting() > 0 && std::chrono::steady_clock::now() < deadline)
                 std::this_thread::yield();
         }),
