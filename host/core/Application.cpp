@@ -123,6 +123,11 @@ void Application::announce(StyleEffect effect) {
     }
 }
 
+void Application::perform(const std::string& command, const std::vector<std::string>& words) {
+    m_macros.run(command, words);
+    m_recorder.recordRaw(macroLine(command, words));
+}
+
 void Application::openData(const std::vector<std::string>& files) {
     std::shared_ptr<const DataSet> data = m_ports.reader.read(files);
     if (m_page.active() == nullptr) {

@@ -68,6 +68,11 @@ public:
     /// What kind of value stands there; null without one, and where the others do not answer.
     const StyleLeaf* findStyle(const StylePath& path) const;
 
+    /// What a user does in a window, as one command of the macro language: it is carried out, and
+    /// recorded while a macro is being recorded. Throws like MacroPlayer::run; what fails is not
+    /// recorded.
+    void perform(const std::string& command, const std::vector<std::string>& words);
+
     /// Reads the files into the active frame (made when there is none), chooses plots and view, and
     /// tells the listeners. Throws HostError; the data loaded before stay then.
     void openData(const std::vector<std::string>& files);

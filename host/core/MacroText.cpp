@@ -153,6 +153,16 @@ std::string quoted(const std::string& text) {
     return result + '"';
 }
 
+std::string macroLine(const std::string& name, const std::vector<std::string>& words) {
+    std::string line = "$!" + name;
+    for (const std::string& word : words) {
+        const bool isPlain = word == "=" || (!word.empty() && word.find_first_of(" \t\n\r\"\\=") ==
+                                                                  std::string::npos);
+        line += ' ' + (isPlain ? word : quoted(word));
+    }
+    return line;
+}
+
 std::vector<std::string> splitWords(const std::string& text) {
     return Splitter(text).words();
 }

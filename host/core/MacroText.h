@@ -28,6 +28,10 @@ struct MacroLine {
 /// In double quotes, with \" and \\ for quotes and backslashes and \n for line breaks.
 std::string quoted(const std::string& text);
 
+/// The line of a macro that splits into these words again: macroLine("VIEW", {"FIT"}) is
+/// "$!VIEW FIT".
+std::string macroLine(const std::string& name, const std::vector<std::string>& words);
+
 /// Words are separated by blanks and tabs; "=" is a word of its own outside quotes; a word in
 /// double quotes may hold anything, with \", \\ and \n as above. Throws std::invalid_argument with
 /// the cause.

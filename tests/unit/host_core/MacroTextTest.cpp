@@ -61,6 +61,12 @@ TEST(Quoted, SurvivesTheWayThroughAFileWithAnyByte) {
     }
 }
 
+TEST(MacroLineText, QuotesOnlyWhatNeedsIt) {
+    EXPECT_EQ(macroLine("STYLE", {"Slice/1/Show", "=", "true"}), "$!STYLE Slice/1/Show = true");
+    EXPECT_EQ(macroLine("READDATA", {"a b.vtu", ""}), "$!READDATA \"a b.vtu\" \"\"");
+    EXPECT_EQ(macroLine("REDRAW", {}), "$!REDRAW");
+}
+
 class MacroReaderTest : public testing::Test {
 protected:
     std::vector<MacroLine> read(const std::string& text) {
