@@ -1,206 +1,414 @@
-// Dialogs and controls, in a host without windows: none can be made, so creating one answers
-// COR_HANDLE_NOT_CREATED, and every handle is a wrong one, to which nothing happens.
+// Dialogs and controls: finds what a handle means, and turns C callbacks into functions.
 #include "hostapi/CorGui.h"
 
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
+
 using namespace corvane::host;
 
 namespace {
 
-template <class... Arguments>
-int notCreated(const char* operation, Arguments... arguments) {
-    return TracedCall(operation, arguments...).answer(COR_HANDLE_NOT_CREATED, [](Application&) {
-        return COR_HANDLE_NOT_CREATED;
+/// Null for a wrong handle. One that was never set is nothing to complain of: controls are used
+/// before their dialog has been built.
+template <class T, class Call>
+T* find(const Call& call, Application& app, int handle) {
+    T* const found = app.controls().find<T>(handle);
+    if (!found && handle != COR_HANDLE_NOT_CREATED) {
+        call.misuse("no such control: " + std::to_string(handle));
+    }
+    return found;
+}
+
+/// Does work(controls, control) with the control that the handle means.
+template <class T, class Call, class Work>
+void onControl(const Call& call, int handle, const Work& work) {
+    call.perform([&](Application& app) {
+        if (T* const control = find<T>(call, app, handle)) {
+            work(app.controls(), *control);
+        }
     });
 }
 
-template <class... Arguments>
-void ignored(const char* operation, Arguments... arguments) {
-    TracedCall(operation, arguments...).perform([](Application&) {});
+/// The result of query(control); 0 or false for a wrong handle.
+template <class T, class Result, class Call, class Query>
+Result ask(const Call& call, int handle, const Query& query) {
+    return call.answer(Result{}, [&](Application& app) {
+        const T* const control = find<T>(call, app, handle);
+        return control ? static_cast<Result>(query(*control)) : Result{};
+    });
 }
 
-CorBool off(const char* operation, int control) {
-    return TracedCall(operation, control).answer(false, [](Application&) { return false; });
+/// Adds a control that knows everything but its place.
+template <class T, class Call>
+int addControl(const Call& call, int parent, Box box, T control) {
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
+        Dialog* const dialog = find<Dialog>(call, app, parent);
+        control.box = box;
+        return dialog ? app.controls().add(*dialog, std::move(control)) : COR_HANDLE_NOT_CREATED;
+    });
 }
 
-long none(const char* operation, int control) {
-    return TracedCall(operation, control).answer(0L, [](Application&) { return 0L; });
+template <class T, class Call>
+int addEntry(const Call& call, int handle, T entry) {
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
+        Menu* const menu = find<Menu>(call, app, handle);
+        return menu ? app.controls().addEntry(*menu, std::move(entry)) : COR_HANDLE_NOT_CREATED;
+    });
+}
+
+template <class Call>
+int createDialog(const Call& call, int parent, Dialog dialog) {
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
+        return app.controls().createDialog(parent, std::move(dialog));
+    });
+}
+
+Told told(CorGUIVoidCB callback) {
+    return callback ? Told(callback) : Told();
+}
+
+ToldText told(CorGUITextCB callback) {
+    if (!callback) {
+        return {};
+    }
+    return [callback](const std::string& text) { return callback(text.c_str()) != 0; };
+}
+
+/// Of lists, option menus and radio boxes.
+ToldPosition told(CorGUIIndexCB callback) {
+    if (!callback) {
+        return {};
+    }
+    return [callback](long position) { callback(&position); };
+}
+
+ToldState toldState(CorGUIToggleCB callback) {
+    if (!callback) {
+        return {};
+    }
+    return [callback](bool isOn) {
+        const long state = isOn ? 1 : 0;
+        callback(&state);
+    };
+}
+
+std::vector<std::string> texts(const char* const* items, int count) {
+    std::vector<std::string> copies;
+    for (int index = 0; items && index < count; ++index) {
+        copies.push_back(textOf(items[index]));
+    }
+    return copies;
 }
 
 } // namespace
 
 int CorGUIDialogCreateModeless(int parent, int width, int height, const char* title,
                                CorGUIVoidCB init, CorGUIVoidCB close, CorGUIVoidCB help) {
-    return notCreated("CorGUIDialogCreateModeless", parent, width, height, title, init, close,
-                      help);
+    const TracedCall call("CorGUIDialogCreateModeless", parent, width, height, title, init, close,
+                          help);
+    Dialog dialog;
+    dialog.label = textOf(title);
+    dialog.width = width;
+    dialog.height = height;
+    dialog.init = told(init);
+    dialog.dismiss = told(close);
+    dialog.help = told(help);
+    return createDialog(call, parent, std::move(dialog));
 }
 
 int CorGUIDialogCreateModal(int parent, int width, int height, const char* title, CorGUIVoidCB init,
                             CorGUIVoidCB ok, CorGUIVoidCB apply, CorGUIVoidCB cancel,
                             CorGUIVoidCB help) {
-    return notCreated("CorGUIDialogCreateModal", parent, width, height, title, init, ok, apply,
-                      cancel, help);
+    const TracedCall call("CorGUIDialogCreateModal", parent, width, height, title, init, ok, apply,
+                          cancel, help);
+    Dialog dialog;
+    dialog.label = textOf(title);
+    dialog.width = width;
+    dialog.height = height;
+    dialog.isModal = true;
+    dialog.init = told(init);
+    dialog.ok = told(ok);
+    dialog.apply = told(apply);
+    dialog.dismiss = told(cancel);
+    dialog.help = told(help);
+    return createDialog(call, parent, std::move(dialog));
 }
 
 void CorGUIDialogLaunch(int dialog) {
-    ignored("CorGUIDialogLaunch", dialog);
+    onControl<Dialog>(TracedCall("CorGUIDialogLaunch", dialog), dialog,
+                      [](Controls& controls, Dialog& found) { controls.launch(found); });
 }
 
 void CorGUIDialogDrop(int dialog) {
-    ignored("CorGUIDialogDrop", dialog);
+    onControl<Dialog>(TracedCall("CorGUIDialogDrop", dialog), dialog,
+                      [](Controls& controls, Dialog& found) { controls.drop(found); });
 }
 
 CorBool CorGUIDialogIsUp(int dialog) {
-    return off("CorGUIDialogIsUp", dialog);
+    return ask<Dialog, bool>(TracedCall("CorGUIDialogIsUp", dialog), dialog,
+                             [](const Dialog& found) { return found.isUp; });
 }
 
 int CorGUIButtonAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIVoidCB cb) {
-    return notCreated("CorGUIButtonAdd", parent, x, y, w, h, label, cb);
+    Button button;
+    button.label = textOf(label);
+    button.pressed = told(cb);
+    return addControl(TracedCall("CorGUIButtonAdd", parent, x, y, w, h, label, cb), parent,
+                      {x, y, w, h}, std::move(button));
 }
 
 int CorGUILabelAdd(int parent, int x, int y, const char* label) {
-    return notCreated("CorGUILabelAdd", parent, x, y, label);
+    Label added;
+    added.label = textOf(label);
+    return addControl(TracedCall("CorGUILabelAdd", parent, x, y, label), parent, {x, y, 0, 0},
+                      std::move(added));
 }
 
 void CorGUILabelSetText(int label, const char* text) {
-    ignored("CorGUILabelSetText", label, text);
+    onControl<Label>(
+        TracedCall("CorGUILabelSetText", label, text), label,
+        [&](Controls& controls, Label& found) { controls.setLabel(found, textOf(text)); });
 }
 
 int CorGUIFrameAdd(int parent, int x, int y, int w, int h, const char* label) {
-    return notCreated("CorGUIFrameAdd", parent, x, y, w, h, label);
+    GroupBox box;
+    box.label = textOf(label);
+    return addControl(TracedCall("CorGUIFrameAdd", parent, x, y, w, h, label), parent, {x, y, w, h},
+                      std::move(box));
 }
 
 int CorGUITextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB cb) {
-    return notCreated("CorGUITextFieldAdd", parent, x, y, w, h, cb);
+    TextField field;
+    field.told = told(cb);
+    return addControl(TracedCall("CorGUITextFieldAdd", parent, x, y, w, h, cb), parent,
+                      {x, y, w, h}, std::move(field));
 }
 
 void CorGUITextFieldSetString(int field, const char* text) {
-    ignored("CorGUITextFieldSetString", field, text);
+    onControl<TextField>(
+        TracedCall("CorGUITextFieldSetString", field, text), field,
+        [&](Controls& controls, TextField& found) { controls.setText(found, textOf(text)); });
 }
 
 int CorGUISpinTextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB valueChanged,
                            CorGUIVoidCB up, CorGUIVoidCB down) {
-    return notCreated("CorGUISpinTextFieldAdd", parent, x, y, w, h, valueChanged, up, down);
+    SpinField field;
+    field.told = told(valueChanged);
+    field.up = told(up);
+    field.down = told(down);
+    return addControl(
+        TracedCall("CorGUISpinTextFieldAdd", parent, x, y, w, h, valueChanged, up, down), parent,
+        {x, y, w, h}, std::move(field));
 }
 
 int CorGUIToggleAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIToggleCB cb) {
-    return notCreated("CorGUIToggleAdd", parent, x, y, w, h, label, cb);
+    Toggle toggle;
+    toggle.label = textOf(label);
+    toggle.told = toldState(cb);
+    return addControl(TracedCall("CorGUIToggleAdd", parent, x, y, w, h, label, cb), parent,
+                      {x, y, w, h}, std::move(toggle));
 }
 
 CorBool CorGUIToggleGet(int toggle) {
-    return off("CorGUIToggleGet", toggle);
+    return ask<Toggle, bool>(TracedCall("CorGUIToggleGet", toggle), toggle,
+                             [](const Toggle& found) { return found.isOn; });
 }
 
 void CorGUIToggleSet(int toggle, CorBool on) {
-    ignored("CorGUIToggleSet", toggle, on != FALSE);
+    onControl<Toggle>(
+        TracedCall("CorGUIToggleSet", toggle, on != FALSE), toggle,
+        [&](Controls& controls, Toggle& found) { controls.setState(found, on != FALSE); });
 }
 
 int CorGUIListAdd(int parent, int x, int y, int w, int h, CorBool multiSelect, CorGUIListCB cb) {
-    return notCreated("CorGUIListAdd", parent, x, y, w, h, multiSelect != FALSE, cb);
+    List list;
+    list.isMulti = multiSelect != FALSE;
+    list.told = told(cb);
+    return addControl(TracedCall("CorGUIListAdd", parent, x, y, w, h, multiSelect != FALSE, cb),
+                      parent, {x, y, w, h}, std::move(list));
 }
 
 void CorGUIListAppendItem(int list, const char* text) {
-    ignored("CorGUIListAppendItem", list, text);
+    onControl<List>(
+        TracedCall("CorGUIListAppendItem", list, text), list,
+        [&](Controls& controls, List& found) { controls.appendRow(found, textOf(text)); });
 }
 
 void CorGUIListDeleteAllItems(int list) {
-    ignored("CorGUIListDeleteAllItems", list);
+    onControl<List>(TracedCall("CorGUIListDeleteAllItems", list), list,
+                    [](Controls& controls, List& found) { controls.deleteAllRows(found); });
 }
 
 void CorGUIListDeleteItemAtPos(int list, long position) {
-    ignored("CorGUIListDeleteItemAtPos", list, position);
+    onControl<List>(TracedCall("CorGUIListDeleteItemAtPos", list, position), list,
+                    [&](Controls& controls, List& found) { controls.deleteRow(found, position); });
 }
 
 void CorGUIListReplaceItem(int list, const char* text, long position) {
-    ignored("CorGUIListReplaceItem", list, text, position);
+    onControl<List>(TracedCall("CorGUIListReplaceItem", list, text, position), list,
+                    [&](Controls& controls, List& found) {
+                        controls.replaceRow(found, position, textOf(text));
+                    });
 }
 
 long CorGUIListGetItemCount(int list) {
-    return none("CorGUIListGetItemCount", list);
+    return ask<List, long>(TracedCall("CorGUIListGetItemCount", list), list,
+                           [](const List& found) { return found.rows.size(); });
 }
 
 void CorGUIListGetSelectedItems(int list, long** positions, long* count) {
-    ignored("CorGUIListGetSelectedItems", list, positions, count);
+    const TracedCall call("CorGUIListGetSelectedItems", list, positions, count);
     write(positions, static_cast<long*>(nullptr));
     write(count, 0L);
+    onControl<List>(call, list, [&](Controls&, List& found) {
+        const std::vector<long> selection = Controls::selectionOf(found);
+        if (selection.empty() || !positions || !count) {
+            return;
+        }
+        if (auto* const copy = static_cast<long*>(std::calloc(selection.size(), sizeof(long)))) {
+            std::copy(selection.begin(), selection.end(), copy);
+            *positions = copy;
+            *count = static_cast<long>(selection.size());
+        }
+    });
 }
 
 void CorGUIListSetSelectedItem(int list, long position) {
-    ignored("CorGUIListSetSelectedItem", list, position);
+    onControl<List>(TracedCall("CorGUIListSetSelectedItem", list, position), list,
+                    [&](Controls& controls, List& found) {
+                        if (position >= 1 && position <= static_cast<long>(found.rows.size())) {
+                            controls.select(found, {position});
+                        }
+                    });
 }
 
 void CorGUIListSetSelectedItems(int list, const int* positions, long count) {
-    ignored("CorGUIListSetSelectedItems", list, positions, count);
+    onControl<List>(TracedCall("CorGUIListSetSelectedItems", list, positions, count), list,
+                    [&](Controls& controls, List& found) {
+                        const bool isEmpty = !positions || count <= 0;
+                        controls.select(found,
+                                        isEmpty ? std::vector<long>{}
+                                                : std::vector<long>(positions, positions + count));
+                    });
 }
 
 void CorGUIListDeselectAllItems(int list) {
-    ignored("CorGUIListDeselectAllItems", list);
+    onControl<List>(TracedCall("CorGUIListDeselectAllItems", list), list,
+                    [](Controls& controls, List& found) { controls.select(found, {}); });
 }
 
 int CorGUIOptionMenuAdd(int parent, int x, int y, int w, int h, const char* const* items,
                         int itemCount, CorGUIIndexCB cb) {
-    return notCreated("CorGUIOptionMenuAdd", parent, x, y, w, h, items, itemCount, cb);
+    OptionMenu menu;
+    menu.items = texts(items, itemCount);
+    menu.told = told(cb);
+    return addControl(TracedCall("CorGUIOptionMenuAdd", parent, x, y, w, h, items, itemCount, cb),
+                      parent, {x, y, w, h}, std::move(menu));
 }
 
 void CorGUIOptionMenuAppendItem(int menu, const char* text) {
-    ignored("CorGUIOptionMenuAppendItem", menu, text);
+    onControl<OptionMenu>(
+        TracedCall("CorGUIOptionMenuAppendItem", menu, text), menu,
+        [&](Controls& controls, OptionMenu& found) { controls.appendItem(found, textOf(text)); });
 }
 
 void CorGUIOptionMenuDeleteAllItems(int menu) {
-    ignored("CorGUIOptionMenuDeleteAllItems", menu);
+    onControl<OptionMenu>(
+        TracedCall("CorGUIOptionMenuDeleteAllItems", menu), menu,
+        [](Controls& controls, OptionMenu& found) { controls.deleteAllItems(found); });
 }
 
 long CorGUIOptionMenuGet(int menu) {
-    return none("CorGUIOptionMenuGet", menu);
+    return ask<OptionMenu, long>(TracedCall("CorGUIOptionMenuGet", menu), menu,
+                                 [](const OptionMenu& found) { return found.chosen(); });
 }
 
 void CorGUIOptionMenuSet(int menu, long position) {
-    ignored("CorGUIOptionMenuSet", menu, position);
+    onControl<OptionMenu>(
+        TracedCall("CorGUIOptionMenuSet", menu, position), menu,
+        [&](Controls& controls, OptionMenu& found) { controls.choose(found, position); });
 }
 
 int CorGUIRadioBoxAdd(int parent, int x, int y, int w, int h, const char* const* labels,
                       int labelCount, CorGUIIndexCB cb) {
-    return notCreated("CorGUIRadioBoxAdd", parent, x, y, w, h, labels, labelCount, cb);
+    RadioBox box;
+    box.items = texts(labels, labelCount);
+    box.chosen = box.items.empty() ? 0 : 1;
+    box.told = told(cb);
+    return addControl(TracedCall("CorGUIRadioBoxAdd", parent, x, y, w, h, labels, labelCount, cb),
+                      parent, {x, y, w, h}, std::move(box));
 }
 
 long CorGUIRadioBoxGetToggle(int box) {
-    return none("CorGUIRadioBoxGetToggle", box);
+    return ask<RadioBox, long>(TracedCall("CorGUIRadioBoxGetToggle", box), box,
+                               [](const RadioBox& found) { return found.chosen; });
 }
 
 void CorGUIRadioBoxSetToggle(int box, long position) {
-    ignored("CorGUIRadioBoxSetToggle", box, position);
+    onControl<RadioBox>(
+        TracedCall("CorGUIRadioBoxSetToggle", box, position), box,
+        [&](Controls& controls, RadioBox& found) { controls.choose(found, position); });
 }
 
 int CorGUIMenuBarAdd(int dialog) {
-    return notCreated("CorGUIMenuBarAdd", dialog);
+    const TracedCall call("CorGUIMenuBarAdd", dialog);
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
+        Dialog* const found = find<Dialog>(call, app, dialog);
+        return found ? app.controls().addMenuBar(*found) : COR_HANDLE_NOT_CREATED;
+    });
 }
 
 int CorGUIMenuAdd(int parentMenuOrBar, const char* label) {
-    return notCreated("CorGUIMenuAdd", parentMenuOrBar, label);
+    const TracedCall call("CorGUIMenuAdd", parentMenuOrBar, label);
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
+        MenuParent* const parent = find<MenuParent>(call, app, parentMenuOrBar);
+        return parent ? app.controls().addMenu(*parent, textOf(label)) : COR_HANDLE_NOT_CREATED;
+    });
 }
 
 int CorGUIMenuAddItem(int menu, const char* label, const char* help, CorGUIVoidCB cb) {
-    return notCreated("CorGUIMenuAddItem", menu, label, help, cb);
+    MenuItem item;
+    item.label = textOf(label);
+    item.help = textOf(help);
+    item.told = told(cb);
+    return addEntry(TracedCall("CorGUIMenuAddItem", menu, label, help, cb), menu, std::move(item));
 }
 
 int CorGUIMenuAddToggle(int menu, const char* label, const char* help, CorGUIToggleCB cb) {
-    return notCreated("CorGUIMenuAddToggle", menu, label, help, cb);
+    MenuToggle toggle;
+    toggle.label = textOf(label);
+    toggle.help = textOf(help);
+    toggle.told = toldState(cb);
+    return addEntry(TracedCall("CorGUIMenuAddToggle", menu, label, help, cb), menu,
+                    std::move(toggle));
 }
 
 void CorGUIMenuAddSeparator(int menu) {
-    ignored("CorGUIMenuAddSeparator", menu);
+    onControl<Menu>(TracedCall("CorGUIMenuAddSeparator", menu), menu,
+                    [](Controls& controls, Menu& found) { controls.addSeparator(found); });
 }
 
 void CorGUIMenuSetToggle(int toggle, CorBool on) {
-    ignored("CorGUIMenuSetToggle", toggle, on != FALSE);
+    onControl<MenuToggle>(
+        TracedCall("CorGUIMenuSetToggle", toggle, on != FALSE), toggle,
+        [&](Controls& controls, MenuToggle& found) { controls.setState(found, on != FALSE); });
 }
 
 void CorGUISetSensitivity(int control, CorBool sensitive) {
-    ignored("CorGUISetSensitivity", control, sensitive != FALSE);
+    onControl<Control>(TracedCall("CorGUISetSensitivity", control, sensitive != FALSE), control,
+                       [&](Controls& controls, Control& found) {
+                           controls.setSensitivity(found, sensitive != FALSE);
+                       });
 }
 
 void CorGUISetToolTip(int control, const char* text) {
-    ignored("CorGUISetToolTip", control, text);
+    onControl<Control>(
+        TracedCall("CorGUISetToolTip", control, text), control,
+        [&](Controls& controls, Control& found) { controls.setToolTip(found, textOf(text)); });
 }

@@ -36,16 +36,28 @@ Application::Application(Ports ports)
       m_idle(ports.idleTimer),
       m_status(ports.status),
       m_exporter(m_page, m_exportSetup, m_drawing, ports.renderer, ports.movies),
-      m_macros(*this) {
+      m_macros(*this),
+      m_controls(ports.widgets),
+      m_controlActions(m_controls),
+      m_menuOptions(ports.mainMenu) {
     bindApplicationStyles();
     m_idle.caller = [this](const auto& work) { callAndReport("idle work", work); };
     m_stateChanges.caller = [this](const auto& work) { callAndReport("state change", work); };
+    bindWindows();
     m_status.hasFailed = [this] { return m_exporter.isRecording() && m_exporter.hasFailed(); };
     alive().push_back(this);
 }
 
 Application::~Application() {
     std::erase(alive(), this);
+}
+
+void Application::bindWindows() {
+    m_controls.caller = [this](const auto& what, const auto& work) { callAndReport(what, work); };
+    m_menuOptions.caller = m_controls.caller;
+    if (m_ports.widgets != nullptr) {
+        m_ports.widgets->attach(m_controlActions);
+    }
 }
 
 Application* Application::current() {
@@ -202,10 +214,21 @@ void Application::pageChanged(StateChange_e change) {
 std::string Application::callAddOn(const std::string& what, const std::function<void()>& call) {
     const Locks::Snapshot locks = m_locks.snapshot();
     const int suspensions = m_drawing.suspensions();
+    const int depth = m_locks.depth();
+    const int launches = m_controls.modalLaunches();
+    const int drops = m_controls.modalDrops();
+    const auto wasGivenBackByDialog = [&] {
+        return m_locks.depth() < depth &&
+               m_locks.depth() >= depth - (m_controls.modalDrops() - drops);
+    };
+    const auto wasTakenByDialog = [&] {
+        return m_locks.depth() > depth &&
+               m_locks.depth() <= depth + (m_controls.modalLaunches() - launches);
+    };
     std::string error;
     try {
         call();
-        if (m_locks.snapshot() != locks) {
+        if (m_locks.snapshot() != locks && !wasTakenByDialog() && !wasGivenBackByDialog()) {
             m_trace.misuse("The number of locks held is not the same before and after: " + what);
         }
         return error;
@@ -214,12 +237,14 @@ std::string Application::callAddOn(const std::string& what, const std::function<
     } catch (...) {
         error = "The add-on failed for an unknown reason.";
     }
-    m_locks.restore(locks);
+    if (!wasGivenBackByDialog()) { // nobody is left to give it back a second time
+        m_locks.restore(locks);
+    }
     m_drawing.restoreSuspensions(suspensions);
     return error;
 }
 
-void Application::callAndReport(const char* what, const std::function<void()>& call) {
+void Application::callAndReport(const std::string& what, const std::function<void()>& call) {
     const std::string error = callAddOn(what, call);
     if (!error.empty()) {
         m_ports.dialogs.showError(error);
@@ -242,6 +267,8 @@ void Application::quit() {
     m_stateChanges.notify(StateChange_HostQuit);
     m_idle.close();
     m_drawing.restoreSuspensions(0);
+    m_menuOptions.close();
+    m_controls.close();
 }
 
 } // namespace corvane::host

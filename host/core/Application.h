@@ -3,6 +3,8 @@
 
 #include "host/core/AddOns.h"
 #include "host/core/CallTrace.h"
+#include "host/core/ControlActions.h"
+#include "host/core/Controls.h"
 #include "host/core/Drawing.h"
 #include "host/core/ExportSetup.h"
 #include "host/core/Exporter.h"
@@ -10,6 +12,7 @@
 #include "host/core/Locks.h"
 #include "host/core/MacroPlayer.h"
 #include "host/core/Macros.h"
+#include "host/core/MenuOptions.h"
 #include "host/core/Page.h"
 #include "host/core/Ports.h"
 #include "host/core/StateChanges.h"
@@ -31,6 +34,8 @@ struct Ports {
     Dialogs& dialogs;
     Screen* screen = nullptr;       ///< null: nobody looks
     IdleTimer* idleTimer = nullptr; ///< null: no event loop
+    Widgets* widgets = nullptr;     ///< null: add-ons can make no dialogs
+    MainMenu* mainMenu = nullptr;   ///< null: add-ons can add no menu options
 };
 
 /// Everything here belongs to the one user-interface thread.
@@ -59,6 +64,9 @@ public:
     MacroPlayer& macros() { return m_macros; }
     CallTrace& trace() { return m_trace; }
     Dialogs& dialogs() { return m_ports.dialogs; }
+    Controls& controls() { return m_controls; }
+    ControlActions& controlActions() { return m_controlActions; }
+    MenuOptions& menuOptions() { return m_menuOptions; }
 
     /// Style values of the frame in question (Page::current) and of the application ("Interface",
     /// "ExportSetup"). Without a frame, or with one that is not 3D, the frame's paths answer
@@ -87,8 +95,9 @@ public:
 
     /// Calls into an add-on, behind a wall: whatever it throws is caught, locks and suspended
     /// drawing are put back to what they were, and the text of the error is returned (empty
-    /// without one). Locks that are left behind or taken away without an error are told to the
-    /// trace and left alone, since a dialog may hold one for its whole life.
+    /// without one). Locks that are left behind or taken away without an error are left alone, and
+    /// told to the trace unless they belong to a modal dialog that came up or went meanwhile: it
+    /// may hold one for its whole life.
     std::string callAddOn(const std::string& what, const std::function<void()>& call);
 
     /// To be called by the event loop when nothing else is to be done.
@@ -101,7 +110,8 @@ private:
     const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
     void announceIfMoved(const Frame& frame, const View3D& before);
-    void callAndReport(const char* what, const std::function<void()>& call);
+    void bindWindows();
+    void callAndReport(const std::string& what, const std::function<void()>& call);
     Frame* spatialFrame() const; ///< the frame in question when it shows 3D
 
     Ports m_ports;
@@ -121,6 +131,9 @@ private:
     AddOnCommands m_addOnCommands;
     MacroRecorder m_recorder;
     MacroPlayer m_macros;
+    Controls m_controls;
+    ControlActions m_controlActions;
+    MenuOptions m_menuOptions;
 };
 
 } // namespace corvane::host
