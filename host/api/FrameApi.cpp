@@ -9,9 +9,9 @@ using namespace corvane::host;
 namespace {
 
 /// Changes which frame is active, and tells about it when it is another one than before.
-bool changeActive(Application& app, bool (*change)(Page&, long), long id) {
+bool changeActive(Application& app, bool (Page::*change)()) {
     const Frame* const before = app.page().active();
-    if (!change(app.page(), id)) {
+    if (!(app.page().*change)()) {
         return false;
     }
     if (app.page().active() != before) {
@@ -62,24 +62,20 @@ long CorUtilFrameGetUniqueID(void) {
 
 CorBool CorUtilFrameActivateTop(void) {
     return TracedCall("CorUtilFrameActivateTop").answer(false, [](Application& app) {
-        return changeActive(
-            app, [](Page& page, long) { return page.activateTop(); }, 0);
+        return changeActive(app, &Page::activateTop);
     });
 }
 
 CorBool CorUtilFrameActivateByUniqueID(long id) {
     const TracedCall call("CorUtilFrameActivateByUniqueID", id);
     return call.answer(false, [&](Application& app) {
-        return changeActive(
-                   app, [](Page& page, long wanted) { return page.activate(wanted); }, id) ||
-               call.misuse("no such frame");
+        return app.activateFrame(id) || call.misuse("no such frame");
     });
 }
 
 CorBool CorUtilFramePushTop(void) {
     return TracedCall("CorUtilFramePushTop").answer(false, [](Application& app) {
-        if (!changeActive(
-                app, [](Page& page, long) { return page.pushTop(); }, 0)) {
+        if (!changeActive(app, &Page::pushTop)) {
             return false;
         }
         app.drawing().mark();

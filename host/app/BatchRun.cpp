@@ -10,6 +10,7 @@
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
 #include "host/movie/LibavMovieWriters.h"
+#include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 
@@ -40,7 +41,7 @@ public:
         : m_options(options),
           m_renderer(m_scene),
           m_status(std::cerr, isatty(STDERR_FILENO) != 0, isStopSignalled),
-          m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs}) {}
+          m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs, m_pictures}) {}
 
     ExitCode run();
 
@@ -56,6 +57,7 @@ private:
     TimedRenderer m_renderer;
     scene::DataReaders m_reader;
     movie::LibavMovieWriters m_movies;
+    movie::PngFiles m_pictures;
     TerminalStatus m_status;
     BatchDialogs m_dialogs;
     std::unique_ptr<TraceFile> m_trace;
@@ -79,6 +81,9 @@ void BatchRun::work() {
     host::loadAddOn(m_application, addOnLibrary(m_options));
     if (!m_options.data.empty()) {
         m_application.openData(m_options.data);
+    }
+    for (const auto& [name, value] : m_options.variables) {
+        m_application.macros().variables().set(name, value);
     }
     if (!m_options.macro.empty()) {
         m_application.macros().playFile(m_options.macro);

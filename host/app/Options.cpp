@@ -37,6 +37,16 @@ void parseSize(const std::string& text, Options& options) {
     options.height = *height;
 }
 
+void parseVariables(const std::vector<std::string>& settings, Options& options) {
+    for (const std::string& setting : settings) {
+        const auto equals = setting.find('=');
+        if (equals == std::string::npos || equals == 0) {
+            throw UsageError("--set takes NAME=VALUE; \"" + setting + "\" is not that.");
+        }
+        options.variables.emplace_back(setting.substr(0, equals), setting.substr(equals + 1));
+    }
+}
+
 // CLI11's own range check lets "nan" through.
 void checkFramesPerSecond(const Options& options) {
     if (options.framesPerSecond &&
@@ -71,12 +81,16 @@ void checkCombination(const Options& options) {
 Options parseCommandLine(int argc, const char* const* argv) {
     Options options;
     std::string size;
+    std::vector<std::string> settings;
     CLI::App app{"Flies a camera smoothly through 3D simulation results.", "corvane"};
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
                    "data files: one data set together (.pvd .vtu .vtp .vti .vtr .vts .vtm .vtk "
                    ".stl .ply .obj)");
     app.add_option("--macro", options.macro, "play this macro first");
+    app.add_option("--set", settings, "give a variable of macros a value, ${NAME} there")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
     app.add_flag("--batch", options.batch, "work without a window");
     app.add_option("--keyframes", options.keyFrames, "the key frame file to fly through");
     app.add_option("--output", options.output, "the movie to write; its extension is the format");
@@ -100,6 +114,7 @@ Options parseCommandLine(int argc, const char* const* argv) {
     if (!size.empty()) {
         parseSize(size, options);
     }
+    parseVariables(settings, options);
     checkFramesPerSecond(options);
     checkCombination(options);
     return options;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace corvane::app {
@@ -11,6 +12,7 @@ namespace corvane::app {
 struct Options {
     std::vector<std::string> data;
     std::string macro;
+    std::vector<std::pair<std::string, std::string>> variables; ///< of macros: name, value
     bool batch = false;
     std::string keyFrames;
     std::string output;

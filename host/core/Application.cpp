@@ -2,6 +2,8 @@
 #include "host/core/Application.h"
 
 #include "host/core/HostError.h"
+#include "host/core/PartFile.h"
+#include "host/core/PictureRequests.h"
 
 #include <algorithm>
 #include <cmath>
@@ -137,7 +139,11 @@ void Application::announce(StyleEffect effect) {
 
 void Application::perform(const std::string& command, const std::vector<std::string>& words) {
     m_macros.run(command, words);
-    m_recorder.recordRaw(macroLine(command, words));
+    std::vector<std::string> recorded;
+    for (const std::string& word : words) {
+        recorded.push_back(MacroVariables::escaped(word));
+    }
+    m_recorder.recordRaw(macroLine(command, recorded));
 }
 
 void Application::openData(const std::vector<std::string>& files) {
@@ -177,6 +183,16 @@ bool Application::rotateView(RotateAxis_e axis, double degrees) {
     return true;
 }
 
+bool Application::setView(const View3D& view) {
+    Frame* frame = spatialFrame();
+    if (frame == nullptr) {
+        return false;
+    }
+    const View3D before = std::exchange(frame->view, view);
+    announceIfMoved(*frame, before);
+    return true;
+}
+
 bool Application::fitView() {
     Frame* frame = spatialFrame();
     if (frame == nullptr || !frame->data() || frame->data()->bounds.isEmpty()) {
@@ -204,6 +220,38 @@ bool Application::setPlotType(PlotType_e type) {
         pageChanged(StateChange_PlotTypeChanged);
     }
     return true;
+}
+
+bool Application::activateFrame(long id) {
+    const Frame* const before = m_page.active();
+    if (!m_page.activate(id)) {
+        return false;
+    }
+    if (m_page.active() != before) {
+        pageChanged(StateChange_FrameActivated);
+    }
+    return true;
+}
+
+bool Application::deleteFrame(long id) {
+    const Frame* const before = m_page.active();
+    if (!m_page.deleteFrame(id)) {
+        return false;
+    }
+    pageChanged(StateChange_FrameDeleted);
+    if (m_page.active() != before && m_page.active() != nullptr) {
+        pageChanged(StateChange_FrameActivated);
+    }
+    return true;
+}
+
+void Application::exportPicture(const std::string& fileName, ExportRegion_e region, int width,
+                                int supersample) {
+    const PictureRequest request =
+        pictureRequest(m_page, m_ports.renderer, region, width, supersample);
+    PartFile file(fileName);
+    m_ports.pictures.write(m_drawing.picture(request), file.path());
+    file.commit();
 }
 
 void Application::pageChanged(StateChange_e change) {

@@ -32,6 +32,7 @@ struct Ports {
     MovieWriters& movies;
     StatusDisplay& status;
     Dialogs& dialogs;
+    PictureFiles& pictures;
     Screen* screen = nullptr;       ///< null: nobody looks
     IdleTimer* idleTimer = nullptr; ///< null: no event loop
     Widgets* widgets = nullptr;     ///< null: add-ons can make no dialogs
@@ -88,8 +89,17 @@ public:
     bool setSolutionTime(double time);
     /// False without a 3D frame, for an unknown axis and for degrees that are not finite.
     bool rotateView(RotateAxis_e axis, double degrees);
+    /// False without a 3D frame. The values must lie within the bounds of the styles of the view.
+    bool setView(const View3D& view);
     bool fitView();                    ///< false without a 3D frame and data with an extent
     bool setPlotType(PlotType_e type); ///< false without a frame
+    /// Makes the change and tells about it. False without such a frame.
+    bool activateFrame(long id);
+    bool deleteFrame(long id);
+    /// Writes a PNG file, whole or not at all. The height follows from the region. Throws
+    /// HostError.
+    void exportPicture(const std::string& fileName, ExportRegion_e region, int width,
+                       int supersample);
     /// Announces a change made to the page, and marks it for drawing.
     void pageChanged(StateChange_e change);
 

@@ -6,10 +6,9 @@
 #include "host/core/HostError.h"
 #include "host/core/Page.h"
 #include "host/core/PartFile.h"
+#include "host/core/PictureRequests.h"
 #include "host/core/Ports.h"
 
-#include <algorithm>
-#include <cmath>
 #include <new>
 
 namespace corvane::host {
@@ -18,17 +17,6 @@ namespace {
 
 ExportRegion_e regionOf(const ExportSetup& setup) {
     return static_cast<ExportRegion_e>(setup.region);
-}
-
-/// Height of the picture in pixels. Throws HostError for a region without extent.
-int heightFor(int width, const Placement& region) {
-    const double height = static_cast<double>(width) / region.aspect();
-    if (!(region.width > 0.0) || !(region.height > 0.0) || !(height < 1e6)) {
-        throw HostError("The movie has no picture: the region to export is " +
-                        std::to_string(region.width) + " by " + std::to_string(region.height) +
-                        " inches. Choose another region.");
-    }
-    return std::max(1, static_cast<int>(std::lround(height)));
 }
 
 MovieRequest movieRequest(const ExportSetup& setup, const std::string& path,
@@ -91,22 +79,8 @@ PictureRequest Exporter::request() const {
     if (m_setup.fileName.empty()) {
         throw HostError("The movie has no file name. Set one in the export options.");
     }
-    if (m_page.active() == nullptr) {
-        throw HostError("There is no frame to make a movie of. Load data first.");
-    }
-    PictureRequest picture;
-    picture.region = regionOf(m_setup);
-    picture.width = m_setup.imageWidth;
-    picture.height = heightFor(picture.width, m_page.regionOf(picture.region));
-    picture.supersample = m_setup.useSuperSampleAntiAliasing ? m_setup.superSampleFactor : 1;
-    const long largest =
-        static_cast<long>(std::max(picture.width, picture.height)) * picture.supersample;
-    if (largest > m_renderer.largestSize()) {
-        throw HostError("The movie's pictures would be drawn " + std::to_string(largest) +
-                        " pixels large, and " + std::to_string(m_renderer.largestSize()) +
-                        " are possible here. Choose a smaller width or less supersampling.");
-    }
-    return picture;
+    return pictureRequest(m_page, m_renderer, regionOf(m_setup), m_setup.imageWidth,
+                          m_setup.useSuperSampleAntiAliasing ? m_setup.superSampleFactor : 1);
 }
 
 void Exporter::open() {

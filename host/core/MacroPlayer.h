@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/MacroText.h"
+#include "host/core/MacroVariables.h"
 
 #include <string>
 #include <vector>
@@ -10,33 +11,20 @@ namespace corvane::host {
 
 class Application;
 
-/// One command of the macro language.
-struct MacroCommand {
-    std::string name;      ///< READDATA
-    std::string arguments; ///< "FILE" ["FILE" …]
-    std::string purpose;   ///< one sentence
-    /// Throws std::invalid_argument or HostError with the cause. File names in the words are
-    /// relative to the folder of the macro.
-    void (*run)(Application& application, const std::vector<std::string>& words,
-                const std::string& folder);
-};
-
-/// The whole language, in the order in which it is explained.
-const std::vector<MacroCommand>& macroCommands();
-
 class MacroPlayer {
 public:
     explicit MacroPlayer(Application& application) : m_application(application) {}
 
     bool isPlaying() const { return m_depth > 0; }
+    MacroVariables& variables() { return m_variables; }
 
     /// Throws MacroError at the first line that fails; the lines before it have taken effect.
     void playFile(const std::string& fileName);
     /// name and folder stand for the file in messages and for relative file names.
     void play(std::istream& macro, const std::string& name, const std::string& folder);
 
-    /// One command, as if it stood in a macro of that folder. Throws std::invalid_argument for
-    /// words that make no sense, HostError for what cannot be done.
+    /// One command, as if it stood in a macro of that folder, but without variables. Throws
+    /// std::invalid_argument for words that make no sense, HostError for what cannot be done.
     void run(const std::string& name, const std::vector<std::string>& words,
              const std::string& folder = ".");
 
@@ -44,6 +32,7 @@ private:
     void runLine(const MacroLine& line, const std::string& name, const std::string& folder);
 
     Application& m_application;
+    MacroVariables m_variables;
     int m_depth = 0;
 };
 

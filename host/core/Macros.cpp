@@ -2,6 +2,7 @@
 #include "host/core/Macros.h"
 
 #include "host/core/MacroText.h"
+#include "host/core/MacroVariables.h"
 
 #include <utility>
 
@@ -34,7 +35,8 @@ bool MacroRecorder::recordRaw(const std::string& line) {
 }
 
 bool MacroRecorder::recordAddOnCommand(const std::string& macroName, const std::string& command) {
-    return recordRaw("$!EXTCOMMAND " + quoted(macroName) + " " + quoted(command));
+    return recordRaw("$!EXTCOMMAND " + quoted(MacroVariables::escaped(macroName)) + " " +
+                     quoted(MacroVariables::escaped(command)));
 }
 
 } // namespace corvane::host

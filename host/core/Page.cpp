@@ -22,7 +22,8 @@ Placement united(const Placement& a, const Placement& b) {
     return {left, top, right - left, bottom - top};
 }
 
-auto findById(const std::vector<std::unique_ptr<Frame>>& frames, long id) {
+template <typename Frames>
+auto findById(Frames& frames, long id) {
     return std::find_if(frames.begin(), frames.end(),
                         [id](const auto& frame) { return frame->id() == id; });
 }
@@ -76,6 +77,26 @@ bool Page::pushTop() {
         std::rotate(m_frames.begin(), m_frames.begin() + 1, m_frames.end());
     }
     return activateTop();
+}
+
+bool Page::raise(long id) {
+    const auto found = findById(m_frames, id);
+    if (found == m_frames.end()) {
+        return false;
+    }
+    endWalk();
+    std::rotate(m_frames.begin(), found, found + 1);
+    return true;
+}
+
+bool Page::lower(long id) {
+    const auto found = findById(m_frames, id);
+    if (found == m_frames.end()) {
+        return false;
+    }
+    endWalk();
+    std::rotate(found, found + 1, m_frames.end());
+    return true;
 }
 
 void Page::startWalk() {

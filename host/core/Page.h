@@ -40,6 +40,9 @@ public:
     bool activate(long id); ///< keeps the order of the stack
     bool activateTop();
     bool pushTop(); ///< the top frame goes to the back; the new top becomes active
+    /// To the top or to the back of the stack; which frame is active stays.
+    bool raise(long id);
+    bool lower(long id);
 
     /// A walk over the frames, from the top down, for looking only: while it lasts, current() is
     /// the frame of the walk instead of the active one. next() is false after the last frame.

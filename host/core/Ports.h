@@ -42,6 +42,13 @@ public:
     virtual std::shared_ptr<const DataSet> read(const std::vector<std::string>& files) = 0;
 };
 
+class PictureFiles {
+public:
+    virtual ~PictureFiles() = default;
+    /// Writes a PNG file under this very name. Throws HostError.
+    virtual void write(const Picture& picture, const std::string& path) = 0;
+};
+
 /// How a movie is to be written.
 struct MovieRequest {
     std::string path; ///< written as it stands; made or truncated

@@ -13,6 +13,7 @@ MemoryHost::MemoryHost(Empty)
                                                             .movies = m_movies,
                                                             .status = m_status,
                                                             .dialogs = m_dialogs,
+                                                            .pictures = m_pictures,
                                                             .screen = &m_renderer,
                                                             .idleTimer = &m_idleTimer})) {
     host::CallTrace& trace = m_app->trace();

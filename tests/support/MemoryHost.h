@@ -4,6 +4,7 @@
 #include "host/core/Application.h"
 #include "tests/support/MemoryData.h"
 #include "tests/support/MemoryMovies.h"
+#include "tests/support/MemoryPictures.h"
 #include "tests/support/MemoryReader.h"
 #include "tests/support/MemoryRenderer.h"
 #include "tests/support/ScriptedCalls.h"
@@ -38,6 +39,7 @@ public:
     host::Application& app() { return *m_app; }
     MemoryRenderer& renderer() { return m_renderer; }
     MemoryMovies& movies() { return m_movies; }
+    MemoryPictures& pictures() { return m_pictures; }
     MemoryReader& reader() { return m_reader; }
     ScriptedStatus& status() { return m_status; }
     ScriptedDialogs& dialogs() { return m_dialogs; }
@@ -103,6 +105,7 @@ private:
 
     MemoryRenderer m_renderer;
     MemoryMovies m_movies;
+    MemoryPictures m_pictures;
     MemoryReader m_reader;
     ScriptedStatus m_status;
     ScriptedDialogs m_dialogs;

@@ -147,15 +147,28 @@ public:
 };
 
 /// An application with all its ports.
+class FakePictures : public PictureFiles {
+public:
+    void write(const Picture& picture, const std::string& path) override {
+        if (!failure.empty()) {
+            throw HostError(failure);
+        }
+        std::ofstream(path) << picture.width << " x " << picture.height;
+    }
+    std::string failure;
+};
+
 struct FakeHost {
     FakeRenderer renderer;
     FakeReader reader;
     FakeMovies movies;
     FakeStatus status;
     FakeDialogs dialogs;
+    FakePictures pictures;
     FakeScreen screen;
     FakeIdleTimer idleTimer;
-    Application app{Ports{renderer, reader, movies, status, dialogs, &screen, &idleTimer}};
+    Application app{
+        Ports{renderer, reader, movies, status, dialogs, pictures, &screen, &idleTimer}};
 };
 
 /// A box of volume cells with a scalar p and a vector U.

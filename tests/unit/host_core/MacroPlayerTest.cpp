@@ -1,6 +1,8 @@
 // Tests of the commands of the macro language.
 #include "host/core/MacroPlayer.h"
 
+#include "host/core/MacroCommands.h"
+
 #include "tests/unit/host_core/Fakes.h"
 #include "tests/unit/host_core/TemporaryFolder.h"
 
@@ -17,6 +19,7 @@ namespace {
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class MacroPlayerTest : public testing::Test {
 protected:
@@ -120,9 +123,160 @@ TEST_F(MacroPlayerTest, FitsTheView) {
     frame().view.position = {};
     play("$!VIEW fit\n");
     EXPECT_EQ(frame().view, fitted);
-    EXPECT_EQ(causeOf("$!VIEW FILL"), "Expected FIT.");
+    EXPECT_EQ(causeOf("$!VIEW FILL"), "Expected FIT, AXIS = axis, or SET name = value.");
+    EXPECT_EQ(causeOf("$!VIEW"), "Expected FIT, AXIS = axis, or SET name = value.");
     frame().attachData(nullptr);
     EXPECT_THAT(causeOf("$!VIEW FIT"), HasSubstr("no 3D data"));
+}
+
+TEST_F(MacroPlayerTest, LooksFromTheEndsOfTheAxes) {
+    play("$!READDATA x\n");
+    const std::vector<std::pair<std::string, Vec3>> towards{{"+X", {1, 0, 0}}, {"-X", {-1, 0, 0}},
+                                                            {"+y", {0, 1, 0}}, {"-Y", {0, -1, 0}},
+                                                            {"+Z", {0, 0, 1}}, {"-Z", {0, 0, -1}}};
+    for (const auto& [axis, direction] : towards) {
+        play("$!VIEW AXIS = " + axis + "\n");
+        const ViewBasis basis = basisOf(frame().view);
+        EXPECT_NEAR(length(basis.toViewer - direction), 0.0, 1e-12) << axis;
+        if (direction.z == 0.0) {
+            EXPECT_NEAR(length(basis.up - Vec3{0, 0, 1}), 0.0, 1e-12) << axis;
+        }
+        const View3D seen = frame().view;
+        play("$!VIEW FIT\n");
+        EXPECT_EQ(frame().view, seen) << axis;
+    }
+    EXPECT_THAT(causeOf("$!VIEW AXIS = Q"), HasSubstr("There is no axis \"Q\""));
+    EXPECT_EQ(causeOf("$!VIEW AXIS +X"), "Expected AXIS = axis.");
+}
+
+TEST_F(MacroPlayerTest, SetsAViewAsAWholeOrNotAtAll) {
+    play("$!READDATA x\n");
+    play("$!VIEW SET Psi = 10 Theta=20 Alpha = -30 X = 1 Y = 2 Z = 3 originx = 4 OriginY = 5 "
+         "OriginZ = 6 Perspective = false Width = 7.5 FieldOfView = 40 Perspective = true\n");
+    View3D expected;
+    expected.psi = 10;
+    expected.theta = 20;
+    expected.alpha = -30;
+    expected.position = {1, 2, 3};
+    expected.rotationOrigin = {4, 5, 6};
+    expected.width = 7.5;
+    expected.fieldOfView = 40;
+    expected.perspective = true;
+    EXPECT_EQ(frame().view, expected);
+    EXPECT_EQ(causeOf("$!VIEW SET Psi = 1 Width = 2"),
+              "The width of a view can be set without perspective only.");
+    EXPECT_EQ(causeOf("$!VIEW SET Psi = 1 FieldOfView = 180"), "FieldOfView cannot be \"180\".");
+    EXPECT_EQ(causeOf("$!VIEW SET Psi = 1 Tilt = 2"), "A view has no value \"Tilt\".");
+    EXPECT_THAT(causeOf("$!VIEW SET Psi = 1 Theta"), HasSubstr("Expected SET"));
+    EXPECT_THAT(causeOf("$!VIEW SET"), HasSubstr("Expected SET"));
+    EXPECT_EQ(frame().view, expected);
+    play("$!PLOTTYPE = CARTESIAN2D\n");
+    EXPECT_EQ(causeOf("$!VIEW SET Psi = 1"), "There is no 3D frame that has a view.");
+}
+
+TEST_F(MacroPlayerTest, MakesAndArrangesFrames) {
+    play("$!FRAME CREATE\n$!FRAME CREATE X = 4 y = 1 Width = 2 Height = 3\n");
+    ASSERT_EQ(app.page().frames().size(), 2U);
+    EXPECT_EQ(frame().id(), 2);
+    EXPECT_EQ(frame().placement, (Placement{4, 1, 2, 3}));
+    play("$!FRAME PLACE X = 5\n");
+    EXPECT_EQ(frame().placement, (Placement{5, 1, 2, 3}));
+    play("$!FRAME ACTIVATE = 1\n");
+    EXPECT_EQ(frame().id(), 1);
+    EXPECT_EQ(app.page().frames().front()->id(), 2);
+    play("$!FRAME POP\n");
+    EXPECT_EQ(app.page().frames().front()->id(), 1);
+    play("$!FRAME PUSH\n");
+    EXPECT_EQ(app.page().frames().front()->id(), 2);
+    EXPECT_EQ(frame().id(), 1) << "the stack is one thing, the active frame another";
+    play("$!FRAME DELETE\n");
+    EXPECT_EQ(frame().id(), 2);
+    play("$!FRAME DELETE\n");
+    EXPECT_EQ(causeOf("$!FRAME DELETE"), "There is no frame.");
+}
+
+TEST_F(MacroPlayerTest, FramesThatCannotBeAreRefused) {
+    play("$!FRAME CREATE\n");
+    EXPECT_EQ(causeOf("$!FRAME CREATE Width = 0"), "Width cannot be \"0\".");
+    EXPECT_EQ(causeOf("$!FRAME PLACE X = nan"), "X cannot be \"nan\".");
+    EXPECT_EQ(causeOf("$!FRAME PLACE Z = 1"), "A frame has no value \"Z\".");
+    EXPECT_EQ(causeOf("$!FRAME ACTIVATE = 7"), "There is no frame 7.");
+    EXPECT_EQ(causeOf("$!FRAME ACTIVATE 7"), "Expected ACTIVATE = number.");
+    EXPECT_EQ(causeOf("$!FRAME POP now"), "Expected nothing behind the word.");
+    EXPECT_THAT(causeOf("$!FRAME FLY"), HasSubstr("Expected CREATE"));
+    app.status().start("Playing", true, true);
+    EXPECT_EQ(causeOf("$!FRAME DELETE"), "An animation is running.");
+    app.status().finish();
+    EXPECT_EQ(app.page().frames().size(), 1U);
+}
+
+TEST_F(MacroPlayerTest, WritesPictures) {
+    const fakes::TemporaryFolder folder;
+    const std::string file = folder.path("a b.png");
+    play("$!READDATA x\n$!PICTURE " + quoted(file) + " Width = 320 Supersample = 2\n");
+    EXPECT_EQ(folder.read("a b.png"), "320 x 180");
+    play("$!PICTURE " + quoted(file) + "\n");
+    EXPECT_EQ(folder.read("a b.png"), "1280 x 720") << "as large as the work area";
+    EXPECT_EQ(causeOf("$!PICTURE x.png Width = 3"), "Width cannot be \"3\".");
+    EXPECT_EQ(causeOf("$!PICTURE x.png Supersample = 17"), "Supersample cannot be \"17\".");
+    EXPECT_EQ(causeOf("$!PICTURE x.png Region = MOON"), "Region cannot be \"MOON\".");
+    EXPECT_EQ(causeOf("$!PICTURE x.png Depth = 3"), "A picture has no value \"Depth\".");
+    EXPECT_THAT(causeOf("$!PICTURE"), HasSubstr("Expected \"file\""));
+    host.pictures.failure = "The disk is full.";
+    EXPECT_EQ(causeOf("$!PICTURE " + quoted(file)), "The disk is full.");
+    EXPECT_EQ(folder.read("a b.png"), "1280 x 720") << "the older picture stays";
+    EXPECT_THAT(folder.names(), ElementsAre("a b.png"));
+}
+
+TEST_F(MacroPlayerTest, IncludesOtherMacrosInTheirFolders) {
+    const fakes::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path("parts"));
+    const std::string inner = folder.write("parts/data.mcr", "$!READDATA x.vtu\n$!BAD\n");
+    const std::string outer = folder.write("scene.mcr", "\n$!INCLUDE parts/data.mcr\n");
+    try {
+        app.macros().playFile(outer);
+        FAIL();
+    } catch (const MacroError& error) {
+        EXPECT_EQ(error.what(), inner + ":2: $!BAD\nThere is no command BAD.");
+    }
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.path("parts/x.vtu"))));
+}
+
+TEST_F(MacroPlayerTest, AMacroThatIncludesItselfEnds) {
+    const fakes::TemporaryFolder folder;
+    const std::string file = folder.write("loop.mcr", "$!INCLUDE loop.mcr\n");
+    try {
+        app.macros().playFile(file);
+        FAIL();
+    } catch (const MacroError& error) {
+        EXPECT_EQ(error.what(), file + ":1: $!INCLUDE loop.mcr\nMacros include each other more "
+                                       "than 16 deep; does one include itself?");
+    }
+    EXPECT_FALSE(app.macros().isPlaying());
+}
+
+TEST_F(MacroPlayerTest, ReplacesVariables) {
+    app.macros().variables().set("CASE", "wake b");
+    play("$!SET CASE = other\n$!SET STEP = 4\n"
+         "$!READDATA \"${CASE}_${STEP}.vtu\"\n$!STYLE Annotations/Title = \"$${CASE} $5 {x}\"\n");
+    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake b_4.vtu")));
+    EXPECT_EQ(frame().style.annotations.title, "${CASE} $5 {x}");
+    EXPECT_THAT(causeOf("$!READDATA ${NONE}"), HasSubstr("There is no variable \"NONE\""));
+    EXPECT_EQ(causeOf("$!READDATA ${NONE"), "A closing brace is missing behind \"${\".");
+    EXPECT_THAT(causeOf("$!SET 5X = 1"), HasSubstr("no name of a variable"));
+    EXPECT_EQ(causeOf("$!SET X"), "Expected name = value.");
+}
+
+TEST_F(MacroPlayerTest, RecordsWhatIsPerformedAndSucceeds) {
+    app.recorder().start();
+    app.perform("READDATA", {"/there/a ${b}.vtu"});
+    app.perform("STYLE", {"Slice/1/Show", "=", "true"});
+    EXPECT_THROW(app.perform("STYLE", {"Slice/1/Axis", "=", "9"}), std::invalid_argument);
+    const std::vector<std::string> lines = app.recorder().stop();
+    EXPECT_THAT(lines,
+                ElementsAre("$!READDATA \"/there/a $${b}.vtu\"", "$!STYLE Slice/1/Show = true"));
+    play(lines[0]);
+    EXPECT_EQ(host.reader.calls.back(), host.reader.calls.front());
 }
 
 TEST_F(MacroPlayerTest, SetsTheSolutionTime) {
@@ -316,11 +470,13 @@ TEST_F(MacroPlayerTest, TheLanguageIsDescribedInFull) {
     for (const MacroCommand& command : macroCommands()) {
         names.push_back(command.name);
         EXPECT_THAT(command.purpose, EndsWith(".")) << command.name;
+        EXPECT_THAT(command.example, StartsWith("$!" + command.name));
+        EXPECT_FALSE(command.arguments.empty());
         EXPECT_NE(command.run, nullptr);
     }
-    EXPECT_THAT(names, testing::UnorderedElementsAre("READDATA", "PLOTTYPE", "STYLE", "VIEW",
-                                                     "SOLUTIONTIME", "REDRAW", "EXPORTSETUP",
-                                                     "EXTCOMMAND"));
+    EXPECT_THAT(names,
+                ElementsAre("READDATA", "STYLE", "PLOTTYPE", "VIEW", "SOLUTIONTIME", "FRAME",
+                            "REDRAW", "EXPORTSETUP", "PICTURE", "EXTCOMMAND", "INCLUDE", "SET"));
 }
 
 } // namespace

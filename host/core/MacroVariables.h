@@ -1,0 +1,29 @@
+// The variables of macros.
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace corvane::host {
+
+/// Names are letters, digits and underscores, and do not begin with a digit; case counts. Functions
+/// throw std::invalid_argument with the cause.
+class MacroVariables {
+public:
+    void set(const std::string& name, const std::string& value);
+    /// Keeps the value that set() gave, whether before or after.
+    void setDefault(const std::string& name, const std::string& value);
+
+    /// ${NAME} becomes the value of the variable, $${ becomes ${.
+    std::string expand(const std::string& text) const;
+    /// A text that expand() turns into this one.
+    static std::string escaped(const std::string& text);
+
+private:
+    const std::string& valueOf(const std::string& name) const;
+
+    std::map<std::string, std::string> m_values;
+    std::map<std::string, std::string> m_defaults;
+};
+
+} // namespace corvane::host

@@ -1,0 +1,42 @@
+// The words behind a macro command as values.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace corvane::host {
+
+class Application;
+
+/// One command on its way to be carried out.
+struct MacroCall {
+    Application& application;
+    const std::vector<std::string>& words; ///< behind the command
+    const std::string& folder;             ///< of the macro; file names are relative to it
+
+    /// The name of a file as it can be opened.
+    std::string path(const std::string& fileName) const;
+};
+
+/// Throws std::invalid_argument with the cause.
+[[noreturn]] void reject(const std::string& cause);
+/// Rejects with "Expected FORM." unless isSo.
+void expect(bool isSo, const char* form);
+
+/// All of these reject texts that are none.
+double numberFrom(const std::string& text);
+int integerFrom(const std::string& text);
+long longFrom(const std::string& text);
+bool booleanFrom(const std::string& text);
+
+/// The value of the words "= VALUE". Rejects others with the form.
+const std::string& valueOf(const std::vector<std::string>& words, const char* form);
+
+/// The settings in the words "NAME = VALUE NAME = VALUE ...", from words[first] on. Rejects others
+/// with the form.
+std::vector<std::pair<std::string, std::string>> settingsOf(const std::vector<std::string>& words,
+                                                            std::size_t first, const char* form);
+
+} // namespace corvane::host

@@ -1,0 +1,14 @@
+// Picture files in the PNG format.
+#pragma once
+
+#include "host/core/Ports.h"
+
+namespace corvane::movie {
+
+/// Colours are written as they are, without an alpha channel.
+class PngFiles : public host::PictureFiles {
+public:
+    void write(const host::Picture& picture, const std::string& path) override;
+};
+
+} // namespace corvane::movie

@@ -1,0 +1,13 @@
+// Picture files, kept in memory.
+#include "tests/support/MemoryPictures.h"
+
+#include <fstream>
+
+namespace corvane::test {
+
+void MemoryPictures::write(const host::Picture& picture, const std::string& path) {
+    std::ofstream(path) << picture.width << " x " << picture.height;
+    m_written.push_back(picture);
+}
+
+} // namespace corvane::test
