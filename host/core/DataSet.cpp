@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <unordered_map>
 
 namespace corvane::host {
@@ -24,6 +25,26 @@ bool isBetter(const Zone& zone, const Zone& chosen, double solutionTime) {
         return !chosenReached || zone.solutionTime > chosen.solutionTime;
     }
     return !chosenReached && zone.solutionTime < chosen.solutionTime;
+}
+
+/// Ascending.
+std::vector<double> timesOfStrands(const DataSet& data) {
+    std::set<double> times;
+    for (const Zone& zone : data.zones) {
+        if (zone.enabled && zone.strand > 0) {
+            times.insert(zone.solutionTime);
+        }
+    }
+    return {times.begin(), times.end()};
+}
+
+/// The first of the times at which other zones are shown than at solutionTime.
+std::optional<double> firstThatDiffers(const DataSet& data, double solutionTime,
+                                       const std::vector<double>& times) {
+    const std::vector<int> shown = zonesAtTime(data, solutionTime);
+    const auto found = std::find_if(times.begin(), times.end(),
+                                    [&](double time) { return zonesAtTime(data, time) != shown; });
+    return found == times.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace
@@ -80,6 +101,19 @@ std::vector<int> zonesAtTime(const DataSet& data, double solutionTime) {
     }
     std::sort(chosen.begin(), chosen.end());
     return chosen;
+}
+
+std::optional<double> timeAfter(const DataSet& data, double solutionTime) {
+    std::vector<double> times = timesOfStrands(data);
+    std::erase_if(times, [&](double time) { return isReached(time, solutionTime); });
+    return firstThatDiffers(data, solutionTime, times);
+}
+
+std::optional<double> timeBefore(const DataSet& data, double solutionTime) {
+    std::vector<double> times = timesOfStrands(data);
+    std::erase_if(times, [&](double time) { return !isReached(time, solutionTime); });
+    std::reverse(times.begin(), times.end());
+    return firstThatDiffers(data, solutionTime, times);
 }
 
 } // namespace corvane::host

@@ -3,6 +3,7 @@
 
 #include "host/core/Vec3.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,5 +57,10 @@ public:
 /// time not above it (tolerance 1e-9 relative), or its first one when there is none; and every
 /// enabled static zone. Indices into DataSet::zones, ascending.
 std::vector<int> zonesAtTime(const DataSet& data, double solutionTime);
+
+/// The nearest solution time after (before) this one at which other zones are shown; nothing when
+/// there is none.
+std::optional<double> timeAfter(const DataSet& data, double solutionTime);
+std::optional<double> timeBefore(const DataSet& data, double solutionTime);
 
 } // namespace corvane::host

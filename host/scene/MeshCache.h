@@ -3,12 +3,11 @@
 
 #include "host/scene/MeshFile.h"
 #include "host/scene/SceneStatistics.h"
+#include "host/scene/SharedCache.h"
 
 #include <cstddef>
-#include <list>
 #include <memory>
-#include <mutex>
-#include <unordered_map>
+#include <vector>
 
 namespace corvane::scene {
 
@@ -22,31 +21,21 @@ struct MeshSource {
 /// it is. May be used from several threads.
 class MeshCache {
 public:
+    using Parts = std::shared_ptr<const std::vector<MeshPart>>;
+
     MeshCache(std::vector<MeshSource> sources, std::size_t budget,
               std::shared_ptr<SceneStatistics> statistics);
 
     /// The meshes of sources[index], as they were passed to the constructor. Throws
     /// host::HostError.
-    std::shared_ptr<const std::vector<MeshPart>> get(int index);
+    Parts get(int index);
 
 private:
-    using Parts = std::shared_ptr<const std::vector<MeshPart>>;
-    struct Entry {
-        Parts parts;
-        std::size_t bytes = 0;
-        std::list<int>::iterator use;
-    };
-
-    void dropUnused();
+    Parts read(int index);
 
     std::vector<MeshSource> m_sources;
-    std::size_t m_budget;
     std::shared_ptr<SceneStatistics> m_statistics;
-
-    std::mutex m_mutex;
-    std::unordered_map<int, Entry> m_entries;
-    std::list<int> m_uses; ///< the one used last comes first
-    std::size_t m_bytes = 0;
+    SharedCache<int, Parts> m_parts;
 };
 
 } // namespace corvane::scene

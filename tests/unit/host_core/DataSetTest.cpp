@@ -107,5 +107,32 @@ TEST(ZonesAtTime, DoesNotCareInWhichOrderZonesStand) {
     EXPECT_THAT(zonesAtTime(data, 2.0), ElementsAre(0));
 }
 
+TEST(NeighbouringTimes, AreThoseThatShowSomethingElse) {
+    DataSet data;
+    data.zones = {zone(1, 0), zone(1, 1), zone(1, 2), zone(0, 1.5), zone(1, 1.7, false)};
+    EXPECT_EQ(timeAfter(data, 0.0), 1.0);
+    EXPECT_EQ(timeAfter(data, 1.2), 2.0);
+    EXPECT_EQ(timeAfter(data, 2.0), std::nullopt);
+    EXPECT_EQ(timeBefore(data, 1.2), 0.0);
+    EXPECT_EQ(timeBefore(data, 5.0), 1.0);
+    EXPECT_EQ(timeBefore(data, 0.5), std::nullopt);
+    EXPECT_EQ(timeAfter(data, -3.0), 1.0) << "at 0 the same zone is shown as before it";
+}
+
+TEST(NeighbouringTimes, OfSeveralStrandsComeOneByOne) {
+    DataSet data;
+    data.zones = {zone(1, 0), zone(1, 2), zone(2, 0), zone(2, 1)};
+    EXPECT_EQ(timeAfter(data, 0.0), 1.0);
+    EXPECT_EQ(timeAfter(data, 1.0), 2.0);
+    EXPECT_EQ(timeBefore(data, 2.0), 1.0);
+}
+
+TEST(NeighbouringTimes, OfSteadyDataAreNone) {
+    DataSet data;
+    data.zones = {zone(0, 3)};
+    EXPECT_EQ(timeAfter(data, 0.0), std::nullopt);
+    EXPECT_EQ(timeBefore(data, 9.0), std::nullopt);
+}
+
 } // namespace
 } // namespace corvane::host
