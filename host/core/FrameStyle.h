@@ -65,16 +65,19 @@ struct IsoSurfaceStyle {
     friend bool operator==(const IsoSurfaceStyle&, const IsoSurfaceStyle&) = default;
 };
 
-/// Lines along a vector variable, from seeds spread evenly between two points.
+/// Lines along a vector variable, from seeds.
 struct StreamtraceStyle {
     bool show = false;
     std::string variable;
-    int seedKind = 1; ///< 1 = line from seedStart to seedEnd, 2 = plane through three corners
+    /// 1 = line from seedStart to seedEnd, 2 = plane through three corners: seeds are spread
+    /// evenly; 3 = seedPoints
+    int seedKind = 1;
     Vec3 seedStart;
     Vec3 seedEnd;
-    Vec3 seedCorner;    ///< third corner of a plane of seeds
-    int seedCount = 20; ///< along the line, and along each edge of a plane
-    int direction = 3;  ///< 1 forward, 2 backward, 3 both
+    Vec3 seedCorner;        ///< third corner of a plane of seeds
+    std::string seedPoints; ///< "x y z; x y z", as pointsFromText() reads it
+    int seedCount = 20;     ///< along the line, and along each edge of a plane (there at most 100)
+    int direction = 3;      ///< 1 forward, 2 backward, 3 both
     bool tubes = true;
     double radius = 0.0; ///< of the tubes; 0 = chosen from the size of the data
     bool useContour = true;

@@ -22,6 +22,10 @@ constexpr double titleSizePart = 0.045;
 constexpr double timeSizePart = 0.034;
 constexpr double textMarginPart = 0.03;
 constexpr double lineWidthPart = 1.0 / 600.0;
+constexpr double traceWidthPart = 1.0 / 250.0;
+
+/// Radius of streamtubes that the style leaves open, as a part of the diagonal of the data.
+constexpr double tubeRadiusPart = 0.0025;
 
 const SceneDataSet* sceneData(const Frame& frame) {
     if (frame.data() == nullptr)
@@ -39,7 +43,10 @@ int pixels(double part, const FrameArea& area) {
 } // namespace
 
 FrameScene::FrameScene(std::shared_ptr<SceneStatistics> statistics)
-    : m_statistics(std::move(statistics)), m_light(makeLight()), m_colorBar(*m_renderer) {
+    : m_statistics(std::move(statistics)),
+      m_light(makeLight()),
+      m_colorBar(*m_renderer),
+      m_streams(*m_renderer, *m_statistics) {
     m_renderer->SetAutomaticLightCreation(0);
     m_renderer->AddLight(m_light);
     m_renderer->AddActor(m_outline.actor());
@@ -63,7 +70,7 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
     setBackground(*m_renderer, frame.style.annotations.background);
     setLight(*m_light, frame.style.light);
 
-    updatePlots(frame);
+    updatePlots(frame, area);
     updateAnnotations(frame, area);
     const bool axis = frame.style.annotations.showAxis && m_data != nullptr &&
                       frame.plotType == PlotType_Cartesian3D;
@@ -75,7 +82,7 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
     setCamera(*m_renderer->GetActiveCamera(), frame.view, area, shownBounds());
 }
 
-void FrameScene::updatePlots(const Frame& frame) {
+void FrameScene::updatePlots(const Frame& frame, const FrameArea& area) {
     if (frame.data() != m_data) {
         for (const auto& [key, plot] : m_plots)
             m_renderer->RemoveActor(plot->actor());
@@ -84,12 +91,15 @@ void FrameScene::updatePlots(const Frame& frame) {
     }
     for (const auto& [key, plot] : m_plots)
         plot->actor()->SetVisibility(0);
+    m_streams.hide();
     m_isTranslucent = false;
     m_isContourShown = false;
     if (frame.plotType != PlotType_Cartesian3D)
         return;
-    if (const SceneDataSet* const data = sceneData(frame))
+    if (const SceneDataSet* const data = sceneData(frame)) {
         updatePlots(frame, *data);
+        updateStreams(frame, *data, area);
+    }
     m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
 }
 
@@ -112,7 +122,7 @@ void FrameScene::addSurface(const Frame& frame, const SceneDataSet& data, int zo
         return;
     const host::SurfaceStyle& style = frame.style.surfaces[block];
     showPlot(frame, data, zone, 0, {mesh, Recipe::Kind::Surface, 0, 0.0, {}},
-             {style.useContour, style.color, style.opacity, style.showMesh, true});
+             {style.useContour, style.color, style.opacity, style.showMesh});
 }
 
 void FrameScene::addSlices(const Frame& frame, const SceneDataSet& data, int zone) {
@@ -133,8 +143,36 @@ void FrameScene::addIsoSurfaces(const Frame& frame, const SceneDataSet& data, in
         if (style.show)
             showPlot(frame, data, zone, i,
                      {mesh, Recipe::Kind::IsoSurface, 0, style.value, style.variable},
-                     {style.useContour, style.color, style.opacity, false, true});
+                     {style.useContour, style.color, style.opacity});
     }
+}
+
+void FrameScene::updateStreams(const Frame& frame, const SceneDataSet& data,
+                               const FrameArea& area) {
+    const host::StreamtraceStyle& style = frame.style.streamtraces;
+    if (!style.show)
+        return;
+    std::vector<int> zones;
+    std::vector<MeshId> meshes;
+    for (const int zone : zonesAtTime(data, frame.solutionTime)) {
+        const MeshId mesh = data.meshId(zone);
+        if (data.blocks[static_cast<std::size_t>(mesh.block)].dimension == 3) {
+            zones.push_back(zone);
+            meshes.push_back(mesh);
+        }
+    }
+    m_streams.setTraces(streamRecipe(style, meshes), [&] {
+        StreamPlot::Meshes read;
+        for (const int zone : zones)
+            read.push_back(data.mesh(zone));
+        return read;
+    });
+    if (m_streams.isEmpty())
+        return;
+    const double radius =
+        style.radius > 0.0 ? style.radius : tubeRadiusPart * data.bounds.diagonal();
+    m_streams.show(frame.style, m_colors, radius, std::max(1.0, traceWidthPart * area.full.height));
+    m_isContourShown = m_isContourShown || style.useContour;
 }
 
 void FrameScene::showPlot(const Frame& frame, const SceneDataSet& data, int zone, int number,

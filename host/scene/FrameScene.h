@@ -11,6 +11,7 @@
 #include "host/scene/Plot.h"
 #include "host/scene/SceneDataSet.h"
 #include "host/scene/SceneStatistics.h"
+#include "host/scene/StreamPlot.h"
 #include "host/scene/TextItem.h"
 
 #include <vtkLight.h>
@@ -42,11 +43,12 @@ private:
     /// Kind of plot, its number in the style, block.
     using PlotKey = std::tuple<Recipe::Kind, int, int>;
 
-    void updatePlots(const host::Frame& frame);
+    void updatePlots(const host::Frame& frame, const FrameArea& area);
     void updatePlots(const host::Frame& frame, const SceneDataSet& data);
     void addSurface(const host::Frame& frame, const SceneDataSet& data, int zone);
     void addSlices(const host::Frame& frame, const SceneDataSet& data, int zone);
     void addIsoSurfaces(const host::Frame& frame, const SceneDataSet& data, int zone);
+    void updateStreams(const host::Frame& frame, const SceneDataSet& data, const FrameArea& area);
     void showPlot(const host::Frame& frame, const SceneDataSet& data, int zone, int number,
                   const Recipe& recipe, const Look& look);
     void updateAnnotations(const host::Frame& frame, const FrameArea& area);
@@ -65,6 +67,7 @@ private:
 
     std::shared_ptr<const host::DataSet> m_data; ///< whose plots are kept
     std::map<PlotKey, std::unique_ptr<Plot>> m_plots;
+    StreamPlot m_streams;
     bool m_isTranslucent = false;
     bool m_isContourShown = false;
 };

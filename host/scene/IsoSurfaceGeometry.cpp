@@ -1,10 +1,10 @@
 // Surfaces of constant value in meshes.
 #include "host/scene/Geometry.h"
 
+#include "host/scene/PointValues.h"
 #include "host/scene/VariableRef.h"
 
 #include <vtkCellData.h>
-#include <vtkCellDataToPointData.h>
 #include <vtkContour3DLinearGrid.h>
 #include <vtkContourFilter.h>
 #include <vtkDataArray.h>
@@ -24,18 +24,6 @@ namespace corvane::scene {
 namespace {
 
 constexpr const char* isoArrayName = "vtkCorvaneIsoScalar";
-
-/// The mesh itself, or one with the cells' values carried to the points.
-vtkSmartPointer<vtkDataSet> withPointValues(vtkDataSet& mesh, const std::string& array) {
-    if (mesh.GetPointData()->HasArray(array.c_str()) != 0 ||
-        mesh.GetCellData()->HasArray(array.c_str()) == 0)
-        return &mesh;
-    const vtkNew<vtkCellDataToPointData> toPoints;
-    toPoints->SetInputData(&mesh);
-    toPoints->PassCellDataOn();
-    toPoints->Update();
-    return toPoints->GetOutput();
-}
 
 vtkSmartPointer<vtkDataArray> scalarOf(vtkDataArray& vector, int component) {
     const auto scalar = vtkSmartPointer<vtkDoubleArray>::New();

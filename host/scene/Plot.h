@@ -1,9 +1,8 @@
-// One plot in one block: polygons, their colours and their material.
+// One plot in one block: polygons and the actor that draws them.
 #pragma once
 
-#include "host/core/FrameStyle.h"
-#include "host/scene/ContourColors.h"
 #include "host/scene/Geometry.h"
+#include "host/scene/Look.h"
 
 #include <vtkActor.h>
 #include <vtkNew.h>
@@ -14,15 +13,6 @@
 
 namespace corvane::scene {
 
-/// How the polygons of a plot look.
-struct Look {
-    bool useContour = false;
-    host::Color color;
-    double opacity = 1.0;
-    bool showMesh = false;
-    bool isShaded = true; ///< otherwise colours are those of the legend from wherever one looks
-};
-
 /// Keeps what it was built from, and does only what a change asks for.
 class Plot {
 public:
@@ -32,14 +22,13 @@ public:
 
     /// Calls source only when the recipe is another one than before.
     void setGeometry(const Recipe& recipe, const GeometrySource& source);
-    void setLook(const Look& look, const ContourColors& colors, const host::LightStyle& light);
+    /// Lines and points are never shaded.
+    void setLook(Look look, const ContourColors& colors, const host::LightStyle& light);
 
     vtkActor* actor() const { return m_actor; }
     bool isEmpty() const;
 
 private:
-    void setContour(const ContourColors& colors);
-
     std::optional<Recipe> m_recipe;
     vtkSmartPointer<vtkPolyData> m_geometry;
     vtkNew<vtkPolyDataMapper> m_mapper;

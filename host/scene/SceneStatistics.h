@@ -11,6 +11,8 @@ struct SceneStatistics {
     std::atomic<long> surfaceRuns{0};
     std::atomic<long> sliceRuns{0};
     std::atomic<long> contourRuns{0};
+    std::atomic<long> streamRuns{0}; ///< integrations of all traces of a frame
+    std::atomic<long> tubeRuns{0};
     std::atomic<long> renders{0};
 };
 

@@ -1,0 +1,30 @@
+// Where streamtraces start.
+#pragma once
+
+#include "host/core/FrameStyle.h"
+
+#include <vtkPolyData.h>
+#include <vtkSmartPointer.h>
+
+#include <string>
+
+namespace corvane::scene {
+
+/// As host::StreamtraceStyle describes them.
+struct StreamSeeds {
+    int kind = 1;
+    host::Vec3 start;
+    host::Vec3 end;
+    host::Vec3 corner;
+    std::string points;
+    int count = 0;
+
+    friend bool operator==(const StreamSeeds&, const StreamSeeds&) = default;
+};
+
+StreamSeeds streamSeeds(const host::StreamtraceStyle& style);
+
+/// Points without cells. None for a list of points that cannot be understood.
+vtkSmartPointer<vtkPolyData> placeSeeds(const StreamSeeds& seeds);
+
+} // namespace corvane::scene
