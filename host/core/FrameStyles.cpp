@@ -1,6 +1,8 @@
 // Binds paths of keywords to the values of a frame.
 #include "host/core/FrameStyles.h"
 
+#include "host/core/PointList.h"
+
 #include <limits>
 #include <utility>
 
@@ -37,11 +39,6 @@ public:
     void number(const std::string& keyword, double& value, double minimum = -unlimited,
                 double maximum = unlimited) const {
         bind(ranged(leaf(keyword, &value), minimum, maximum));
-    }
-    void flagWhile(const std::string& keyword, bool& value, std::function<bool()> isAllowed) const {
-        StyleLeaf bound = leaf(keyword, &value);
-        bound.isAllowed = std::move(isAllowed);
-        bind(std::move(bound));
     }
     void positiveWhile(const std::string& keyword, double& value,
                        std::function<bool()> isAllowed) const {
@@ -126,13 +123,14 @@ void bindIsoSurface(const Group& group, IsoSurfaceStyle& surface, const NameChec
 
 void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces, const NameCheck& isVector) {
     const Group group(tree, {"Streamtraces"});
-    // Refused rather than ignored, since the scene does not draw streamtraces.
-    group.flagWhile("Show", traces.show, [] { return false; });
+    group.flag("Show", traces.show);
     group.name("Variable", traces.variable, isVector);
-    group.integer("SeedKind", traces.seedKind, 1, 2);
+    group.integer("SeedKind", traces.seedKind, 1, 3);
     group.point("SeedStart", traces.seedStart);
     group.point("SeedEnd", traces.seedEnd);
     group.point("SeedCorner", traces.seedCorner);
+    group.name("SeedPoints", traces.seedPoints,
+               [](const std::string& text) { return pointsFromText(text).has_value(); });
     group.integer("SeedCount", traces.seedCount, 1, 10000);
     group.integer("Direction", traces.direction, 1, 3);
     group.flag("Tubes", traces.tubes);

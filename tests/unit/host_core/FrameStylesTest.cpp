@@ -1,5 +1,6 @@
 // Tests of the paths of a frame and what they reach.
 #include "host/core/Frame.h"
+#include "host/core/PointList.h"
 
 #include "tests/unit/host_core/Fakes.h"
 
@@ -119,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Range{"StreamAttributes/StreamTiming/DeltaTime", 1e-300, 1e300},
                     Range{"Surface/1/Opacity", 0, 1}, Range{"Surface/1/Color/Red", 0, 1},
                     Range{"Slice/6/Axis", 1, 3}, Range{"Slice/1/Opacity", 0, 1},
-                    Range{"IsoSurface/6/Opacity", 0, 1}, Range{"Streamtraces/SeedKind", 1, 2},
+                    Range{"IsoSurface/6/Opacity", 0, 1}, Range{"Streamtraces/SeedKind", 1, 3},
                     Range{"Streamtraces/SeedCount", 1, 10000},
                     Range{"Streamtraces/Direction", 1, 3}, Range{"Streamtraces/Radius", 0, 1e300},
                     Range{"Annotations/Background/Blue", 0, 1}));
@@ -179,10 +180,33 @@ TEST_F(FrameStylesTest, VariablesAreThoseOfTheData) {
     EXPECT_EQ(set("Streamtraces/Variable", std::string("p")), StyleSet_BadValue);
 }
 
-TEST_F(FrameStylesTest, StreamtracesCannotBeShown) {
+TEST_F(FrameStylesTest, SeedsAreAListOfPoints) {
+    const std::string path = "Streamtraces/SeedPoints";
+    EXPECT_EQ(set(path, std::string("1 0 2.5;-1e2\t.5 3 ")), StyleSet_Ok);
+    EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints),
+              (std::vector<Vec3>{{1, 0, 2.5}, {-100, 0.5, 3}}));
+    for (const char* text : {"1 2", "1 2 3 4", "1 2 3;", ";", "1,2,3", "1 2 x", "1 2 3x", "nan 0 0",
+                             "1 inf 0", "1 2 1e999", "1 2 3; 4 5"}) {
+        EXPECT_EQ(set(path, std::string(text)), StyleSet_BadValue) << text;
+    }
+    EXPECT_EQ(set(path, std::string()), StyleSet_Ok);
+    EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints), std::vector<Vec3>{});
+}
+
+TEST_F(FrameStylesTest, ListsOfPointsHaveALimit) {
+    std::string text = "0 0 0";
+    for (std::size_t i = 1; i < mostListedPoints; ++i) {
+        text += ";0 0 0";
+    }
+    EXPECT_EQ(set("Streamtraces/SeedPoints", text), StyleSet_Ok);
+    EXPECT_EQ(pointsFromText(text)->size(), mostListedPoints);
+    EXPECT_EQ(set("Streamtraces/SeedPoints", text + ";0 0 0"), StyleSet_BadValue);
+}
+
+TEST_F(FrameStylesTest, StreamtracesCanBeShown) {
     frame.attachData(fakes::volumeData());
-    EXPECT_EQ(set("Streamtraces/Show", 1L), StyleSet_NotAllowed);
-    EXPECT_FALSE(frame.style.streamtraces.show);
+    EXPECT_EQ(set("Streamtraces/Show", 1L), StyleSet_Ok);
+    EXPECT_TRUE(frame.style.streamtraces.show);
 }
 
 TEST_F(FrameStylesTest, AnyVariableCanBeNamedBeforeThereAreData) {
