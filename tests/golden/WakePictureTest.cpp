@@ -1,50 +1,9 @@
 // Pictures of the flow past the cylinder.
-#include "host/core/Page.h"
-#include "host/scene/DataReaders.h"
-#include "host/scene/SceneRenderer.h"
-#include "tests/golden/GoldenPicture.h"
-
-#include <gtest/gtest.h>
+#include "tests/golden/WakePicture.h"
 
 namespace corvane::test {
 
-namespace {
-
-constexpr int width = 320;
-constexpr int height = 180;
-constexpr std::size_t flow = 0; ///< blocks of the data
-constexpr std::size_t body = 1;
-
-} // namespace
-
-class WakePictureTest : public testing::Test {
-protected:
-    WakePictureTest() : frame(page.createFrame({0.0, 0.0, 8.0, 4.5})) {
-        frame.attachData(scene::DataReaders().read(
-            {std::string(CORVANE_SOURCE_DIR) + "/examples/wake/wake.pvd"}));
-        frame.style.annotations.showAxis = false;
-        frame.style.annotations.showOutline = false;
-        frame.style.contour.variable = "U";
-        frame.style.contour.automaticRange = false;
-        frame.style.contour.maximum = 1.4;
-        frame.style.contour.showLegend = false;
-        frame.solutionTime = 3.6;
-        frame.view.psi = 65.0;
-        frame.view.theta = -35.0;
-        fit(frame.view, frame.data()->bounds, static_cast<double>(width) / height);
-    }
-
-    void showBody() { frame.style.surfaces.at(body) = {true, false, {0.8, 0.8, 0.8}, 1.0, false}; }
-    void showVortices() { frame.style.isoSurfaces[0] = {true, "Q", 0.25, true, {}, 1.0}; }
-    void showFloor() { frame.style.slices[0] = {true, 3, 0.05, true, {}, 1.0}; }
-
-    host::Picture picture() {
-        return scene::SceneRenderer().draw(page, {ExportRegion_WorkArea, width, height, 2});
-    }
-
-    host::Page page;
-    host::Frame& frame;
-};
+using WakePictureTest = WakePicture;
 
 TEST_F(WakePictureTest, surface) {
     frame.style.surfaces.at(flow) = {true, true, {}, 1.0, true};
