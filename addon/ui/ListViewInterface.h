@@ -20,7 +20,7 @@ public:
     // Null while there is none.
     virtual ListModelGenericInterface* model() = 0;
 
-    // Lives as long as the view.
+    // Lives until the view dies or makes another one.
     virtual ListSelectionModelInterface& selectionModel() = 0;
 
     // Handle of the host's list, -2 while unset. Setting it shows nothing yet: resume updates then.

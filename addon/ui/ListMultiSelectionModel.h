@@ -1,0 +1,17 @@
+// The selection of a list that may have many rows selected.
+#pragma once
+
+#include "addon/ui/ListSelectionModelAbstract.h"
+
+#include <vector>
+
+namespace corvane::corutiltools {
+
+class ListMultiSelectionModel : public ListSelectionModelAbstract {
+public:
+    explicit ListMultiSelectionModel(ListViewInterface& parentView);
+
+    void setSelectedItems(std::vector<unsigned long> const& items) const override;
+};
+
+} // namespace corvane::corutiltools

@@ -1,0 +1,23 @@
+// The selection of a list that has at most one row selected.
+#include "addon/ui/ListSingleSelectionModel.h"
+
+#include "addon/shell/HostLock.h"
+#include "hostapi/CorHost.h"
+
+namespace corvane::corutiltools {
+
+ListSingleSelectionModel::ListSingleSelectionModel(ListViewInterface& parentView)
+    : ListSelectionModelAbstract(parentView) {}
+
+void ListSingleSelectionModel::setSelectedItems(std::vector<unsigned long> const& items) const {
+    int const list = parentView().guiId();
+    HostLock const lock;
+    CorGUIListDeselectAllItems(list);
+    std::vector<unsigned long> validItems(items);
+    eraseInvalidItems(validItems);
+    if (!validItems.empty())
+        CorGUIListSetSelectedItem(list, static_cast<long>(validItems.front()) + 1);
+    notifyOfChange();
+}
+
+} // namespace corvane::corutiltools

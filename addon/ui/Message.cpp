@@ -1,0 +1,19 @@
+// Messages to the user, under the host's lock.
+#include "addon/ui/Message.h"
+
+#include "addon/shell/HostLock.h"
+#include "hostapi/CorHost.h"
+
+namespace corvane::corutiltools {
+
+void showErrorMessage(std::string const& message) {
+    HostLock const lock;
+    CorUtilDialogErrMsg(message.c_str());
+}
+
+void showNotice(std::string const& message) {
+    HostLock const lock;
+    CorUtilDialogMessageBox(message.c_str(), MessageBox_Notice);
+}
+
+} // namespace corvane::corutiltools
