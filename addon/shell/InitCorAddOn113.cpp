@@ -2,7 +2,10 @@
 #include "addon/macro/MacroManager.h"
 #include "addon/shell/AddOnID.h"
 #include "addon/shell/AddOnName.h"
+#include "addon/shell/MenuOption.h"
+#include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"
+#include "hostapi/toolbox/ArgList.h"
 
 namespace {
 
@@ -17,12 +20,25 @@ struct LoadLock {
     LoadLock& operator=(LoadLock const&) = delete;
 };
 
+void listenToStateChanges() {
+    corvane::toolbox::ArgList args;
+    args.appendFunction("CallbackFunction", reinterpret_cast<CorGenericFunc>(
+                                                corvane::corutiltools::StateChangeCallback));
+    args.appendInt("StateChangeMode", StateChangeMode_Synchronous);
+    args.appendInt("StateChangeCallbackAPI", 1);
+    CorUtilStateChangeAddCallbackX(args.handle());
+}
+
 } // namespace
 
 void InitCorAddOn113() {
     using namespace corvane::corutiltools;
     LoadLock const lock;
+    InitCGB();
     AddOnID =
         CorUtilAddOnRegister(hostInterfaceNumber, AddOnName, CORVANE_VERSION, "Corvane, Inc.");
+    addMenuOption();
     MacroManager::registerCallback();
+    listenToStateChanges();
+    updateMenuOption();
 }

@@ -1,9 +1,13 @@
-// The key frames and settings that the user and macros work on.
+// The main dialog: its life, and what others hand to it.
 #include "addon/ui/DialogMain.h"
 
 #include "addon/file/KeyFrameFile.h"
 #include "addon/shell/HostLock.h"
+#include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"
+
+#include <iterator>
+#include <limits>
 
 namespace corvane::corutiltools {
 
@@ -13,57 +17,108 @@ constexpr double defaultFramesPerSecond = 30.0;
 
 } // namespace
 
-int DialogMain::m_dialog = COR_HANDLE_NOT_CREATED;
+std::unique_ptr<DialogMain> DialogMain::m_instance;
+
+PreMappedValue<Destination_e> const DialogMain::m_destinationOptions[2] = {
+    {"On Screen", Destination_OnScreen}, {"To File", Destination_ToFile}};
 
 DialogMain& DialogMain::instance() {
-    static DialogMain theInstance;
-    return theInstance;
-}
-
-bool DialogMain::okToLaunch() {
-    HostLock const lock;
-    return CorUtilFrameGetCount() >= 1 && CorUtilFrameGetPlotType() == PlotType_Cartesian3D;
+    if (!m_instance)
+        m_instance.reset(new DialogMain);
+    return *m_instance;
 }
 
 DialogMain::DialogMain()
-    : m_settings{.timeOptions = {.animateTime = false,
+    : m_listView(ListViewInterface::SelectionModel_Multi),
+      m_frameCount(30, true, true, 1, std::numeric_limits<int>::max()),
+      m_settings{.timeOptions = {.animateTime = false,
                                  .operation = TimeAnimationOperation_Forward,
                                  .numCycles = 1},
                  .destination = Destination_OnScreen,
                  .animateStreamtraces = false,
                  .fadeIn = false,
                  .fadeOut = false},
-      m_currentFile("animation", KeyFrameFile::m_fileNameExtension, "Key Frame Animation") {
+      m_currentFile("animation", KeyFrameFile::m_fileNameExtension, "Key Frame Animation"),
+      m_dropper(*this),
+      m_destination(m_destinationOptions, std::size(m_destinationOptions)) {
+    m_listView.setModel(m_model);
     HostLock const lock;
     toolbox::StyleValue("ExportSetup").set(defaultFramesPerSecond, "AnimationSpeed");
 }
 
+bool DialogMain::okToLaunch() {
+    instance();
+    HostLock const lock;
+    return CorUtilFrameGetCount() >= 1 && CorUtilFrameGetPlotType() == PlotType_Cartesian3D;
+}
+
+void DialogMain::launch() {
+    DialogMain& dialog = instance();
+    HostLock const lock;
+    if (BuildDialog1(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED)
+        return;
+    dialog.buildMenuBar();
+    CorGUIDialogLaunch(Dialog1Manager);
+}
+
+void DialogMain::init_CB() {
+    DialogMain& dialog = instance();
+    HostLock const lock;
+    dialog.bindControls();
+    dialog.m_listView.selectionModel().addObserver(dialog);
+    dialog.m_listView.resumeUpdates();
+    // A list that was replaced while nobody observed it reports nothing more until that has been
+    // delivered.
+    dialog.m_model.setDataList(dialog.m_model.dataList());
+    dialog.updateMenuToggles();
+    dialog.update();
+    dialog.m_dropper.startListening();
+}
+
+void DialogMain::bindControls() {
+    m_destination.setGuiID(Destination_OPT_D1);
+    m_destination.fill();
+    m_frameCount.setGuiID(FrameCount_TF_D1);
+    m_frameCount.updateTextField();
+    m_listView.setGuiID(KeyFrameList_MLST_D1);
+}
+
+void DialogMain::drop() {
+    DialogMain& dialog = instance();
+    HostLock const lock;
+    CorGUIDialogDrop(Dialog1Manager);
+    dialog.m_listView.selectionModel().removeObserver(dialog);
+    dialog.m_listView.suspendUpdates();
+}
+
+void DialogMain::help_BTN_CB() {
+    HostLock const lock;
+    CorUtilHelp("key_frame_animation.html", FALSE, 0);
+}
+
 bool DialogMain::isVisible() const {
-    return m_dialog != COR_HANDLE_NOT_CREATED;
-}
-
-ListModelKeyFrame& DialogMain::model() {
-    return m_model;
-}
-
-Settings_s const& DialogMain::settings() const {
-    return m_settings;
-}
-
-CurrentFileManager& DialogMain::currentFile() {
-    return m_currentFile;
+    if (Dialog1Manager == COR_HANDLE_NOT_CREATED)
+        return false;
+    HostLock const lock;
+    return CorGUIDialogIsUp(Dialog1Manager) != FALSE;
 }
 
 void DialogMain::applySettings(Settings_s const& settings) {
     m_settings = settings;
+    registerOnIdleUpdate();
+    updateMenuToggles();
 }
 
 void DialogMain::applyDataModel(ListModelKeyFrame const& model) {
     m_model.setDataList(model.dataList());
+    registerOnIdleUpdate();
+    updateMenuToggles();
 }
 
 void DialogMain::onSettingsFileRead(std::string const& fileName) {
     m_currentFile.setFileName(fileName);
+    registerOnIdleUpdate();
+    updateMenuToggles();
 }
 
 } // namespace corvane::corutiltools

@@ -1,34 +1,50 @@
-// The key frames and settings that the user and macros work on.
+// The main dialog: the key frames and settings that the user and macros work on.
 #pragma once
 
 #include "addon/model/ListModelKeyFrame.h"
 #include "addon/model/Records.h"
+#include "addon/shell/DialogDropper.h"
+#include "addon/shell/OnIdleManager.h"
 #include "addon/ui/CurrentFileManager.h"
+#include "addon/ui/ListSelectionModelObserverInterface.h"
+#include "addon/ui/ListView.h"
+#include "addon/ui/OptionMenuStaticManager.h"
+#include "addon/ui/PreMappedValue.h"
+#include "addon/ui/TextFieldValidator.h"
 
+#include <memory>
 #include <string>
+#include <vector>
+
+namespace corvane::test {
+class FreshDialogs;
+}
 
 namespace corvane::corutiltools {
 
 // One for the whole process: what a macro opens is what the user sees, and it outlives the window.
-class DialogMain {
+class DialogMain : public ListSelectionModelObserverInterface {
 public:
     // Made on first use, which sets the host's animation speed to 30 frames a second: files play at
     // that speed unless the user chooses another one.
     static DialogMain& instance();
 
-    // Whether the active frame is one that key frames can be taken of. Does not look at the data
-    // and makes no instance.
+    // Whether the active frame is one that key frames can be taken of. Does not look at the data.
     static bool okToLaunch();
+
+    // Shows the window, or raises it.
+    static void launch();
 
     DialogMain(DialogMain const&) = delete;
     DialogMain& operator=(DialogMain const&) = delete;
 
-    // Whether the user sees the window. It is not made before the user asks for it.
+    // Whether the user sees the window.
     bool isVisible() const;
 
-    ListModelKeyFrame& model();
-    Settings_s const& settings() const;
-    CurrentFileManager& currentFile();
+    ListModelKeyFrame& model() { return m_model; }
+    ListView& listView() { return m_listView; }
+    Settings_s const& settings() const { return m_settings; }
+    CurrentFileManager& currentFile() { return m_currentFile; }
 
     // Both copy what they are given.
     void applySettings(Settings_s const& settings);
@@ -37,14 +53,93 @@ public:
     // To be called after a key frame file was read: it is the current file from then on.
     void onSettingsFileRead(std::string const& fileName);
 
+    // Plays all key frames to the destination, which the settings keep. Failures are shown to the
+    // user.
+    void animate(Destination_e destination, MacroOption_e macroOption);
+
+    // Tells the user about options that this data set or frame cannot be animated with, and turns
+    // them off.
+    void checkAnimationSettings();
+
+    // Refreshes at idle time, once however often it is asked for. Does nothing while the window is
+    // not up, since coming up refreshes everything.
+    void registerOnIdleUpdate();
+
+    void selectionChanged(std::vector<unsigned long> const& selectedItems) override;
+
+    // For the host. drop also closes the window for others.
+    static void init_CB();
+    static void drop();
+    static void help_BTN_CB();
+    static void keyFrameList_MLST_CB(long const* positions);
+    static void insertKeyFrame_BTN_CB();
+    static void appendKeyFrame_BTN_CB();
+    static void update_BTN_CB();
+    static void apply_BTN_CB();
+    static void delete_BTN_CB();
+    static void clear_BTN_CB();
+    static long viewName_TF_CB(char const* text);
+    static long frameCount_TF_CB(char const* text);
+    static void destination_OPT_CB(long const* position);
+    static void animateAll_BTN_CB();
+    static void animateSelected_BTN_CB();
+    static void open_CB();
+    static void save_CB();
+    static void saveAs_CB();
+    static void animateTime_CB(long const* isOn);
+    static void timeAnimationOptions_CB();
+    static void animateStreams_CB(long const* isOn);
+    static void fadeIn_CB(long const* isOn);
+    static void fadeOut_CB(long const* isOn);
+
 private:
+    friend class test::FreshDialogs;
+
     DialogMain();
 
-    static int m_dialog; // the host's handle
+    void bindControls();
+    void buildMenuBar();
+
+    void update();
+    void updateSelectedKeyFrameInfo(std::vector<unsigned long> const& selection);
+    void updateSensitivities(unsigned long numSelected);
+    void updateMenuToggles();
+
+    std::vector<unsigned long> selectedItems();
+    int selectedItem();
+    void captureKeyFrame(unsigned long position);
+    void insertKeyFrameIntoModel(View const& view, ListModelKeyFrame& model,
+                                 unsigned long position);
+    void deleteItems(std::vector<unsigned long> selection);
+
+    void toggle(bool& setting);
+    void disable(bool& setting, std::string const& notice);
+    void onTimeAnimationDialogDropped(bool accepted);
+    void animateSelected();
+    void resetDestination();
+    void save(bool alwaysAsksForFile);
+
+    static PreMappedValue<Destination_e> const m_destinationOptions[2];
+
+    static std::unique_ptr<DialogMain> m_instance;
+
+    // Handles of the host, COR_HANDLE_NOT_CREATED until the menu bar is built.
+    static int m_animateTimeMenuID;
+    static int m_animateStreamsMenuID;
+    static int m_fadeInMenuID;
+    static int m_fadeOutMenuID;
+
+    static bool menuIsBuilt;
+    static bool alreadyUpdatingMenuToggles;
 
     ListModelKeyFrame m_model;
+    ListView m_listView;
+    TextFieldValidator<int> m_frameCount;
     Settings_s m_settings;
     CurrentFileManager m_currentFile;
+    OnIdleManager m_onIdle;
+    DialogDropper<DialogMain> m_dropper;
+    OptionMenuStaticManager<Destination_e> m_destination;
 };
 
 } // namespace corvane::corutiltools

@@ -12,24 +12,23 @@ namespace {
 using namespace corvane::test;
 using namespace corvane::corutiltools;
 using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::StartsWith;
 
 class DialogMainFirstUseTest : public HostTest {
 protected:
     RegisteredAddOn const registration;
 };
 
-TEST_F(DialogMainFirstUseTest, setsTheAnimationSpeedOnceAndNotForTheLaunchTest) {
+TEST_F(DialogMainFirstUseTest, setsTheAnimationSpeedOnce) {
     host.app().exportSetup().animationSpeed = 12.0;
-    EXPECT_TRUE(DialogMain::okToLaunch());
-    EXPECT_THAT(host.callsOf("CorUtilStyleSet"), IsEmpty());
     host.clearCalls();
-
-    DialogMain::instance();
+    EXPECT_TRUE(DialogMain::okToLaunch());
     EXPECT_THAT(host.calls(),
-                ElementsAre(lockStart,
+                ElementsAre(lockStart, StartsWith("CorUtilStateChangeAddListener(2, "), lockFinish,
+                            lockStart,
                             "CorUtilStyleSet(\"ExportSetup\",\"AnimationSpeed\", DValue=30)",
-                            lockFinish));
+                            lockFinish, lockStart, "CorUtilFrameGetCount()",
+                            "CorUtilFrameGetPlotType()", lockFinish));
     EXPECT_EQ(host.app().exportSetup().animationSpeed, 30.0);
 
     host.app().exportSetup().animationSpeed = 12.0;

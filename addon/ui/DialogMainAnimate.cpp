@@ -1,0 +1,97 @@
+// The main dialog: playing the flight.
+#include "addon/ui/DialogMain.h"
+
+#include "addon/engine/Action.h"
+#include "addon/engine/KeyFrameError.h"
+#include "addon/model/Utilities.h"
+#include "addon/shell/HostLock.h"
+#include "addon/ui/ContinuousRun.h"
+#include "addon/ui/DialogExportOptions.h"
+#include "addon/ui/Message.h"
+#include "hostapi/CorHost.h"
+
+#include <boost/bind/bind.hpp>
+
+namespace corvane::corutiltools {
+
+namespace {
+
+void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, unsigned long count,
+          Settings_s const& settings, MacroOption_e macroOption) {
+    try {
+        Animate(keyFrames, startIndex, count, settings, macroOption);
+    } catch (KeyFrameError const& error) {
+        showErrorMessage(error.what());
+    }
+}
+
+} // namespace
+
+void DialogMain::animate(Destination_e destination, MacroOption_e macroOption) {
+    HostLock const lock;
+    m_settings.destination = destination;
+    play(m_model.dataList(), 0, m_model.size(), m_settings, macroOption);
+}
+
+void DialogMain::checkAnimationSettings() {
+    HostLock const lock;
+    if (m_settings.timeOptions.animateTime && !DataSetIsTransient())
+        disable(m_settings.timeOptions.animateTime, "The current data set is not transient.\n"
+                                                    "Concurrent time animation will be disabled.");
+    if (m_settings.animateStreamtraces && !StreamtraceTimingIsEnabled())
+        disable(m_settings.animateStreamtraces,
+                "Neither streamtrace markers nor dashes are enabled.\n"
+                "Concurrent streamtrace animation will be disabled.");
+}
+
+void DialogMain::disable(bool& setting, std::string const& notice) {
+    showNotice(notice);
+    setting = false;
+    updateMenuToggles();
+}
+
+void DialogMain::animateAll_BTN_CB() {
+    DialogMain& dialog = instance();
+    dialog.checkAnimationSettings();
+    if (dialog.m_destination.value() == Destination_OnScreen)
+        dialog.animate(Destination_OnScreen, MacroOption_Record);
+    else
+        DialogExportOptions::instance().launch(
+            boost::bind(&DialogMain::animate, &dialog, Destination_ToFile, MacroOption_Record));
+}
+
+void DialogMain::animateSelected_BTN_CB() {
+    instance().animateSelected();
+}
+
+void DialogMain::animateSelected() {
+    HostLock const lock;
+    std::vector<unsigned long> const selection = selectedItems();
+    if (selection.empty())
+        return;
+    if (!isContinuousRun(selection)) {
+        showErrorMessage("Selected items must be a continuous range.");
+        return;
+    }
+    if (m_destination.value() == Destination_ToFile)
+        resetDestination();
+    m_settings.destination = Destination_OnScreen;
+    play(m_model.dataList(), selection.front(), selection.back() - selection.front(), m_settings,
+         MacroOption_DoNotRecord);
+}
+
+void DialogMain::resetDestination() {
+    showNotice("\"Animate Selected\" does not support output to file.\n"
+               "The destination has been reset to \"" +
+               m_destination.getDisplayString(Destination_OnScreen) + "\".");
+    m_settings.destination = Destination_OnScreen;
+    registerOnIdleUpdate();
+}
+
+void DialogMain::destination_OPT_CB(long const*) {
+    DialogMain& dialog = instance();
+    dialog.m_settings.destination = dialog.m_destination.value();
+    dialog.registerOnIdleUpdate();
+}
+
+} // namespace corvane::corutiltools
