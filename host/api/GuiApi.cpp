@@ -19,7 +19,7 @@ namespace {
 template <class T, class Call>
 T* find(const Call& call, Application& app, int handle) {
     T* const found = app.controls().find<T>(handle);
-    if (!found && handle != COR_HANDLE_NOT_CREATED) {
+    if (!found && handle != COR_HANDLE_NOT_CREATED && app.controls().areThere()) {
         call.misuse("no such control: " + std::to_string(handle));
     }
     return found;

@@ -21,6 +21,9 @@ public:
     Controls(const Controls&) = delete;
     Controls& operator=(const Controls&) = delete;
 
+    /// False in a run without windows, and after close(): there are no controls then.
+    bool areThere() const { return m_toolkit != nullptr; }
+
     /// Null when there is none, or one of another kind. A spin field is a text field, too.
     template <class T>
     T* find(int handle) const;

@@ -12,6 +12,7 @@ class HostTest : public ::testing::Test {
 protected:
     HostTest() = default;
     explicit HostTest(MemoryHost::Empty empty) : host(empty) {}
+    explicit HostTest(MemoryHost::Windowless windowless) : host(windowless) {}
 
     /// Fails for what the test left behind: see MemoryHost::leftBehind.
     void TearDown() override;
@@ -23,6 +24,12 @@ protected:
 class EmptyHostTest : public HostTest {
 protected:
     EmptyHostTest() : HostTest(MemoryHost::Empty{}) {}
+};
+
+/// The same, without windows.
+class WindowlessHostTest : public HostTest {
+protected:
+    WindowlessHostTest() : HostTest(MemoryHost::Windowless{}) {}
 };
 
 } // namespace corvane::test

@@ -7,15 +7,18 @@
 
 namespace corvane::test {
 
-MemoryHost::MemoryHost(Empty)
-    : m_app(std::make_unique<host::Application>(host::Ports{.renderer = m_renderer,
-                                                            .reader = m_reader,
-                                                            .movies = m_movies,
-                                                            .status = m_status,
-                                                            .dialogs = m_dialogs,
-                                                            .pictures = m_pictures,
-                                                            .screen = &m_renderer,
-                                                            .idleTimer = &m_idleTimer})) {
+MemoryHost::MemoryHost(bool hasWindows)
+    : m_app(std::make_unique<host::Application>(
+          host::Ports{.renderer = m_renderer,
+                      .reader = m_reader,
+                      .movies = m_movies,
+                      .status = m_status,
+                      .dialogs = m_dialogs,
+                      .pictures = m_pictures,
+                      .screen = &m_renderer,
+                      .idleTimer = &m_idleTimer,
+                      .widgets = hasWindows ? &m_widgets : nullptr,
+                      .mainMenu = hasWindows ? &m_mainMenu : nullptr})) {
     host::CallTrace& trace = m_app->trace();
     trace.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
     trace.onMisuse = [this](const std::string& what) { m_misuse.push_back(what); };
@@ -23,6 +26,10 @@ MemoryHost::MemoryHost(Empty)
         return m_script.mayProceed(operation, hasResult);
     };
 }
+
+MemoryHost::MemoryHost(Empty) : MemoryHost(true) {}
+
+MemoryHost::MemoryHost(Windowless) : MemoryHost(false) {}
 
 MemoryHost::MemoryHost() : MemoryHost(Empty{}) {
     addFrame();

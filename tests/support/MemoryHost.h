@@ -3,10 +3,12 @@
 
 #include "host/core/Application.h"
 #include "tests/support/MemoryData.h"
+#include "tests/support/MemoryMainMenu.h"
 #include "tests/support/MemoryMovies.h"
 #include "tests/support/MemoryPictures.h"
 #include "tests/support/MemoryReader.h"
 #include "tests/support/MemoryRenderer.h"
+#include "tests/support/MemoryWidgets.h"
 #include "tests/support/ScriptedCalls.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/ScriptedStatus.h"
@@ -26,12 +28,14 @@ namespace corvane::test {
 ///     EXPECT_THAT(host.calls(), ElementsAre("CorUtilDrawGraphics(FALSE)"));
 class MemoryHost {
 public:
-    struct Empty {}; ///< no frame and no data, as when the add-on is loaded
+    struct Empty {};      ///< no frame and no data, as when the add-on is loaded
+    struct Windowless {}; ///< as Empty, and without dialogs and menus, as in a batch run
 
     /// One active 3D frame of 8 by 4.5 inches with the data of makeTransientData, at time 0.
     /// Nothing is drawn, marked for drawing, or remembered as a call yet.
     MemoryHost();
     explicit MemoryHost(Empty);
+    explicit MemoryHost(Windowless);
     ~MemoryHost();
     MemoryHost(const MemoryHost&) = delete;
     MemoryHost& operator=(const MemoryHost&) = delete;
@@ -43,6 +47,9 @@ public:
     MemoryReader& reader() { return m_reader; }
     ScriptedStatus& status() { return m_status; }
     ScriptedDialogs& dialogs() { return m_dialogs; }
+    /// The dialogs of add-ons, for the user.
+    MemoryWidgets& gui() { return m_widgets; }
+    MemoryMainMenu& mainMenu() { return m_mainMenu; }
 
     /// The active frame; there must be one.
     host::Frame& frame();
@@ -97,6 +104,8 @@ public:
     std::vector<std::string> leftBehind() const;
 
 private:
+    explicit MemoryHost(bool hasWindows);
+
     struct CountingTimer : host::IdleTimer {
         void requestIdle() override { ++requests; }
         std::size_t requests = 0;
@@ -110,6 +119,8 @@ private:
     ScriptedStatus m_status;
     ScriptedDialogs m_dialogs;
     CountingTimer m_idleTimer;
+    MemoryWidgets m_widgets;
+    MemoryMainMenu m_mainMenu;
     ScriptedCalls m_script;
     std::vector<host::TraceRecord> m_records;
     std::vector<std::string> m_misuse;

@@ -7,7 +7,7 @@ namespace {
 
 void callback() {}
 
-class WindowlessApiTest : public EmptyHostTest {};
+class WindowlessApiTest : public WindowlessHostTest {};
 
 TEST_F(WindowlessApiTest, thereIsNoMenu) {
     EXPECT_EQ(CorUtilMenuAddOption("Animate", "&Kites...", 1, &callback), FALSE);
