@@ -85,8 +85,8 @@ Options parseCommandLine(int argc, const char* const* argv) {
     CLI::App app{"Flies a camera smoothly through 3D simulation results.", "corvane"};
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
-                   "data files: one data set together (.pvd .vtu .vtp .vti .vtr .vts .vtm .vtk "
-                   ".stl .ply .obj)");
+                   "data files: one data set together (.pvd .vtu .vtp .vti .vtr .vts .vtm .pvtu "
+                   ".pvtp .pvti .pvtr .pvts .vtk .foam .case .e .exo .ex2 .cgns .stl .ply .obj)");
     app.add_option("--macro", options.macro, "play this macro first");
     app.add_option("--set", settings, "give a variable of macros a value, ${NAME} there")
         ->type_name("NAME=VALUE")

@@ -27,6 +27,9 @@ using Name = std::array<char, 33>;
 class CgnsContents {
 public:
     explicit CgnsContents(const std::string& path) : m_path(path) {
+        int kind = 0;
+        if (cg_is_cgns(path.c_str(), &kind) != CG_OK)
+            throw readError(path, "it is no CGNS file, or a damaged one");
         check(cg_open(path.c_str(), CG_MODE_READ, &m_file));
     }
     ~CgnsContents() { cg_close(m_file); }
@@ -67,7 +70,7 @@ private:
 
     void check(int code) const {
         if (code != CG_OK)
-            throw readError(m_path, cg_get_error());
+            throw readError(m_path, std::string("it is damaged (") + cg_get_error() + ")");
     }
 
     std::string m_path;
@@ -77,6 +80,7 @@ private:
 } // namespace
 
 vtkSmartPointer<vtkAlgorithm> CgnsFile::openReader() const {
+    silenceHdf5();
     const std::set<std::string> variables = CgnsContents(path()).variables();
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     reader->SetFileName(path().c_str());

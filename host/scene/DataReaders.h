@@ -12,8 +12,11 @@ namespace corvane::scene {
 
 struct SceneStatistics;
 
-/// Reads VTK's XML files (.vtu .vtp .vti .vtr .vts .vtm and the parallel ones) and legacy files
-/// (.vtk), lists of files through time (.pvd), and surfaces in .stl, .ply and .obj files.
+/// Reads VTK's XML files (.vtu .vtp .vti .vtr .vts, .vtm of several blocks, and the parallel .pvtu
+/// .pvtp .pvti .pvtr .pvts) and legacy files (.vtk), lists of files through time (.pvd), OpenFOAM
+/// cases (.foam), EnSight Gold cases (.case; text and C Binary), Exodus II files (.e .exo .ex2),
+/// CGNS files (.cgns), and surfaces in .stl, .ply and .obj files. Files of other names are tried by
+/// their content where that tells: VTK's two kinds and PLY.
 ///
 /// Several files make one data set of several blocks. Only the first, the middle and the last
 /// solution time are read at once, to know the ranges of values; others when they are drawn.

@@ -3,6 +3,7 @@
 
 #include "host/scene/Hdf5Mutex.h"
 #include "host/scene/MeshParts.h"
+#include "host/scene/NetCdfCheck.h"
 
 #include <vtkExodusIIReader.h>
 #include <vtkMultiBlockDataSet.h>
@@ -10,6 +11,8 @@
 namespace corvane::scene {
 
 vtkSmartPointer<vtkAlgorithm> ExodusFile::openReader() const {
+    silenceHdf5();
+    std::call_once(m_checked, [this] { checkExodus(path()); });
     auto reader = vtkSmartPointer<vtkExodusIIReader>::New();
     reader->SetFileName(path().c_str());
     reader->GenerateObjectIdCellArrayOff();

@@ -15,6 +15,9 @@ protected:
     vtkSmartPointer<vtkAlgorithm> openReader() const override;
     std::vector<MeshPart> partsOf(vtkAlgorithm& reader) const override;
     std::mutex* libraryMutex() const override;
+
+private:
+    mutable std::once_flag m_checked;
 };
 
 } // namespace corvane::scene

@@ -3,20 +3,68 @@
 
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
+#include <vtkCellTypes.h>
 #include <vtkDataArray.h>
+#include <vtkGenericCell.h>
 #include <vtkIdTypeArray.h>
+#include <vtkNew.h>
 #include <vtkPointData.h>
 #include <vtkPolyData.h>
 #include <vtkUnstructuredGrid.h>
 
 #include <array>
+#include <map>
 
 namespace corvane::scene {
 
 namespace {
 
+/// The points of each cell begin where those of the last one end, and the last ones are there.
+bool hasOrder(vtkCellArray& cells) {
+    vtkDataArray& offsets = *cells.GetOffsetsArray();
+    const vtkIdType count = offsets.GetNumberOfTuples();
+    for (vtkIdType i = 1; i < count; ++i)
+        if (offsets.GetComponent(i, 0) < offsets.GetComponent(i - 1, 0))
+            return false;
+    return count == 0 || (offsets.GetComponent(0, 0) == 0.0 &&
+                          offsets.GetComponent(count - 1, 0) <=
+                              static_cast<double>(cells.GetNumberOfConnectivityIds()));
+}
+
+/// Of kinds of cells with a certain number of points.
+bool hasSoundKinds(vtkUnstructuredGrid& grid) {
+    const vtkIdType count = grid.GetNumberOfCells();
+    if (count == 0)
+        return true;
+    if (grid.GetCellTypesArray()->GetNumberOfTuples() != count ||
+        grid.GetCells()->GetNumberOfCells() != count)
+        return false;
+    const vtkNew<vtkGenericCell> cell;
+    std::map<int, vtkIdType> pointsOfKind;
+    for (vtkIdType i = 0; i < count; ++i) {
+        const int kind = grid.GetCellType(i);
+        const auto [known, isNew] = pointsOfKind.emplace(kind, 0);
+        if (isNew) {
+            cell->SetCellType(kind);
+            if (cell->GetCellType() != kind)
+                return false;
+            known->second = cell->RequiresExplicitFaceRepresentation() ||
+                                    vtkCellTypes::IsLinear(static_cast<unsigned char>(kind)) == 0
+                                ? 0
+                                : cell->GetNumberOfPoints();
+        }
+        if (known->second > 0 && grid.GetCells()->GetCellSize(i) != known->second)
+            return false;
+    }
+    return true;
+}
+
 bool hasPoints(vtkCellArray* cells, vtkIdType pointCount) {
-    if (cells == nullptr || cells->GetNumberOfConnectivityIds() == 0)
+    if (cells == nullptr)
+        return true;
+    if (!hasOrder(*cells))
+        return false;
+    if (cells->GetNumberOfConnectivityIds() == 0)
         return true;
     std::array<double, 2> range{};
     cells->GetConnectivityArray()->GetRange(range.data());
@@ -59,7 +107,8 @@ bool hasSoundPolyhedra(vtkUnstructuredGrid& grid) {
 bool hasSoundCells(vtkDataSet& mesh) {
     const vtkIdType points = mesh.GetNumberOfPoints();
     if (auto* const grid = vtkUnstructuredGrid::SafeDownCast(&mesh))
-        return hasPoints(grid->GetCells(), points) && hasSoundPolyhedra(*grid);
+        return hasPoints(grid->GetCells(), points) && hasSoundKinds(*grid) &&
+               hasSoundPolyhedra(*grid);
     if (auto* const surface = vtkPolyData::SafeDownCast(&mesh))
         return hasPoints(surface->GetVerts(), points) && hasPoints(surface->GetLines(), points) &&
                hasPoints(surface->GetPolys(), points) && hasPoints(surface->GetStrips(), points);

@@ -5,6 +5,7 @@
 #include "host/scene/EnSightFile.h"
 #include "host/scene/ExodusFile.h"
 #include "host/scene/OpenFoamFile.h"
+#include "host/scene/ParallelXmlCheck.h"
 #include "host/scene/PlyFile.h"
 #include "host/scene/ReadError.h"
 #include "host/scene/VtkMeshFile.h"
@@ -37,6 +38,8 @@ public:
 
 private:
     vtkSmartPointer<vtkDataObject> readObject() const override {
+        if constexpr (std::is_same_v<vtkXMLGenericDataObjectReader, Reader>)
+            checkParallelXml(path());
         const vtkNew<Reader> reader;
         reader->SetFileName(path().c_str());
         if constexpr (std::is_base_of_v<vtkDataReader, Reader>) {

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <new>
 #include <stdexcept>
 
 namespace corvane::scene {
@@ -137,6 +138,10 @@ std::vector<MeshPart> PlyFile::read(int /*step*/) const {
         return {{"", surface}};
     } catch (const std::runtime_error& error) {
         throw readError(path(), error.what());
+    } catch (const std::bad_alloc&) {
+        throw readError(path(), tooLargeReason);
+    } catch (const std::length_error&) {
+        throw readError(path(), tooLargeReason);
     }
 }
 

@@ -1,6 +1,8 @@
 // The sentences for files that cannot be read.
 #include "host/scene/ReadError.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -8,8 +10,19 @@
 
 namespace corvane::scene {
 
+namespace {
+
+/// Reasons quote damaged files, which hold anything.
+std::string printable(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return std::iscntrl(c) != 0; }, ' ');
+    return text;
+}
+
+} // namespace
+
 host::HostError readError(const std::string& path, const std::string& reason) {
-    return host::HostError(path + " cannot be read: " + reason + ".");
+    return host::HostError(path + " cannot be read: " + printable(reason) + ".");
 }
 
 void checkReadable(const std::string& path) {

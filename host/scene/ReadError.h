@@ -7,6 +7,10 @@
 
 namespace corvane::scene {
 
+/// What is said when memory is asked for that is not there: sizes are taken from the file, and may
+/// be anything when it is damaged.
+constexpr const char* tooLargeReason = "it is damaged, or larger than this machine's memory";
+
 /// "path cannot be read: reason."
 host::HostError readError(const std::string& path, const std::string& reason);
 

@@ -63,17 +63,15 @@ void TimedMeshFile::withReader(const Work& work) const {
     if (std::mutex* const mutex = libraryMutex())
         lock = std::unique_lock(*mutex);
     const VtkMessages messages;
-    // Sizes are taken from the file, and may be anything when it is damaged.
-    constexpr const char* tooLarge = "it is damaged, or larger than this machine's memory";
     try {
         const auto reader = openReader();
         if (messages.hasErrors())
             throw readError(path(), messages.reason());
         work(*reader, messages);
     } catch (const std::bad_alloc&) {
-        throw readError(path(), tooLarge);
+        throw readError(path(), tooLargeReason);
     } catch (const std::length_error&) {
-        throw readError(path(), tooLarge);
+        throw readError(path(), tooLargeReason);
     }
 }
 

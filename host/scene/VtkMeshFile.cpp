@@ -6,12 +6,15 @@
 #include "host/scene/ReadError.h"
 #include "host/scene/VtkMessages.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace corvane::scene {
 
 std::vector<MeshPart> VtkMeshFile::read(int /*step*/) const {
     checkReadable(path());
     const VtkMessages messages;
-    const auto object = readObject();
+    const auto object = readOrRefuse();
     if (messages.hasErrors() || (areWarningsErrors() && messages.hasWarnings()))
         throw readError(path(), messages.reason());
     auto parts = meshParts(object);
@@ -21,6 +24,16 @@ std::vector<MeshPart> VtkMeshFile::read(int /*step*/) const {
         if (!isSound(*part.mesh))
             throw readError(path(), "it is damaged");
     return parts;
+}
+
+vtkSmartPointer<vtkDataObject> VtkMeshFile::readOrRefuse() const {
+    try {
+        return readObject();
+    } catch (const std::bad_alloc&) {
+        throw readError(path(), tooLargeReason);
+    } catch (const std::length_error&) {
+        throw readError(path(), tooLargeReason);
+    }
 }
 
 } // namespace corvane::scene

@@ -18,6 +18,9 @@ protected:
     /// Runs the reader; errors that it reports to VTK are collected by the caller.
     virtual vtkSmartPointer<vtkDataObject> readObject() const = 0;
     virtual bool areWarningsErrors() const { return false; }
+
+private:
+    vtkSmartPointer<vtkDataObject> readOrRefuse() const;
 };
 
 } // namespace corvane::scene

@@ -1,0 +1,56 @@
+// What the text of an EnSight Gold case says.
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace corvane::scene {
+
+/// A file, or one for each time: its name with "*" for the number.
+struct EnSightFiles {
+    std::string pattern;
+    int timeSet = 0;        ///< 0: the same at all times
+    bool isOneFile = false; ///< all times are in one file
+};
+
+struct EnSightVariable {
+    std::string name;
+    int components = 1;
+    bool isOfCells = false;
+    EnSightFiles files;
+};
+
+struct EnSightTimeSet {
+    std::vector<double> times;
+    std::vector<int> numbers; ///< of the files; as many as times, or none
+};
+
+class EnSightCase {
+public:
+    /// Throws a readError.
+    explicit EnSightCase(const std::string& path);
+
+    const std::vector<double>& times() const { return m_times; } ///< ascending
+    const EnSightFiles& geometry() const { return m_geometry; }
+    /// The scalars and vectors of points and cells; others are left out.
+    const std::vector<EnSightVariable>& variables() const { return m_variables; }
+
+    struct Place {
+        std::string path;
+        int index = 0; ///< of the state in the file
+    };
+    /// Where the data of a time are: those of the last time of their set not above it, or of its
+    /// first time.
+    Place placeOf(const EnSightFiles& files, double time) const;
+
+private:
+    std::string m_path;
+    EnSightFiles m_geometry;
+    std::vector<EnSightVariable> m_variables;
+    std::map<int, EnSightTimeSet> m_timeSets;
+    std::vector<double> m_times;
+};
+
+} // namespace corvane::scene
