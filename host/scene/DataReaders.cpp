@@ -8,8 +8,6 @@
 #include "host/scene/SceneStatistics.h"
 #include "host/scene/VariableRanges.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <set>
@@ -49,12 +47,6 @@ std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, Me
 }
 
 } // namespace
-
-std::size_t DataReaders::defaultMemoryBudget() {
-    const auto pages = static_cast<std::size_t>(std::max(0L, sysconf(_SC_PHYS_PAGES)));
-    const auto pageSize = static_cast<std::size_t>(std::max(0L, sysconf(_SC_PAGESIZE)));
-    return pages * pageSize / 4;
-}
 
 DataReaders::DataReaders(std::size_t memoryBudget, std::shared_ptr<SceneStatistics> statistics)
     : m_memoryBudget(memoryBudget),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/Ports.h"
+#include "host/scene/MemoryBudget.h"
 
 #include <cstddef>
 #include <memory>
@@ -22,9 +23,6 @@ struct SceneStatistics;
 /// solution time are read at once, to know the ranges of values; others when they are drawn.
 class DataReaders : public host::DataReader {
 public:
-    /// A quarter of this machine's memory, in bytes.
-    static std::size_t defaultMemoryBudget();
-
     /// memoryBudget: bytes of meshes that each data set may keep. Statistics may be null.
     explicit DataReaders(std::size_t memoryBudget = defaultMemoryBudget(),
                          std::shared_ptr<SceneStatistics> statistics = nullptr);

@@ -24,14 +24,9 @@ constexpr double textMarginPart = 0.03;
 constexpr double lineWidthPart = 1.0 / 600.0;
 constexpr double traceWidthPart = 1.0 / 250.0;
 
-/// Radius of streamtubes that the style leaves open, as a part of the diagonal of the data.
-constexpr double tubeRadiusPart = 0.0025;
-
-const SceneDataSet* sceneData(const Frame& frame) {
-    if (frame.data() == nullptr)
-        return nullptr;
-    const auto* const data = dynamic_cast<const SceneDataSet*>(frame.data().get());
-    if (data == nullptr)
+std::shared_ptr<const SceneDataSet> sceneData(const Frame& frame) {
+    auto data = std::dynamic_pointer_cast<const SceneDataSet>(frame.data());
+    if (frame.data() != nullptr && data == nullptr)
         throw host::HostError("The data of a frame cannot be drawn: another reader made them.");
     return data;
 }
@@ -42,16 +37,21 @@ int pixels(double part, const FrameArea& area) {
 
 } // namespace
 
-FrameScene::FrameScene(std::shared_ptr<SceneStatistics> statistics)
-    : m_statistics(std::move(statistics)),
+FrameScene::FrameScene(std::shared_ptr<PreparedGeometry> geometry)
+    : m_geometry(std::move(geometry)),
       m_light(makeLight()),
       m_colorBar(*m_renderer),
-      m_streams(*m_renderer, *m_statistics) {
+      m_travel(*m_geometry),
+      m_streams(*m_renderer) {
     m_renderer->SetAutomaticLightCreation(0);
     m_renderer->AddLight(m_light);
     m_renderer->AddActor(m_outline.actor());
     m_renderer->AddActor2D(m_title.actor());
     m_renderer->AddActor2D(m_time.actor());
+}
+
+FrameScene::~FrameScene() {
+    m_travel.leave();
 }
 
 void FrameScene::hide() {
@@ -83,114 +83,69 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
 }
 
 void FrameScene::updatePlots(const Frame& frame, const FrameArea& area) {
-    if (frame.data() != m_data) {
-        for (const auto& [key, plot] : m_plots)
-            m_renderer->RemoveActor(plot->actor());
-        m_plots.clear();
-        m_data = frame.data();
-    }
+    attach(frame);
+    hidePlots();
+    if (m_data != nullptr && frame.plotType == PlotType_Cartesian3D)
+        showContent(frame, area);
+    m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
+}
+
+void FrameScene::attach(const Frame& frame) {
+    auto data = sceneData(frame);
+    if (data == m_data)
+        return;
+    m_travel.leave();
+    for (const auto& [key, plot] : m_plots)
+        m_renderer->RemoveActor(plot->actor());
+    m_plots.clear();
+    if (m_data != nullptr)
+        m_geometry->forget(m_data->id());
+    m_data = std::move(data);
+}
+
+void FrameScene::hidePlots() {
     for (const auto& [key, plot] : m_plots)
         plot->actor()->SetVisibility(0);
     m_streams.hide();
     m_isTranslucent = false;
     m_isContourShown = false;
-    if (frame.plotType != PlotType_Cartesian3D)
-        return;
-    if (const SceneDataSet* const data = sceneData(frame)) {
-        updatePlots(frame, *data);
-        updateStreams(frame, *data, area);
-    }
-    m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
 }
 
-void FrameScene::updatePlots(const Frame& frame, const SceneDataSet& data) {
-    m_colors.update(frame.style.contour, data);
-    for (const int zone : zonesAtTime(data, frame.solutionTime)) {
-        const int block = data.zones[static_cast<std::size_t>(zone)].block;
-        addSurface(frame, data, zone);
-        if (data.blocks[static_cast<std::size_t>(block)].dimension == 3) {
-            addSlices(frame, data, zone);
-            addIsoSurfaces(frame, data, zone);
-        }
-    }
+void FrameScene::showContent(const Frame& frame, const FrameArea& area) {
+    m_colors.update(frame.style.contour, *m_data);
+    const PictureContent content = contentAt(frame.style, *m_data, frame.solutionTime);
+    m_travel.arrive(content);
+    for (const PlotRequest& request : content.plots)
+        showPlot(request, frame.style.light);
+    if (content.streams)
+        showStreams(*content.streams, frame.style, area);
+    m_travel.lookAhead(frame.style, m_data, frame.solutionTime, content);
 }
 
-void FrameScene::addSurface(const Frame& frame, const SceneDataSet& data, int zone) {
-    const MeshId mesh = data.meshId(zone);
-    const auto block = static_cast<std::size_t>(mesh.block);
-    if (block >= frame.style.surfaces.size() || !frame.style.surfaces[block].show)
-        return;
-    const host::SurfaceStyle& style = frame.style.surfaces[block];
-    showPlot(frame, data, zone, 0, {mesh, Recipe::Kind::Surface, 0, 0.0, {}},
-             {style.useContour, style.color, style.opacity, style.showMesh});
-}
-
-void FrameScene::addSlices(const Frame& frame, const SceneDataSet& data, int zone) {
-    const MeshId mesh = data.meshId(zone);
-    for (int i = 0; i < host::FrameStyle::sliceCount; ++i) {
-        const host::SliceStyle& style = frame.style.slices[static_cast<std::size_t>(i)];
-        if (style.show)
-            showPlot(frame, data, zone, i,
-                     {mesh, Recipe::Kind::Slice, style.axis, style.position, {}},
-                     {style.useContour, style.color, style.opacity, false, false});
-    }
-}
-
-void FrameScene::addIsoSurfaces(const Frame& frame, const SceneDataSet& data, int zone) {
-    const MeshId mesh = data.meshId(zone);
-    for (int i = 0; i < host::FrameStyle::isoSurfaceCount; ++i) {
-        const host::IsoSurfaceStyle& style = frame.style.isoSurfaces[static_cast<std::size_t>(i)];
-        if (style.show)
-            showPlot(frame, data, zone, i,
-                     {mesh, Recipe::Kind::IsoSurface, 0, style.value, style.variable},
-                     {style.useContour, style.color, style.opacity});
-    }
-}
-
-void FrameScene::updateStreams(const Frame& frame, const SceneDataSet& data,
-                               const FrameArea& area) {
-    const host::StreamtraceStyle& style = frame.style.streamtraces;
-    if (!style.show)
-        return;
-    std::vector<int> zones;
-    std::vector<MeshId> meshes;
-    for (const int zone : zonesAtTime(data, frame.solutionTime)) {
-        const MeshId mesh = data.meshId(zone);
-        if (data.blocks[static_cast<std::size_t>(mesh.block)].dimension == 3) {
-            zones.push_back(zone);
-            meshes.push_back(mesh);
-        }
-    }
-    m_streams.setTraces(streamRecipe(style, meshes), [&] {
-        StreamPlot::Meshes read;
-        for (const int zone : zones)
-            read.push_back(data.mesh(zone));
-        return read;
-    });
-    if (m_streams.isEmpty())
-        return;
-    const double radius =
-        style.radius > 0.0 ? style.radius : tubeRadiusPart * data.bounds.diagonal();
-    m_streams.show(frame.style, m_colors, radius, std::max(1.0, traceWidthPart * area.full.height));
-    m_isContourShown = m_isContourShown || style.useContour;
-}
-
-void FrameScene::showPlot(const Frame& frame, const SceneDataSet& data, int zone, int number,
-                          const Recipe& recipe, const Look& look) {
-    auto& plot = m_plots[{recipe.kind, number, recipe.mesh.block}];
+void FrameScene::showPlot(const PlotRequest& request, const host::LightStyle& light) {
+    const Recipe& recipe = request.recipe;
+    auto& plot = m_plots[{recipe.kind, request.number, recipe.mesh.block}];
     if (plot == nullptr) {
         plot = std::make_unique<Plot>();
         m_renderer->AddActor(plot->actor());
     }
-    plot->setGeometry(recipe, [&](const Recipe& wanted) {
-        return buildGeometry(wanted, data.mesh(zone), *m_statistics);
-    });
-    if (plot->isEmpty() || look.opacity <= 0.0)
+    plot->setGeometry(m_geometry->plot(request, *m_data));
+    if (plot->isEmpty() || request.look.opacity <= 0.0)
         return;
-    plot->setLook(look, m_colors, frame.style.light);
+    plot->setLook(request.look, m_colors, light);
     plot->actor()->SetVisibility(1);
-    m_isTranslucent = m_isTranslucent || look.opacity < 1.0;
-    m_isContourShown = m_isContourShown || look.useContour;
+    m_isTranslucent = m_isTranslucent || request.look.opacity < 1.0;
+    m_isContourShown = m_isContourShown || request.look.useContour;
+}
+
+void FrameScene::showStreams(const StreamRequest& request, const host::FrameStyle& style,
+                             const FrameArea& area) {
+    m_streams.setGeometry(m_geometry->streams(request, *m_data));
+    if (m_streams.isEmpty())
+        return;
+    m_streams.show(style, m_colors, request.markerSize,
+                   std::max(1.0, traceWidthPart * area.full.height));
+    m_isContourShown = m_isContourShown || style.streamtraces.useContour;
 }
 
 void FrameScene::updateAnnotations(const Frame& frame, const FrameArea& area) {

@@ -9,10 +9,11 @@
 #include "host/scene/Outline.h"
 #include "host/scene/PixelRect.h"
 #include "host/scene/Plot.h"
+#include "host/scene/PreparedGeometry.h"
 #include "host/scene/SceneDataSet.h"
-#include "host/scene/SceneStatistics.h"
 #include "host/scene/StreamPlot.h"
 #include "host/scene/TextItem.h"
+#include "host/scene/TimeTravel.h"
 
 #include <vtkLight.h>
 #include <vtkNew.h>
@@ -30,7 +31,10 @@ namespace corvane::scene {
 /// what it was built from has changed. So a picture never depends on the ones before.
 class FrameScene {
 public:
-    explicit FrameScene(std::shared_ptr<SceneStatistics> statistics);
+    explicit FrameScene(std::shared_ptr<PreparedGeometry> geometry);
+    ~FrameScene();
+    FrameScene(const FrameScene&) = delete;
+    FrameScene& operator=(const FrameScene&) = delete;
 
     void update(const host::Frame& frame, const FrameArea& area, int pictureWidth,
                 int pictureHeight);
@@ -44,18 +48,17 @@ private:
     using PlotKey = std::tuple<Recipe::Kind, int, int>;
 
     void updatePlots(const host::Frame& frame, const FrameArea& area);
-    void updatePlots(const host::Frame& frame, const SceneDataSet& data);
-    void addSurface(const host::Frame& frame, const SceneDataSet& data, int zone);
-    void addSlices(const host::Frame& frame, const SceneDataSet& data, int zone);
-    void addIsoSurfaces(const host::Frame& frame, const SceneDataSet& data, int zone);
-    void updateStreams(const host::Frame& frame, const SceneDataSet& data, const FrameArea& area);
-    void showPlot(const host::Frame& frame, const SceneDataSet& data, int zone, int number,
-                  const Recipe& recipe, const Look& look);
+    void attach(const host::Frame& frame);
+    void hidePlots();
+    void showContent(const host::Frame& frame, const FrameArea& area);
+    void showPlot(const PlotRequest& request, const host::LightStyle& light);
+    void showStreams(const StreamRequest& request, const host::FrameStyle& style,
+                     const FrameArea& area);
     void updateAnnotations(const host::Frame& frame, const FrameArea& area);
     void updateLegend(const host::Frame& frame, const FrameArea& area);
     host::Bounds shownBounds() const;
 
-    std::shared_ptr<SceneStatistics> m_statistics;
+    std::shared_ptr<PreparedGeometry> m_geometry;
     vtkNew<FrameRenderer> m_renderer;
     vtkSmartPointer<vtkLight> m_light;
     ContourColors m_colors;
@@ -65,7 +68,8 @@ private:
     TextItem m_title;
     TextItem m_time;
 
-    std::shared_ptr<const host::DataSet> m_data; ///< whose plots are kept
+    std::shared_ptr<const SceneDataSet> m_data; ///< whose plots are kept
+    TimeTravel m_travel;
     std::map<PlotKey, std::unique_ptr<Plot>> m_plots;
     StreamPlot m_streams;
     bool m_isTranslucent = false;

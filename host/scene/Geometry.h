@@ -7,6 +7,7 @@
 #include <vtkPolyData.h>
 #include <vtkSmartPointer.h>
 
+#include <compare>
 #include <string>
 
 namespace corvane::scene {
@@ -24,6 +25,7 @@ struct Recipe {
     std::string variable; ///< of an isosurface, as styles write it
 
     friend bool operator==(const Recipe&, const Recipe&) = default;
+    friend auto operator<=>(const Recipe&, const Recipe&) = default;
 };
 
 /// With normals, and with the arrays of the mesh. Empty when the plot meets nothing. Null is a

@@ -15,11 +15,10 @@ Plot::Plot() {
     m_actor->SetMapper(m_mapper);
 }
 
-void Plot::setGeometry(const Recipe& recipe, const GeometrySource& source) {
-    if (m_recipe == recipe)
+void Plot::setGeometry(const vtkSmartPointer<vtkPolyData>& geometry) {
+    if (m_geometry == geometry)
         return;
-    m_geometry = source(recipe);
-    m_recipe = recipe;
+    m_geometry = geometry;
     m_mapper->SetInputData(m_geometry);
 }
 

@@ -9,6 +9,7 @@
 #include <vtkDataSet.h>
 #include <vtkSmartPointer.h>
 
+#include <compare>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,6 +24,7 @@ struct MeshId {
     int block = 0;
 
     friend bool operator==(const MeshId&, const MeshId&) = default;
+    friend auto operator<=>(const MeshId&, const MeshId&) = default;
 };
 
 class SceneDataSet : public host::DataSet {
@@ -44,6 +46,7 @@ public:
     /// The values that plots by this variable meet; 0..0 when there is no such variable.
     ValueRange rangeOf(const VariableRef& variable) const;
 
+    long id() const { return m_id; } ///< MeshId::dataSet of its meshes
     MeshId meshId(int zone) const; ///< zone: index into zones
     /// Reads the mesh if it is not at hand. Null when the file holds no such part at that time.
     /// Throws host::HostError.

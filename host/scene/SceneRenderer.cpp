@@ -8,6 +8,7 @@
 #include "host/scene/EglRenderWindow.h"
 #include "host/scene/FrameScene.h"
 #include "host/scene/PageLayout.h"
+#include "host/scene/PreparedGeometry.h"
 #include "host/scene/SceneStatistics.h"
 #include "host/scene/VtkMessages.h"
 
@@ -25,14 +26,16 @@ namespace corvane::scene {
 /// The window, and what is kept of each frame.
 class SceneRenderer::Canvas {
 public:
-    explicit Canvas(std::shared_ptr<SceneStatistics> statistics)
-        : m_statistics(std::move(statistics)) {
+    Canvas(std::shared_ptr<SceneStatistics> statistics, std::size_t budget)
+        : m_statistics(std::move(statistics)),
+          m_geometry(std::make_shared<PreparedGeometry>(budget, m_statistics)) {
         m_window->open(m_context);
         m_largestSize = m_window->largestSize();
         m_paper->SetBackground(1.0, 1.0, 1.0);
     }
 
     int largestSize() const { return m_largestSize; }
+    void waitForReadAhead() { m_geometry->wait(); }
     host::Picture draw(const host::Page& page, const host::PictureRequest& request);
 
 private:
@@ -44,6 +47,7 @@ private:
     vtkNew<EglRenderWindow> m_window;
     int m_largestSize = 0;
     std::shared_ptr<SceneStatistics> m_statistics;
+    std::shared_ptr<PreparedGeometry> m_geometry;
     vtkNew<vtkRenderer> m_paper;
     std::map<long, std::unique_ptr<FrameScene>> m_frames;
     std::vector<vtkRenderer*> m_order;
@@ -72,7 +76,7 @@ void SceneRenderer::Canvas::updateFrames(const host::Page& page,
     for (const auto& frame : page.frames()) {
         auto& scene = m_frames[frame->id()];
         if (scene == nullptr)
-            scene = std::make_unique<FrameScene>(m_statistics);
+            scene = std::make_unique<FrameScene>(m_geometry);
         scene->hide();
     }
     orderRenderers(page);
@@ -110,19 +114,24 @@ void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     m_order = std::move(order);
 }
 
-SceneRenderer::SceneRenderer(std::shared_ptr<SceneStatistics> statistics)
-    : m_statistics(statistics ? std::move(statistics) : std::make_shared<SceneStatistics>()) {}
+SceneRenderer::SceneRenderer(std::shared_ptr<SceneStatistics> statistics, std::size_t memoryBudget)
+    : m_statistics(statistics ? std::move(statistics) : std::make_shared<SceneStatistics>()),
+      m_memoryBudget(memoryBudget) {}
 
 SceneRenderer::~SceneRenderer() = default;
 
 SceneRenderer::Canvas& SceneRenderer::canvas() const {
     if (m_canvas == nullptr)
-        m_canvas = std::make_unique<Canvas>(m_statistics);
+        m_canvas = std::make_unique<Canvas>(m_statistics, m_memoryBudget);
     return *m_canvas;
 }
 
 int SceneRenderer::largestSize() const {
     return canvas().largestSize();
+}
+
+void SceneRenderer::waitForReadAhead() {
+    canvas().waitForReadAhead();
 }
 
 host::Picture SceneRenderer::draw(const host::Page& page, const host::PictureRequest& request) {

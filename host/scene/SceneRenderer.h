@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/Ports.h"
+#include "host/scene/MemoryBudget.h"
 
 #include <memory>
 
@@ -13,12 +14,18 @@ struct SceneStatistics;
 /// use; all calls must come from one thread.
 class SceneRenderer : public host::Renderer {
 public:
-    /// Statistics may be null.
-    explicit SceneRenderer(std::shared_ptr<SceneStatistics> statistics = nullptr);
+    /// Statistics may be null. memoryBudget: bytes of polygons that are kept for times and plots
+    /// that come back.
+    explicit SceneRenderer(std::shared_ptr<SceneStatistics> statistics = nullptr,
+                           std::size_t memoryBudget = defaultMemoryBudget() / 4);
     ~SceneRenderer() override;
 
     host::Picture draw(const host::Page& page, const host::PictureRequest& request) override;
     int largestSize() const override;
+
+    /// Returns when what comes next has been read and built. Nobody needs to wait; those who count
+    /// do.
+    void waitForReadAhead();
 
 private:
     class Canvas;
@@ -26,6 +33,7 @@ private:
     Canvas& canvas() const;
 
     std::shared_ptr<SceneStatistics> m_statistics;
+    std::size_t m_memoryBudget;
     mutable std::unique_ptr<Canvas> m_canvas;
 };
 

@@ -3,21 +3,16 @@
 
 #include "host/scene/StreamDashes.h"
 #include "host/scene/StreamMarkers.h"
-#include "host/scene/VtkMessages.h"
-
-#include <vtkTubeFilter.h>
 
 namespace corvane::scene {
 
 namespace {
 
-constexpr int tubeSides = 12;
 constexpr double markerToTube = 2.4; ///< radius of the markers, in radii of the tubes
 
 } // namespace
 
-StreamPlot::StreamPlot(vtkRenderer& renderer, SceneStatistics& statistics)
-    : m_statistics(statistics) {
+StreamPlot::StreamPlot(vtkRenderer& renderer) {
     m_actor->SetMapper(m_mapper);
     prepareDashes(*m_actor, *m_mapper);
     m_sphere->SetThetaResolution(20);
@@ -36,23 +31,21 @@ void StreamPlot::hide() {
     m_markerActor->SetVisibility(0);
 }
 
-void StreamPlot::setTraces(const StreamRecipe& recipe, const MeshSource& source) {
-    if (m_recipe == recipe)
-        return;
-    const VtkMessages silenced;
-    m_traces = traceStreams(recipe, source());
-    ++m_statistics.streamRuns;
-    m_recipe = recipe;
-    m_tubeRadius = 0.0;
-    m_markersBuiltFrom.reset();
+void StreamPlot::setGeometry(const PreparedGeometry::Streams& streams) {
+    const auto& drawn = streams.tubes ? streams.tubes : streams.traces;
+    if (m_drawn != drawn) { // VTK uploads anew whatever it is handed
+        m_drawn = drawn;
+        m_mapper->SetInputData(drawn);
+    }
+    if (m_traces != streams.traces) {
+        m_traces = streams.traces;
+        m_markersBuiltFrom.reset();
+    }
 }
 
 void StreamPlot::show(const host::FrameStyle& style, const ContourColors& colors, double radius,
                       double lineWidth) {
     const host::StreamtraceStyle& traces = style.streamtraces;
-    if (traces.tubes)
-        setTubes(radius);
-    m_mapper->SetInputData(traces.tubes ? m_tubes : m_traces);
     Look look{traces.useContour, traces.color};
     look.isShaded = traces.tubes;
     look.lineWidth = lineWidth;
@@ -70,21 +63,6 @@ void StreamPlot::show(const host::FrameStyle& style, const ContourColors& colors
     look.isShaded = true;
     look.useContour = false;
     applyLook(*m_markerActor, *m_markerMapper, *m_markers, look, colors, style.light);
-}
-
-void StreamPlot::setTubes(double radius) {
-    if (m_tubeRadius == radius)
-        return;
-    const VtkMessages silenced;
-    const vtkNew<vtkTubeFilter> tubes;
-    tubes->SetInputData(m_traces);
-    tubes->SetRadius(radius);
-    tubes->SetNumberOfSides(tubeSides);
-    tubes->CappingOn();
-    tubes->Update();
-    m_tubes = tubes->GetOutput();
-    ++m_statistics.tubeRuns;
-    m_tubeRadius = radius;
 }
 
 void StreamPlot::showMarkers(const host::StreamTimingStyle& timing, double radius) {

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "host/scene/Look.h"
-#include "host/scene/SceneStatistics.h"
-#include "host/scene/StreamTraces.h"
+#include "host/scene/PreparedGeometry.h"
 
 #include <vtkActor.h>
 #include <vtkGlyph3DMapper.h>
@@ -12,7 +11,6 @@
 #include <vtkRenderer.h>
 #include <vtkSphereSource.h>
 
-#include <functional>
 #include <optional>
 
 namespace corvane::scene {
@@ -20,30 +18,21 @@ namespace corvane::scene {
 /// Keeps what it was built from: a new anchor moves dashes and markers and builds nothing else.
 class StreamPlot {
 public:
-    using Meshes = std::vector<vtkSmartPointer<vtkDataSet>>;
-    /// Reads the meshes of a recipe.
-    using MeshSource = std::function<Meshes()>;
+    explicit StreamPlot(vtkRenderer& renderer);
 
-    StreamPlot(vtkRenderer& renderer, SceneStatistics& statistics);
-
-    /// Calls source only when the recipe is another one than before.
-    void setTraces(const StreamRecipe& recipe, const MeshSource& source);
-    /// radius: of the tubes, > 0, data coordinates. lineWidth: pixels as drawn.
+    void setGeometry(const PreparedGeometry::Streams& streams);
+    /// radius: that of tubes, > 0, data coordinates, which markers go by. lineWidth: pixels as
+    /// drawn.
     void show(const host::FrameStyle& style, const ContourColors& colors, double radius,
               double lineWidth);
     void hide();
     bool isEmpty() const { return m_traces == nullptr || m_traces->GetNumberOfLines() == 0; }
 
 private:
-    void setTubes(double radius);
     void showMarkers(const host::StreamTimingStyle& timing, double radius);
 
-    SceneStatistics& m_statistics;
-    std::optional<StreamRecipe> m_recipe;
-    vtkSmartPointer<vtkPolyData> m_traces;
-
-    double m_tubeRadius = 0.0; ///< of m_tubes; 0 when there are none
-    vtkSmartPointer<vtkPolyData> m_tubes;
+    PreparedGeometry::Polygons m_traces;
+    PreparedGeometry::Polygons m_drawn; ///< the traces themselves, or tubes around them
     vtkNew<vtkPolyDataMapper> m_mapper;
     vtkNew<vtkActor> m_actor;
 

@@ -7,6 +7,7 @@
 #include <vtkSmartPointer.h>
 
 #include <string>
+#include <tuple>
 
 namespace corvane::scene {
 
@@ -20,6 +21,12 @@ struct StreamSeeds {
     int count = 0;
 
     friend bool operator==(const StreamSeeds&, const StreamSeeds&) = default;
+    /// Some order, for maps.
+    auto key() const {
+        return std::tie(kind, start.x, start.y, start.z, end.x, end.y, end.z, corner.x, corner.y,
+                        corner.z, points, count);
+    }
+    friend bool operator<(const StreamSeeds& a, const StreamSeeds& b) { return a.key() < b.key(); }
 };
 
 StreamSeeds streamSeeds(const host::StreamtraceStyle& style);

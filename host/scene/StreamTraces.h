@@ -9,6 +9,7 @@
 #include <vtkSmartPointer.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace corvane::scene {
@@ -24,6 +25,11 @@ struct StreamRecipe {
     int direction = 3;
 
     friend bool operator==(const StreamRecipe&, const StreamRecipe&) = default;
+    /// Some order, for maps.
+    friend bool operator<(const StreamRecipe& a, const StreamRecipe& b) {
+        return std::tie(a.meshes, a.variable, a.seeds, a.direction) <
+               std::tie(b.meshes, b.variable, b.seeds, b.direction);
+    }
 };
 
 StreamRecipe streamRecipe(const host::StreamtraceStyle& style, std::vector<MeshId> meshes);

@@ -89,7 +89,7 @@ TEST(MeshCache, idsTellMeshesApartAndOutliveThem) {
 }
 
 TEST(MeshCache, theDefaultBudgetIsAPartOfTheMachinesMemory) {
-    EXPECT_GT(scene::DataReaders::defaultMemoryBudget(), std::size_t{1} << 26U);
+    EXPECT_GT(scene::defaultMemoryBudget(), std::size_t{1} << 26U);
 }
 
 } // namespace corvane::test

@@ -1,6 +1,9 @@
 // A change costs what it must cost, and no more.
+#include "host/core/HostError.h"
 #include "tests/unit/scene/SampleMeshes.h"
 #include "tests/unit/scene/SceneTest.h"
+
+#include <filesystem>
 
 namespace corvane::test {
 
@@ -37,11 +40,12 @@ protected:
 
     host::Frame& frame() { return *m_frame; }
 
-    /// What the next picture costs.
+    /// What the next picture costs, with what is prepared behind it.
     Counts cost() {
         const Counts before = now();
         const long renders = statistics->renders;
         draw(64, 36);
+        renderer.waitForReadAhead();
         EXPECT_EQ(statistics->renders, renders + 1);
         const Counts after = now();
         return {after.reads - before.reads, after.surfaces - before.surfaces,
@@ -81,16 +85,48 @@ TEST_F(StatisticsTest, cameraLightColoursAndTextsCostNothing) {
     EXPECT_EQ(cost(), Counts{});
 }
 
-TEST_F(StatisticsTest, aNewTimeCostsThatTimeAndNothingStatic) {
+TEST_F(StatisticsTest, aNewTimeCostsThatTimeAndTheNextOneAndNothingStatic) {
     frame().solutionTime = 1.0;
-    EXPECT_EQ(cost(), (Counts{1, 1, 1, 1}));
-    frame().solutionTime = 2.0; // read when the data were opened
+    EXPECT_EQ(cost(), (Counts{1, 2, 2, 2})); // time 2 was read when the data were opened
+    frame().solutionTime = 2.0;
+    EXPECT_EQ(cost(), (Counts{1, 1, 1, 1})); // all of it for time 3
+    frame().solutionTime = 3.0;
     EXPECT_EQ(cost(), (Counts{0, 1, 1, 1}));
+    frame().solutionTime = 4.0;
+    EXPECT_EQ(cost(), Counts{});
+}
+
+TEST_F(StatisticsTest, aTimeThatComesBackCostsNothing) {
+    for (const double time : {1.0, 2.0, 3.0, 4.0}) {
+        frame().solutionTime = time;
+        cost();
+    }
+    for (const double time : {3.0, 0.0, 2.0, 4.0, 1.0}) {
+        frame().solutionTime = time;
+        EXPECT_EQ(cost(), Counts{}) << time;
+    }
+}
+
+TEST_F(StatisticsTest, whatIsPreparedFollowsTheDirectionOfTime) {
+    frame().solutionTime = 4.0;
+    EXPECT_EQ(cost(), (Counts{0, 1, 1, 1})); // nothing comes after it
+    frame().solutionTime = 3.0;
+    EXPECT_EQ(cost(), (Counts{1, 2, 2, 2})); // 3 and 2
+    frame().solutionTime = 2.0;
+    EXPECT_EQ(cost(), (Counts{1, 1, 1, 1})); // 1
+}
+
+TEST_F(StatisticsTest, aPlotThatChangesIsPreparedAnewForTheNextTime) {
+    frame().solutionTime = 1.0;
+    cost();
+    frame().style.isoSurfaces[0].value = 0.6;
+    EXPECT_EQ(cost(), (Counts{0, 0, 0, 2}));
+    EXPECT_EQ(cost(), Counts{});
 }
 
 TEST_F(StatisticsTest, aTimeBetweenTwoStepsCostsNothing) {
     frame().solutionTime = 0.25;
-    EXPECT_EQ(cost(), Counts{});
+    EXPECT_EQ(cost(), (Counts{1, 1, 1, 1})); // for time 1, which is now known to come
     frame().solutionTime = 0.99;
     EXPECT_EQ(cost(), Counts{});
 }
@@ -131,8 +167,21 @@ TEST_F(StatisticsTest, aPictureOfManyFramesIsOneRender) {
     host::Frame& second = addPlainFrame(data, {4.0, 0.0, 4.0, 4.5});
     second.view = frame().view;
     second.style.surfaces[1].show = true;
-    EXPECT_EQ(cost(), (Counts{0, 1, 0, 0}));
-    EXPECT_EQ(cost(), Counts{});
+    EXPECT_EQ(cost(), Counts{}); // the first frame shows the same
+    second.style.slices[0] = {true, 1, 0.25, true, {}, 1.0};
+    EXPECT_EQ(cost(), (Counts{0, 0, 1, 0}));
+}
+
+TEST_F(StatisticsTest, aStepThatCannotBeReadFailsWhenItIsShownAndNotBefore) {
+    std::filesystem::remove(folder.file("flow_3.vtu"));
+    frame().solutionTime = 1.0;
+    cost();
+    frame().solutionTime = 2.0;
+    EXPECT_NO_THROW(cost());
+    frame().solutionTime = 3.0;
+    EXPECT_THROW(draw(64, 36), host::HostError);
+    frame().solutionTime = 2.0;
+    EXPECT_NO_THROW(cost());
 }
 
 } // namespace corvane::test

@@ -452,6 +452,7 @@ protected:
     Counts cost() {
         const Counts before = now();
         host::Picture picture = draw(width, height);
+        renderer.waitForReadAhead();
         EXPECT_NE(picture, m_last);
         m_last = std::move(picture);
         const Counts after = now();
@@ -493,13 +494,15 @@ TEST_F(StreamtraceCostTest, aRadiusCostsTubesAlone) {
     EXPECT_EQ(cost(), Counts{});
 }
 
-TEST_F(StreamtraceCostTest, aTimeCostsOneIntegration) {
+TEST_F(StreamtraceCostTest, aTimeCostsOneIntegrationAndOneForTheNext) {
     frame().style.streamtraces.useContour = true;
     frame().style.contour.variable = "T"; // grows with time
     EXPECT_EQ(cost(), Counts{});
     frame().solutionTime = 1.0;
-    EXPECT_EQ(cost(), (Counts{1, 1}));
+    EXPECT_EQ(cost(), (Counts{2, 2}));
     frame().solutionTime = 2.0;
+    EXPECT_EQ(cost(), (Counts{1, 1}));
+    frame().solutionTime = 3.0;
     frame().style.streamtraces.tubes = false;
     EXPECT_EQ(cost(), (Counts{1, 0}));
 }
