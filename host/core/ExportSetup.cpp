@@ -73,6 +73,14 @@ std::optional<T> numberFromText(const std::string& text) {
     return value;
 }
 
+/// Null without such a setting.
+const Setting* findSetting(const std::string& name) {
+    const auto found =
+        std::find_if(settings().begin(), settings().end(),
+                     [&name](const Setting& s) { return equalIgnoringCase(s.name, name); });
+    return found == settings().end() ? nullptr : &*found;
+}
+
 std::optional<StyleInput> keywordFromText(const Setting& setting, const std::string& text) {
     for (const Keyword& keyword : setting.keywords) {
         if (equalIgnoringCase(keyword.text, text)) {
@@ -114,11 +122,19 @@ void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> 
     bind("ExportFName", &setup.fileName, 0, 0);
 }
 
+std::vector<std::string> exportSettingKeywords(const std::string& name) {
+    std::vector<std::string> keywords;
+    if (const Setting* const setting = findSetting(name)) {
+        for (const Keyword& keyword : setting->keywords) {
+            keywords.emplace_back(keyword.text);
+        }
+    }
+    return keywords;
+}
+
 std::optional<StyleInput> exportSettingFromText(const std::string& name, const std::string& text) {
-    const auto setting =
-        std::find_if(settings().begin(), settings().end(),
-                     [&name](const Setting& s) { return equalIgnoringCase(s.name, name); });
-    if (setting == settings().end()) {
+    const Setting* const setting = findSetting(name);
+    if (setting == nullptr) {
         return std::nullopt;
     }
     if (const auto keyword = keywordFromText(*setting, text)) {

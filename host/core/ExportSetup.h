@@ -26,6 +26,9 @@ struct ExportSetup {
 /// Binds the values under "ExportSetup" "ExportFormat" and so on; isAllowed is asked before writes.
 void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> isAllowed);
 
+/// The words that macros write for the values of the named setting; empty for numbers and texts.
+std::vector<std::string> exportSettingKeywords(const std::string& name);
+
 /// Turns the text of a macro ("MPEG4", "true", "30", "flight.mp4") into the value that the named
 /// setting takes; nothing when it does not fit. Names and keywords ignore letter case.
 std::optional<StyleInput> exportSettingFromText(const std::string& name, const std::string& text);

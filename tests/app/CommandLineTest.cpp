@@ -2,6 +2,7 @@
 #include "tests/app/Program.h"
 
 #include <gmock/gmock.h>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 using corvane::test::ProgramResult;
@@ -52,9 +53,17 @@ TEST(CommandLine, keyFramesAndOutputBelongTogether) {
 }
 
 TEST(CommandLine, nothingToDoOrToFlyThrough) {
-    expectUsageError({}, "nothing to do");
-    expectUsageError({"a.vtu"}, "nothing to do");
+    expectUsageError({"--batch"}, "nothing to do");
+    expectUsageError({"a.vtu", "--batch"}, "nothing to do");
     expectUsageError({"--keyframes", "a.keyframe", "--output", "a.mp4"}, "no data");
+}
+
+TEST(CommandLine, aWindowNeedsADisplay) {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        unsetenv(name);
+    }
+    expectUsageError({}, "no display");
+    expectUsageError({"a.vtu", "--macro", "a.mcr"}, "--batch");
 }
 
 TEST(CommandLine, numbersOutOfRange) {

@@ -1,11 +1,6 @@
 // A key frame file becomes a movie: the program's main job, over real data, decoded again.
 #include "host/app/Flight.h"
-#include "host/app/BatchDialogs.h"
-#include "host/app/TerminalStatus.h"
-#include "host/core/Application.h"
-#include "host/movie/LibavMovieWriters.h"
-#include "host/scene/DataReaders.h"
-#include "host/scene/SceneRenderer.h"
+#include "tests/app/BatchHost.h"
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
@@ -14,7 +9,6 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace fs = std::filesystem;
 using namespace corvane;
@@ -26,34 +20,6 @@ namespace {
 
 constexpr int width = 320;
 constexpr int height = 180;
-
-// The host without a window, in this process.
-struct BatchHost {
-    BatchHost()
-        : status(log, false, [] { return false; }),
-          application({renderer, reader, movies, status, dialogs}) {
-        application.page().workArea = {width, height, width / 8.0};
-        host::loadAddOn(application, CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
-        application.openData({exampleFile("wake/wake.pvd")});
-    }
-
-    host::Picture pictureFrom(const host::Vec3& position, double psi, double theta, double alpha) {
-        host::View3D& view = application.page().active()->view;
-        view.position = position;
-        view.psi = psi;
-        view.theta = theta;
-        view.alpha = alpha;
-        return application.drawing().picture({ExportRegion_CurrentFrame, width, height, 1});
-    }
-
-    std::ostringstream log;
-    scene::SceneRenderer renderer;
-    scene::DataReaders reader;
-    movie::LibavMovieWriters movies;
-    app::TerminalStatus status;
-    app::BatchDialogs dialogs;
-    host::Application application;
-};
 
 TEST(Flight, becomesAMovieOfItsFramesSizeAndRate) {
     const TempFolder folder;

@@ -63,6 +63,25 @@ std::string shortFlight() {
 %KeyFrameView)";
 }
 
+std::string StandingFlight::keyFrameFile() const {
+    const auto word = [](bool isOn) { return isOn ? "true" : "false"; };
+    const auto view = [](const char* name, int count, double time) {
+        std::ostringstream text;
+        text << "\n%KeyFrameView\n Name \"" << name
+             << "\"\n Position 4.6 -18.1 6.2\n Angle 78 0 0\n"
+             << " Width 17.5\n FrameCount " << count << "\n SolutionTime " << time
+             << "\n%KeyFrameView\n";
+        return text.str();
+    };
+    std::ostringstream text;
+    text << "#!KeyFrame 1\n\n%Settings\n AnimateTime " << word(!timeOperation.empty())
+         << "\n TimeAnimationOperation " << (timeOperation.empty() ? "Forward" : timeOperation)
+         << "\n NumCycles " << cycles << "\n AnimateStreamtraces " << word(streamtraces)
+         << "\n FadeIn " << word(fadeIn) << "\n FadeOut " << word(fadeOut) << "\n%Settings\n"
+         << view("first", frames - 1, firstTime) << view("last", 30, lastTime);
+    return text.str();
+}
+
 std::vector<std::string> shortRun(const TempFolder& folder, const std::string& movie) {
     const std::string keyFrames = folder.write("short.keyframe", shortFlight());
     return {exampleFile("wake/wake.pvd"),
