@@ -1,0 +1,25 @@
+// Dialog units in pixels, so that layouts follow the font.
+#pragma once
+
+#include "host/core/Control.h"
+
+#include <QFont>
+#include <QRect>
+
+namespace corvane::gui {
+
+/// 100 units are the width of an average character across, and the height of a line down.
+class DialogUnits {
+public:
+    explicit DialogUnits(const QFont& font);
+
+    int across(int units) const;
+    int down(int units) const;
+    QRect rect(const host::Box& box) const;
+
+private:
+    double m_characterWidth;
+    double m_lineHeight;
+};
+
+} // namespace corvane::gui

@@ -1,0 +1,76 @@
+// The window of a dialog of an add-on.
+#include "host/gui/widgets/DialogWindow.h"
+
+#include "host/gui/QtText.h"
+
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace corvane::gui {
+
+DialogWindow::DialogWindow(const host::Dialog& dialog, host::ControlActions& actions,
+                           QWidget* parent)
+    : QDialog(parent), m_dialog(dialog), m_actions(actions), m_area(new ControlArea(dialog, this)) {
+    setWindowTitle(toQt(dialog.label));
+    setWindowModality(dialog.isModal ? Qt::ApplicationModal : Qt::NonModal);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    column->addWidget(m_area);
+    addButtons();
+}
+
+void DialogWindow::addButtons() {
+    using Standard = QDialogButtonBox::StandardButton;
+    using Action = void (host::ControlActions::*)(int);
+    auto* const box = new QDialogButtonBox(this);
+    const auto add = [&](Standard kind, Action action) {
+        QPushButton* const button = box->addButton(kind);
+        // Without OK, Return would press a button that nobody has chosen.
+        button->setAutoDefault(m_dialog.isModal);
+        button->setDefault(kind == QDialogButtonBox::Ok);
+        connect(button, &QPushButton::clicked, this,
+                [this, action] { (m_actions.*action)(m_dialog.handle); });
+    };
+    if (m_dialog.isModal) {
+        add(QDialogButtonBox::Ok, &host::ControlActions::ok);
+    }
+    if (m_dialog.apply) {
+        add(QDialogButtonBox::Apply, &host::ControlActions::apply);
+    }
+    add(m_dialog.isModal ? QDialogButtonBox::Cancel : QDialogButtonBox::Close,
+        &host::ControlActions::dismiss);
+    if (m_dialog.help) {
+        add(QDialogButtonBox::Help, &host::ControlActions::help);
+    }
+    const int margin = fontMetrics().lineSpacing() / 2;
+    box->setContentsMargins(margin, 0, margin, margin);
+    layout()->addWidget(box);
+}
+
+QMenuBar* DialogWindow::addMenuBar() {
+    auto* const bar = new QMenuBar(this);
+    bar->setNativeMenuBar(false); // the bar along the top of the screen is the main window's
+    layout()->setMenuBar(bar);
+    return bar;
+}
+
+void DialogWindow::reject() {
+    m_actions.dismiss(m_dialog.handle);
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    m_actions.dismiss(m_dialog.handle);
+}
+
+void DialogWindow::showEvent(QShowEvent* event) {
+    m_area->place();
+    QDialog::showEvent(event);
+}
+
+} // namespace corvane::gui

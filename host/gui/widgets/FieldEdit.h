@@ -1,0 +1,34 @@
+// A text field of an add-on.
+#pragma once
+
+#include "host/core/Control.h"
+#include "host/core/ControlActions.h"
+
+#include <QLineEdit>
+
+namespace corvane::gui {
+
+class FieldEdit : public QLineEdit {
+public:
+    FieldEdit(const host::TextField& field, host::ControlActions& actions, QWidget* parent);
+
+    void showText();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    const host::TextField& m_field;
+    host::ControlActions& m_actions;
+};
+
+/// Whether this key is Return or Enter.
+bool isReturn(const QKeyEvent& event);
+
+/// Commits a field that lost the focus, once the event that took it has done its work: a click on
+/// a control commits the text by itself, and must be able to be swallowed when the text is refused.
+void commitLater(QWidget& widget, const QFocusEvent& event, int field,
+                 host::ControlActions& actions);
+
+} // namespace corvane::gui

@@ -1,0 +1,16 @@
+// Entries in the menus of an add-on's dialog.
+#pragma once
+
+#include "host/core/Control.h"
+#include "host/core/ControlActions.h"
+
+#include <QAction>
+
+namespace corvane::gui {
+
+/// The help of an entry is its tool tip, unless it has one of its own.
+QAction* makeAction(const host::MenuItem& item, host::ControlActions& actions, QObject* parent);
+QAction* makeAction(const host::MenuToggle& toggle, host::ControlActions& actions, QObject* parent);
+void showToolTip(QAction& action, const host::Control& entry);
+
+} // namespace corvane::gui

@@ -1,0 +1,32 @@
+// The options of add-ons in the menu bar of the main window.
+#pragma once
+
+#include "host/core/MainMenu.h"
+
+#include <QPointer>
+#include <map>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace corvane::gui {
+
+class QtMainMenu : public host::MainMenu {
+public:
+    explicit QtMainMenu(QMenuBar& bar) : m_bar(&bar) {}
+
+    /// A menu that has to be made stands before a Help menu, and last without one.
+    void add(const host::MenuOption& option) override;
+    void changed(const host::MenuOption& option) override;
+    void close() override;
+
+private:
+    QMenu* find(const QString& title) const;
+    QMenu* make(const QString& title);
+
+    QPointer<QMenuBar> m_bar;
+    std::map<const host::MenuOption*, QPointer<QAction>> m_actions;
+};
+
+} // namespace corvane::gui

@@ -1,0 +1,40 @@
+// A list of an add-on.
+#pragma once
+
+#include "host/core/Control.h"
+#include "host/core/ControlActions.h"
+
+#include <QListView>
+#include <vector>
+
+namespace corvane::gui {
+
+class RowsModel;
+
+class RowsView : public QListView {
+public:
+    RowsView(const host::List& list, host::ControlActions& actions, QWidget* parent);
+
+    /// Rows or selection have changed; the view follows before the next event is handled.
+    void showLater();
+    /// Rows that the view shows as selected, from 1, ascending.
+    std::vector<long> selectedPositions() const;
+
+    QSize minimumSizeHint() const override { return {}; } ///< it scrolls
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void showNow();
+    void tellSelection();
+
+    const host::List& m_list;
+    host::ControlActions& m_actions;
+    RowsModel* m_model;
+    bool m_isStale = false;
+    bool m_isShowing = false;
+};
+
+} // namespace corvane::gui

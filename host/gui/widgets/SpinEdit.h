@@ -1,0 +1,29 @@
+// A text field with two arrows of an add-on.
+#pragma once
+
+#include "host/core/Control.h"
+#include "host/core/ControlActions.h"
+
+#include <QAbstractSpinBox>
+
+namespace corvane::gui {
+
+/// The arrows change nothing themselves: the add-on sets the text.
+class SpinEdit : public QAbstractSpinBox {
+public:
+    SpinEdit(const host::SpinField& field, host::ControlActions& actions, QWidget* parent);
+
+    void showText();
+    void stepBy(int steps) override;
+
+protected:
+    StepEnabled stepEnabled() const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    const host::SpinField& m_field;
+    host::ControlActions& m_actions;
+};
+
+} // namespace corvane::gui
