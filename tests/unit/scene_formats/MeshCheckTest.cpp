@@ -4,6 +4,7 @@
 #include "tests/unit/scene_formats/SampleBox.h"
 
 #include <vtkCellArray.h>
+#include <vtkCellData.h>
 #include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkNew.h>
@@ -55,6 +56,7 @@ TEST(MeshCheckTest, CellsMustHaveTheirPoints) {
 
 TEST(MeshCheckTest, CellsMustHaveAsManyPointsAsTheirKind) {
     const auto grid = sampleGrid();
+    grid->GetCellData()->Initialize(); // which would have no values for the new cells
     const std::array<vtkIdType, 3> points{0, 1, 2};
     grid->InsertNextCell(VTK_TRIANGLE, 3, points.data());
     EXPECT_TRUE(isSound(*grid));
