@@ -59,7 +59,7 @@ int FormatTest::drawnPixels(const host::Picture& picture) {
     int count = 0;
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x)
-            count += pixelAt(picture, x, y) == Rgb{255, 255, 255} ? 0 : 1;
+            count += pixelAt(picture, x, y) == pixelAt(picture, 0, y) ? 0 : 1;
     return count;
 }
 

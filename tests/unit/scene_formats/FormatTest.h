@@ -22,7 +22,7 @@ protected:
     /// Draws the data with what is chosen for data that nobody described, at the time. Surfaces in
     /// the way of a slice are not drawn.
     host::Picture drawDefaults(const std::string& file, double time);
-    /// Pixels that are not white, the colour of the paper and the background.
+    /// Pixels that differ from the left edge of their row, which shows the background.
     static int drawnPixels(const host::Picture& picture);
     /// Pixels that are clearly neither white, grey nor black.
     static int colouredPixels(const host::Picture& picture);

@@ -66,4 +66,19 @@ TEST_F(MissingVariablesTest, SlicesFallBackToPlainOnes) {
     EXPECT_GT(drawnPixels(plain), 500);
 }
 
+TEST_F(MissingVariablesTest, IsosurfacesAreThereWhenTheirVariableIs) {
+    host::Frame& frame = addMixed("");
+    frame.view.psi = 60.0; // the surface is a plane along z
+    frame.view.theta = 30.0;
+    fit(frame.view, frame.data()->bounds, frame.placement.aspect());
+    host::IsoSurfaceStyle& surface = frame.style.isoSurfaces.front();
+    surface.show = true;
+    surface.variable = "T";
+    const host::Variable& range = *frame.data()->findVariable("T");
+    surface.value = 0.5 * (range.minimum + range.maximum);
+    EXPECT_GT(drawnPixels(drawAt(frame, 0.0)), 500);
+    EXPECT_EQ(drawnPixels(drawAt(frame, 1.0)), 0);
+    EXPECT_GT(drawnPixels(drawAt(frame, 0.0)), 500);
+}
+
 } // namespace corvane::test
