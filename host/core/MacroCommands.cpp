@@ -74,7 +74,8 @@ const std::vector<MacroCommand>& macroCommands() {
         {"SET",
          {"NAME = VALUE"},
          "Gives a variable a value, unless it has one from the command line (--set NAME=VALUE). "
-         "${NAME} in the words of later lines stands for it, $${ for the characters ${.",
+         "${NAME} in the words of later lines stands for it, $${ for the characters ${. "
+         "${MACRO_FOLDER} is the folder of the macro that plays.",
          "$!SET CASE = \"wake\"",
          setVariable}};
     return all;

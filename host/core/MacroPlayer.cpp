@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace corvane::host {
 
@@ -26,6 +27,28 @@ private:
     int& m_count;
 };
 
+/// Lets macros name files beside them, to add-ons too.
+class FolderVariable {
+public:
+    FolderVariable(MacroVariables& variables, std::string& current, const std::string& folder)
+        : m_variables(variables), m_current(current), m_outer(std::exchange(current, folder)) {
+        publish();
+    }
+    ~FolderVariable() {
+        m_current = m_outer;
+        publish();
+    }
+    FolderVariable(const FolderVariable&) = delete;
+    FolderVariable& operator=(const FolderVariable&) = delete;
+
+private:
+    void publish() { m_variables.set("MACRO_FOLDER", m_current.empty() ? "." : m_current); }
+
+    MacroVariables& m_variables;
+    std::string& m_current;
+    std::string m_outer;
+};
+
 } // namespace
 
 void MacroPlayer::playFile(const std::string& fileName) {
@@ -44,6 +67,7 @@ void MacroPlayer::play(std::istream& macro, const std::string& name, const std::
         throw HostError("Macros include each other more than " + std::to_string(deepest) +
                         " deep; does one include itself?");
     }
+    const FolderVariable here(m_variables, m_folder, folder);
     MacroReader reader(macro, name);
     MacroLine line;
     while (reader.next(line)) {

@@ -33,6 +33,7 @@ private:
 
     Application& m_application;
     MacroVariables m_variables;
+    std::string m_folder; ///< of the macro that plays
     int m_depth = 0;
 };
 

@@ -267,6 +267,17 @@ TEST_F(MacroPlayerTest, ReplacesVariables) {
     EXPECT_EQ(causeOf("$!SET X"), "Expected name = value.");
 }
 
+TEST_F(MacroPlayerTest, AMacroKnowsItsFolder) {
+    const fakes::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path("parts"));
+    folder.write("parts/title.mcr", "$!STYLE Annotations/Title = \"${MACRO_FOLDER}\"\n");
+    play("$!READDATA x\n$!INCLUDE " + quoted(folder.path("parts/title.mcr")) +
+         "\n$!READDATA \"${MACRO_FOLDER}/y\"\n");
+    EXPECT_EQ(host.reader.calls.back(), std::vector<std::string>{"/scenes/y"});
+    play("$!INCLUDE " + quoted(folder.path("parts/title.mcr")));
+    EXPECT_EQ(frame().style.annotations.title, folder.path("parts"));
+}
+
 TEST_F(MacroPlayerTest, RecordsWhatIsPerformedAndSucceeds) {
     app.recorder().start();
     app.perform("READDATA", {"/there/a ${b}.vtu"});
