@@ -9,9 +9,9 @@ namespace corvane::corutiltools {
 namespace {
 
 constexpr int labelX = 200;
-constexpr int labelWidth = 3100;
-constexpr int controlX = 3400;
-constexpr int controlWidth = 2700;
+constexpr int labelWidth = 3300;
+constexpr int controlX = 3600;
+constexpr int controlWidth = 3000;
 constexpr int lineHeight = 145;
 // A label is one line of text high: this puts it in the middle of the control beside it.
 constexpr int labelOffset = 22;
