@@ -1,0 +1,31 @@
+// A button that shows a colour and asks for another.
+#pragma once
+
+#include <QColor>
+#include <QToolButton>
+
+namespace corvane::gui {
+
+class ColorButton : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit ColorButton(QWidget* parent = nullptr);
+
+    QColor color() const { return m_color; }
+    /// Fires nothing.
+    void setColor(const QColor& color);
+
+Q_SIGNALS:
+    void committed(const QColor& color);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void ask();
+
+    QColor m_color;
+};
+
+} // namespace corvane::gui

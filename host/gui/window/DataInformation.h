@@ -1,0 +1,19 @@
+// What is in the data of a frame.
+#pragma once
+
+#include <QDialog>
+
+namespace corvane::host {
+class DataSet;
+}
+
+namespace corvane::gui {
+
+class DataInformation : public QDialog {
+    Q_OBJECT
+
+public:
+    DataInformation(const host::DataSet& described, QWidget* parent);
+};
+
+} // namespace corvane::gui

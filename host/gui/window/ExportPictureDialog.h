@@ -1,0 +1,39 @@
+// Asks where to and how large a picture is to be written.
+#pragma once
+
+#include <QDialog>
+#include <string>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace corvane::gui {
+
+class ExportPictureDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// The size of the work area in pixels: what is written by default, and the shape.
+    ExportPictureDialog(int width, int height, QWidget* parent);
+
+    /// What the command PICTURE takes.
+    std::vector<std::string> words() const;
+
+    void accept() override;
+
+private:
+    void browse();
+    void showSize();
+    QString fileName() const;
+
+    double m_aspect;
+    QLineEdit* m_file;
+    QSpinBox* m_width;
+    QLabel* m_size;
+    QComboBox* m_supersample;
+};
+
+} // namespace corvane::gui

@@ -1,0 +1,41 @@
+// The percent-done display of a window, and the user's wish to stop.
+#pragma once
+
+#include "host/core/Ports.h"
+#include "host/gui/window/AnimationShield.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+namespace corvane::gui {
+
+class FramePacer;
+class ProgressStrip;
+
+/// Strip and pacer must outlive the display.
+class StatusBarDisplay : public QObject, public host::StatusDisplay {
+    Q_OBJECT
+
+public:
+    StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer);
+
+    void start(const std::string& text, bool showStop, bool showProgress) override;
+    void setText(const std::string& text) override;
+    void setPercent(int percent) override;
+    void finish() override;
+    bool isStopRequested() override;
+
+    /// Called when what was running has ended.
+    std::function<void()> onFinished;
+
+private:
+    void lookAfterEvents();
+
+    ProgressStrip& m_strip;
+    FramePacer& m_pacer;
+    AnimationShield m_shield;
+    QElapsedTimer m_sinceEvents;
+    bool m_isStopped = false;
+};
+
+} // namespace corvane::gui

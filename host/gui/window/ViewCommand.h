@@ -1,0 +1,23 @@
+// Views as commands of the macro language.
+#pragma once
+
+#include "host/gui/window/Commands.h"
+
+namespace corvane::host {
+class Application;
+class Frame;
+struct View3D;
+} // namespace corvane::host
+
+namespace corvane::gui {
+
+/// The active frame when it shows data in space; else null.
+host::Frame* spatialFrameWithData(host::Application& application);
+
+/// Sets the view as a whole.
+void setView(const Commands& commands, const host::View3D& view);
+
+/// Notes in the macro that is being recorded what a movement has led to.
+void recordView(const Commands& commands);
+
+} // namespace corvane::gui

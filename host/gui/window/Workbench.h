@@ -1,0 +1,70 @@
+// Ties the window to the host: what the user does there, and what the host shows there.
+#pragma once
+
+#include "host/gui/window/Commands.h"
+#include "host/gui/window/FileActions.h"
+#include "host/gui/window/HelpActions.h"
+#include "host/gui/window/MacroActions.h"
+#include "host/gui/window/PlotActions.h"
+#include "host/gui/window/StateWatcher.h"
+#include "host/gui/window/TimeActions.h"
+#include "host/gui/window/TimePlayer.h"
+#include "host/gui/window/ViewActions.h"
+#include "host/gui/window/ViewMouse.h"
+#include "host/gui/window/WindowActions.h"
+#include "host/gui/window/WorkAreaFitter.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace corvane::gui {
+
+class IdleDriver;
+class MainWindow;
+class PlotSidebar;
+class TimeBar;
+
+/// Application, window and driver must outlive the workbench.
+class Workbench : public QObject {
+    Q_OBJECT
+
+public:
+    Workbench(host::Application& application, MainWindow& window, IdleDriver& idle);
+    ~Workbench() override;
+
+    FileActions& files() { return m_files; }
+    MacroActions& macros() { return m_macros; }
+    TimePlayer& time() { return m_time; }
+    PlotSidebar& sidebar() { return *m_sidebar; }
+
+private:
+    void addToolBar();
+    void restoreWindow();
+    void keepWindow() const;
+    /// Looks at everything again; much may have changed since the last time.
+    void refresh();
+    void refreshTitle();
+    void refreshStatus();
+    void showExportFailure();
+    bool mayClose();
+
+    Commands m_commands;
+    MainWindow& m_window;
+    IdleDriver& m_idle;
+    WorkAreaFitter m_workArea;
+    PlotSidebar* m_sidebar;
+    TimePlayer m_time;
+    FileActions m_files;
+    ViewActions m_view;
+    WindowActions m_windowActions;
+    PlotActions m_plot;
+    TimeActions m_timeActions;
+    MacroActions m_macros;
+    HelpActions m_help;
+    ViewMouse m_mouse;
+    TimeBar* m_timeBar;
+    QTimer m_refresh;
+    StateWatcher m_watcher;
+};
+
+} // namespace corvane::gui
