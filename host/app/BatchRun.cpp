@@ -1,6 +1,7 @@
 // A run without a window, from the options to the exit code.
 #include "host/app/BatchRun.h"
 
+#include "host/app/AddOnLibrary.h"
 #include "host/app/BatchDialogs.h"
 #include "host/app/Flight.h"
 #include "host/app/Messages.h"
@@ -16,24 +17,12 @@
 
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <unistd.h>
 
 namespace corvane::app {
 namespace {
-
-namespace fs = std::filesystem;
-
-// The add-on lies beside the program, in the build tree as well as where it is installed.
-std::string addOnLibrary(const Options& options) {
-    if (!options.addOn.empty()) {
-        return options.addOn;
-    }
-    const fs::path program = fs::read_symlink("/proc/self/exe");
-    return (program.parent_path().parent_path() / "lib" / "libKeyFrameAnimation.so").string();
-}
 
 class BatchRun {
 public:

@@ -2,6 +2,7 @@
 #include "host/app/Options.h"
 
 #include "host/app/MovieFormats.h"
+#include "host/core/MacroReference.h"
 
 #include <CLI/CLI.hpp>
 
@@ -56,6 +57,9 @@ void checkFramesPerSecond(const Options& options) {
 }
 
 void checkCombination(const Options& options) {
+    if (options.needsWindow()) {
+        return;
+    }
     if (!options.keyFrames.empty() && options.output.empty()) {
         throw UsageError("--keyframes needs --output MOVIE: there is no window to play on.");
     }
@@ -67,8 +71,8 @@ void checkCombination(const Options& options) {
                          "\" has none of " + movieExtensions() + ".");
     }
     if (options.keyFrames.empty() && options.macro.empty()) {
-        throw UsageError("There is nothing to do without a window: give --keyframes FILE --output "
-                         "MOVIE, or --macro FILE.");
+        throw UsageError("There is nothing to do without a window: give --macro FILE, or "
+                         "--keyframes FILE --output MOVIE.");
     }
     if (options.data.empty() && options.macro.empty()) {
         throw UsageError("There are no data to fly through: name a data file, or give --macro FILE "
@@ -82,7 +86,8 @@ Options parseCommandLine(int argc, const char* const* argv) {
     Options options;
     std::string size;
     std::vector<std::string> settings;
-    CLI::App app{"Flies a camera smoothly through 3D simulation results.", "corvane"};
+    CLI::App app{"Shows 3D simulation results, and flies a camera smoothly through them.",
+                 "corvane"};
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
                    "data files: one data set together (.pvd .vtu .vtp .vti .vtr .vts .vtm .pvtu "
@@ -102,6 +107,8 @@ Options parseCommandLine(int argc, const char* const* argv) {
         ->check(CLI::Range(1, 16));
     app.add_option("--add-on", options.addOn, "the add-on library (Key Frame Animation)");
     app.add_option("--trace", options.trace, "write every call of the add-on to this file");
+    bool wantsReference = false;
+    app.add_flag("--macro-reference", wantsReference, "print the macro language (Markdown)");
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
@@ -110,6 +117,9 @@ Options parseCommandLine(int argc, const char* const* argv) {
         throw PrintAndExit(app.version() + "\n");
     } catch (const CLI::ParseError& error) {
         throw UsageError(std::string(error.what()) + " (corvane --help lists the options)");
+    }
+    if (wantsReference) {
+        throw PrintAndExit(host::macroReference());
     }
     if (!size.empty()) {
         parseSize(size, options);

@@ -22,6 +22,9 @@ struct Options {
     std::optional<int> supersample;
     std::string addOn;
     std::string trace;
+
+    /// Nothing of what was asked for can be done without one.
+    bool needsWindow() const { return !batch && keyFrames.empty() && output.empty(); }
 };
 
 /// The command line asks for help or the version: print what() and end with success.

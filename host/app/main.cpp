@@ -1,14 +1,16 @@
-// corvane: flies a camera through 3D simulation results.
+// corvane: shows 3D simulation results, and flies a camera through them.
 #include "host/app/BatchRun.h"
 #include "host/app/Messages.h"
 #include "host/app/Options.h"
+#include "host/app/WindowRun.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
     using namespace corvane::app;
     try {
-        return runBatch(parseCommandLine(argc, argv));
+        const Options options = parseCommandLine(argc, argv);
+        return options.needsWindow() ? runWindow(options) : runBatch(options);
     } catch (const PrintAndExit& text) {
         std::cout << text.what();
         return ExitDone;

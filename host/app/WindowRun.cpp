@@ -1,0 +1,144 @@
+// A run with a window, from the options to the exit code.
+#include "host/app/WindowRun.h"
+
+#include "host/app/AddOnLibrary.h"
+#include "host/app/Messages.h"
+#include "host/app/TraceFile.h"
+#include "host/core/AddOns.h"
+#include "host/gui/QtText.h"
+#include "host/gui/window/Desktop.h"
+#include "host/gui/window/Icons.h"
+#include "host/movie/LibavMovieWriters.h"
+#include "host/movie/PngFiles.h"
+#include "host/scene/DataReaders.h"
+#include "host/scene/SceneRenderer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <clocale>
+#include <cstdlib>
+#include <memory>
+
+namespace corvane::app {
+namespace {
+
+bool hasDisplay() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const char* const value = std::getenv(name);
+        if (value != nullptr && *value != '\0') {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Beside the program where it is installed, else where it was built from.
+QString helpFolder() {
+    const QDir installed(QApplication::applicationDirPath() +
+                         QStringLiteral("/../share/corvane/help"));
+    return installed.exists() ? installed.absolutePath() : QStringLiteral(CORVANE_HELP_FOLDER);
+}
+
+void nameProgram() {
+    QApplication::setApplicationName(QStringLiteral("Corvane"));
+    QApplication::setOrganizationName(QStringLiteral("Corvane"));
+    QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("corvane"));
+    QApplication::setWindowIcon(gui::programIcon());
+    // Qt takes over the numbers of the user's language; readers of data files need a plain point.
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+class WindowRun {
+public:
+    explicit WindowRun(const Options& options)
+        : m_options(options),
+          m_desktop({.renderer = m_renderer,
+                     .reader = m_reader,
+                     .movies = m_movies,
+                     .pictures = m_pictures,
+                     .helpFolder = helpFolder()}) {}
+
+    void start();
+
+private:
+    void traceCalls();
+    void loadAddOn();
+    void openWhatWasAsked();
+
+    const Options& m_options;
+    scene::SceneRenderer m_renderer;
+    scene::DataReaders m_reader;
+    movie::LibavMovieWriters m_movies;
+    movie::PngFiles m_pictures;
+    std::unique_ptr<TraceFile> m_trace;
+    gui::Desktop m_desktop;
+};
+
+void WindowRun::start() {
+    traceCalls();
+    loadAddOn();
+    m_desktop.window().show();
+    // Once the event loop runs, so that messages have somebody to read them.
+    QMetaObject::invokeMethod(
+        &m_desktop.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
+}
+
+void WindowRun::traceCalls() {
+    if (!m_options.trace.empty()) {
+        m_trace = std::make_unique<TraceFile>(m_options.trace);
+        m_trace->attachTo(m_desktop.application().trace());
+    }
+}
+
+void WindowRun::loadAddOn() {
+    try {
+        host::loadAddOn(m_desktop.application(), addOnLibrary(m_options));
+    } catch (const std::exception& error) {
+        if (!m_options.addOn.empty()) {
+            throw; // somebody asked for this very one
+        }
+        say(error.what());
+    }
+}
+
+void WindowRun::openWhatWasAsked() {
+    gui::Workbench& workbench = m_desktop.workbench();
+    for (const auto& [name, value] : m_options.variables) {
+        m_desktop.application().macros().variables().set(name, value);
+    }
+    QStringList files;
+    for (const std::string& file : m_options.data) {
+        files.append(gui::toQt(file));
+    }
+    const bool isOpen = files.isEmpty() || workbench.files().openData(files);
+    if (isOpen && !m_options.macro.empty()) {
+        workbench.macros().play(gui::toQt(m_options.macro));
+    }
+}
+
+} // namespace
+
+ExitCode runWindow(const Options& options) {
+    if (!hasDisplay()) {
+        say("There is no display for a window; to work without one, give --batch with --macro "
+            "FILE, or --keyframes FILE --output MOVIE.");
+        return ExitUsage;
+    }
+    std::string name = "corvane";
+    char* arguments[] = {name.data(), nullptr};
+    int count = 1;
+    QApplication qt(count, arguments);
+    nameProgram();
+    try {
+        WindowRun run(options);
+        run.start();
+        QApplication::exec();
+        return ExitDone;
+    } catch (const std::exception& error) {
+        say(error.what());
+        return ExitFailed;
+    }
+}
+
+} // namespace corvane::app
