@@ -1,0 +1,100 @@
+// A flight of the add-on on the screen, and the two ways to stop it.
+#include "host/core/AddOns.h"
+#include "host/gui/window/DrawingArea.h"
+#include "host/gui/window/ProgressStrip.h"
+#include "tests/gui/WindowTest.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QtTest>
+
+namespace corvane::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+class Animation : public WindowTest {
+protected:
+    void SetUp() override {
+        host::loadAddOn(app(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
+        openData();
+        runCommand("OpenSettingsFile FileName=\"" CORVANE_SOURCE_DIR
+                   "/examples/wake/flight.keyframe\"");
+        settle();
+        renderer.clear();
+    }
+
+    void runCommand(const std::string& command) {
+        app().perform("EXTCOMMAND", {"Key Frame Animation", command});
+    }
+
+    /// Plays, and does something once some pictures have been seen.
+    void playAnd(const std::function<void()>& action) {
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &window(), [&] {
+            if (renderer.renders() >= 5) {
+                look.stop();
+                action();
+            }
+        });
+        look.start(5);
+        try {
+            runCommand("Animate AnimationDestination=OnScreen");
+        } catch (const std::exception& error) {
+            m_message = error.what();
+        }
+    }
+
+    std::string m_message; ///< why the flight ended early
+};
+
+TEST_F(Animation, escStops) {
+    playAnd([this] { QTest::keyClick(&window(), Qt::Key_Escape); });
+    EXPECT_THAT(m_message, HasSubstr("ancel"));
+    EXPECT_GT(renderer.renders(), 2U);
+    EXPECT_LT(renderer.renders(), 100U);
+}
+
+TEST_F(Animation, theStopButtonStops) {
+    auto& stop = part<QPushButton>("stop");
+    bool wasVisible = false;
+    playAnd([&] {
+        wasVisible = stop.isVisible();
+        QTest::mouseClick(&stop, Qt::LeftButton);
+    });
+    EXPECT_TRUE(wasVisible);
+    EXPECT_THAT(m_message, HasSubstr("ancel"));
+    EXPECT_LT(renderer.renders(), 100U);
+    EXPECT_FALSE(stop.isVisible());
+}
+
+TEST_F(Animation, nothingElseCanBeReached) {
+    auto& legend = part<QCheckBox>("Contour/ShowLegend");
+    bool stayedOpen = false;
+    playAnd([&] {
+        QTest::mouseClick(&legend, Qt::LeftButton);
+        QTest::keyClick(&window(), Qt::Key_O, Qt::ControlModifier);
+        stayedOpen = !window().close() && window().isVisible();
+        QTest::keyClick(&window(), Qt::Key_Escape);
+    });
+    EXPECT_TRUE(stayedOpen);
+    EXPECT_TRUE(legend.isChecked());
+    EXPECT_TRUE(frame().style.contour.showLegend);
+}
+
+TEST_F(Animation, keepsToTheRateOfTheDisplay) {
+    QElapsedTimer clock;
+    clock.start();
+    playAnd([this] { QTest::keyClick(&window(), Qt::Key_Escape); });
+    const double seconds = static_cast<double>(clock.elapsed()) / 1000.0;
+    const double rate = window().screen()->refreshRate();
+    // One picture more than there are intervals, and one that was on its way.
+    EXPECT_LE(static_cast<double>(renderer.renders()), seconds * rate + 2.0);
+}
+
+} // namespace
+
+} // namespace corvane::test

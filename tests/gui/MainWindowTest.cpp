@@ -1,0 +1,249 @@
+// What a user does in the main window, and what comes of it.
+#include "host/gui/window/DrawingArea.h"
+#include "host/gui/window/TimePlayer.h"
+#include "host/gui/window/ViewMotion.h"
+#include "tests/gui/WindowTest.h"
+#include "tests/support/MemoryData.h"
+#include "tests/support/TempFolder.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSlider>
+#include <QToolButton>
+#include <QtTest>
+
+namespace corvane::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class MainWindow : public WindowTest {
+protected:
+    void SetUp() override { openData(); }
+
+    QPoint middle() { return drawingArea().rect().center(); }
+    void wheel(QPoint at, int notches) {
+        QWheelEvent event(at, drawingArea().mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&drawingArea(), &event);
+    }
+};
+
+class EmptyMainWindow : public WindowTest {};
+
+TEST_F(EmptyMainWindow, drawsNothingWithoutData) {
+    EXPECT_EQ(renderer.renders(), 0U);
+    EXPECT_TRUE(drawingArea().image().isNull());
+    EXPECT_TRUE(part<QWidget>("timeBar").isHidden());
+}
+
+TEST_F(MainWindow, openingDataShowsThemInThePixelsOfTheArea) {
+    ASSERT_EQ(reader.reads().size(), 1U);
+    EXPECT_EQ(drawingArea().image().size(), drawingArea().pixels());
+    EXPECT_TRUE(window().windowTitle().startsWith(QStringLiteral("flow.pvd")));
+    EXPECT_FALSE(part<QWidget>("timeBar").isHidden());
+}
+
+TEST_F(MainWindow, aFailedOpeningSaysWhyAndChangesNothing) {
+    const auto before = frame().data();
+    reader.failNext("broken.pvd cannot be read: it is empty.");
+    EXPECT_FALSE(workbench().files().openData({QStringLiteral("broken.pvd")}));
+    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error),
+                ElementsAre("broken.pvd cannot be read: it is empty."));
+    EXPECT_EQ(frame().data(), before);
+}
+
+TEST_F(MainWindow, aResizedWindowIsFilledByItsOneFrame) {
+    window().resize(window().width() - 200, window().height() - 100);
+    ASSERT_TRUE(
+        waitUntil([this] { return drawingArea().image().size() == drawingArea().pixels(); }));
+    const host::Placement area = app().page().regionOf(ExportRegion_WorkArea);
+    EXPECT_EQ(frame().placement, area);
+    EXPECT_DOUBLE_EQ(area.width, 8.0);
+}
+
+TEST_F(MainWindow, draggingTurnsTheViewAboutItsOriginAndDrawsOnce) {
+    const host::View3D before = frame().view;
+    const auto renders = renderer.renders();
+    drag(Qt::LeftButton, middle(), middle() + QPoint(80, -40));
+    EXPECT_GT(frame().view.theta, before.theta);
+    EXPECT_GT(frame().view.psi, before.psi);
+    EXPECT_NEAR(length(frame().view.position - before.rotationOrigin),
+                length(before.position - before.rotationOrigin), 1e-9);
+    EXPECT_EQ(renderer.renders(), renders);
+    settle();
+    EXPECT_EQ(renderer.renders(), renders + 1);
+}
+
+TEST_F(MainWindow, middleButtonAndShiftMoveTheView) {
+    const host::View3D start = frame().view;
+    drag(Qt::MiddleButton, middle(), middle() + QPoint(50, 0));
+    const host::View3D moved = frame().view;
+    EXPECT_LT(dot(moved.position - start.position, basisOf(start).right), 0.0);
+    EXPECT_EQ(moved.theta, start.theta);
+    drag(Qt::LeftButton, middle() + QPoint(50, 0), middle(), Qt::ShiftModifier);
+    EXPECT_NEAR(length(frame().view.position - start.position), 0.0, 1e-9);
+}
+
+TEST_F(MainWindow, theWheelKeepsWhatIsUnderThePointer) {
+    const QPoint pointer = middle() + QPoint(120, 70);
+    const gui::PictureSize size{double(drawingArea().width()), double(drawingArea().height())};
+    const QPointF fromCenter = pointer - QRectF(drawingArea().rect()).center();
+    const auto held = [&](const host::View3D& view) {
+        const host::ViewBasis basis = basisOf(view);
+        const double scale = gui::unitsPerPixel(view, size);
+        const double depth = dot(view.position - view.rotationOrigin, basis.toViewer);
+        return view.position - depth * basis.toViewer + scale * fromCenter.x() * basis.right -
+               scale * fromCenter.y() * basis.up;
+    };
+    const host::View3D before = frame().view;
+    wheel(pointer, 3);
+    EXPECT_LT(gui::unitsPerPixel(frame().view, size), 0.8 * gui::unitsPerPixel(before, size));
+    // Half a pixel of slack, since the centre of the area may lie between two.
+    EXPECT_NEAR(length(held(frame().view) - held(before)), 0.0, gui::unitsPerPixel(before, size));
+}
+
+TEST_F(MainWindow, keysInThePictureLookAlongAxesAndFit) {
+    drawingArea().setFocus();
+    QTest::keyClick(&drawingArea(), Qt::Key_5);
+    EXPECT_EQ(frame().view.psi, 0.0);
+    const host::View3D fitted = frame().view;
+    wheel(middle(), 4);
+    EXPECT_NE(frame().view.position, fitted.position);
+    QTest::keyClick(&drawingArea(), Qt::Key_F);
+    EXPECT_EQ(frame().view, fitted);
+    QTest::keyClick(&drawingArea(), Qt::Key_P);
+    EXPECT_FALSE(frame().view.perspective);
+}
+
+TEST_F(MainWindow, aClickMakesTheFrameUnderItActive) {
+    const long first = frame().id();
+    host::Placement half = frame().placement;
+    half.width /= 4;
+    half.height /= 4;
+    app().perform("FRAME",
+                  {"CREATE", "X", "=", "0", "Y", "=", "0", "Width", "=", std::to_string(half.width),
+                   "Height", "=", std::to_string(half.height)});
+    settle();
+    ASSERT_NE(frame().id(), first);
+    QTest::mouseClick(&drawingArea(), Qt::LeftButton, {},
+                      {drawingArea().width() - 10, drawingArea().height() / 2});
+    EXPECT_EQ(frame().id(), first);
+    EXPECT_THAT(dialogs.shown(), IsEmpty());
+}
+
+TEST_F(MainWindow, theSidebarChangesStylesByCommands) {
+    app().recorder().start();
+    auto& legend = part<QCheckBox>("Contour/ShowLegend");
+    ASSERT_TRUE(legend.isChecked());
+    legend.click();
+    EXPECT_FALSE(frame().style.contour.showLegend);
+    auto& colors = part<QComboBox>("Contour/ColorMap");
+    const int plasma = colors.findData(QStringLiteral("Plasma"));
+    colors.setCurrentIndex(plasma);
+    Q_EMIT colors.activated(plasma);
+    EXPECT_EQ(frame().style.contour.colorMap, "Plasma");
+    EXPECT_THAT(app().recorder().stop(), ElementsAre(HasSubstr("Contour/ShowLegend = false"),
+                                                     HasSubstr("Contour/ColorMap = ")));
+}
+
+TEST_F(MainWindow, theSidebarFollowsWhatChangesElsewhereAndFiresNothing) {
+    app().recorder().start();
+    app().setStyle({"Contour", "ShowLegend"}, 0L);
+    app().setStyle({"Annotations", "Title"}, std::string("Wake"));
+    auto& legend = part<QCheckBox>("Contour/ShowLegend");
+    EXPECT_TRUE(waitUntil([&] { return !legend.isChecked(); }));
+    EXPECT_EQ(part<QLineEdit>("Annotations/Title").text(), QStringLiteral("Wake"));
+    EXPECT_THAT(app().recorder().stop(), IsEmpty());
+}
+
+TEST_F(MainWindow, aCheckInTheListShowsASlice) {
+    auto& slices = part<QListWidget>("Slice");
+    slices.item(2)->setCheckState(Qt::Checked);
+    EXPECT_TRUE(frame().style.slices[2].show);
+    slices.item(2)->setCheckState(Qt::Unchecked);
+    EXPECT_FALSE(frame().style.slices[2].show);
+}
+
+TEST_F(MainWindow, theSliderShowsATimeAndIsRecorded) {
+    app().recorder().start();
+    auto& slider = part<QSlider>("timeSlider");
+    ASSERT_EQ(slider.maximum(), 2);
+    slider.setValue(2);
+    EXPECT_EQ(frame().solutionTime, 2.0);
+    EXPECT_THAT(app().recorder().stop(), ElementsAre("$!SOLUTIONTIME = 2"));
+    app().setSolutionTime(1.0);
+    EXPECT_TRUE(waitUntil([&] { return slider.value() == 1; }));
+}
+
+TEST_F(MainWindow, playingShowsEveryTimeAndStopsAtTheLast) {
+    renderer.clear();
+    part<QToolButton>("timePlay").click();
+    EXPECT_TRUE(workbench().time().isPlaying());
+    ASSERT_TRUE(waitUntil([this] { return !workbench().time().isPlaying(); }));
+    std::vector<double> times;
+    for (const RenderedState& state : renderer.states()) {
+        times.push_back(state.solutionTime);
+    }
+    EXPECT_THAT(times, ElementsAre(1.0, 2.0));
+}
+
+TEST_F(MainWindow, dataWithoutTimesHaveNoTimeBar) {
+    reader.provide(makeStaticData());
+    openData();
+    EXPECT_TRUE(part<QWidget>("timeBar").isHidden());
+}
+
+TEST_F(MainWindow, aRecordedMacroLeadsToTheSameState) {
+    const TempFolder folder;
+    app().recorder().start();
+    ASSERT_TRUE(workbench().files().openData({QStringLiteral("flow.pvd")}));
+    drag(Qt::LeftButton, middle(), middle() + QPoint(33, 21));
+    drag(Qt::RightButton, middle(), middle() + QPoint(0, -30));
+    part<QCheckBox>("Contour/ShowLegend").click();
+    part<QListWidget>("IsoSurface").item(1)->setCheckState(Qt::Checked);
+    part<QSlider>("timeSlider").setValue(1);
+    const QString macro = QString::fromStdString(folder.file("recorded.mcr"));
+    ASSERT_TRUE(workbench().macros().stopRecording(macro));
+    host::View3D view = frame().view;
+    const host::FrameStyle style = frame().style;
+    const double time = frame().solutionTime;
+
+    startAgain();
+    ASSERT_TRUE(workbench().macros().play(macro)) << folder.read("recorded.mcr");
+
+    view.width = frame().view.width; // means nothing with perspective
+    EXPECT_EQ(frame().view, view);
+    EXPECT_EQ(frame().style, style);
+    EXPECT_EQ(frame().solutionTime, time);
+}
+
+TEST_F(MainWindow, idleWorkWaitsForTheEndOfAnInnerLoop) {
+    bool isInner = false;
+    std::vector<bool> wasInner;
+    QEventLoop outer;
+    QTimer::singleShot(0, [&] {
+        QEventLoop inner;
+        isInner = true;
+        app().idle().add([&] { wasInner.push_back(isInner); });
+        app().drawing().mark();
+        const auto renders = renderer.renders();
+        QTimer::singleShot(100, &inner, &QEventLoop::quit);
+        inner.exec();
+        EXPECT_EQ(renderer.renders(), renders + 1) << "what is due is drawn in an inner loop too";
+        isInner = false;
+    });
+    QTimer::singleShot(400, &outer, &QEventLoop::quit);
+    outer.exec();
+    EXPECT_THAT(wasInner, ElementsAre(false));
+}
+
+} // namespace
+
+} // namespace corvane::test

@@ -1,0 +1,60 @@
+// A test with a real main window over a host whose pictures and data are made in memory.
+#pragma once
+
+#include "host/gui/window/Desktop.h"
+#include "tests/support/MemoryMovies.h"
+#include "tests/support/MemoryPictures.h"
+#include "tests/support/MemoryReader.h"
+#include "tests/support/MemoryRenderer.h"
+#include "tests/support/ScriptedDialogs.h"
+
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace corvane::test {
+
+/// The tests share one QApplication, since a process has no more; it is made with the first.
+class WindowTest : public ::testing::Test {
+protected:
+    WindowTest();
+    void TearDown() override;
+
+    host::Application& app() { return m_desktop->application(); }
+    gui::MainWindow& window() { return m_desktop->window(); }
+    gui::Workbench& workbench() { return m_desktop->workbench(); }
+    gui::DrawingArea& drawingArea();
+    host::Frame& frame(); ///< the active one; there must be one
+
+    /// A part of the window by the name of its object; fails when there is none.
+    template <typename Widget>
+    Widget& part(const char* name) {
+        auto* const found = window().findChild<Widget*>(QString::fromUtf8(name));
+        if (found == nullptr) {
+            throw std::logic_error(std::string("There is nothing named ") + name);
+        }
+        return *found;
+    }
+
+    void openData();
+    /// Looks after events until everything that is due has been done.
+    void settle();
+    static bool waitUntil(const std::function<bool()>& isSo);
+    void drag(Qt::MouseButton button, QPoint from, QPoint to, Qt::KeyboardModifiers keys = {});
+    /// Closes the window and opens a new one.
+    void startAgain();
+
+    MemoryRenderer renderer;
+    MemoryReader reader;
+    MemoryMovies movies;
+    MemoryPictures pictures;
+    ScriptedDialogs dialogs;
+
+private:
+    void open();
+
+    std::unique_ptr<gui::Desktop> m_desktop;
+};
+
+} // namespace corvane::test
