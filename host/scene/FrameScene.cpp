@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace corvane::scene {
 
@@ -29,6 +30,17 @@ std::shared_ptr<const SceneDataSet> sceneData(const Frame& frame) {
     if (frame.data() != nullptr && data == nullptr)
         throw host::HostError("The data of a frame cannot be drawn: another reader made them.");
     return data;
+}
+
+std::string noTracesText(const StreamRequest& request) {
+    const std::string& variable = request.recipe.variable;
+    if (request.zones.empty())
+        return "There are no streamtraces to show: the data have no volumes.";
+    if (variable.empty())
+        return "There are no streamtraces to show: choose a vector variable for them.";
+    return "There are no streamtraces to show: no seed lies inside of the data where \"" +
+           variable +
+           "\" is a vector that is not zero. Move the seeds, or choose another variable.";
 }
 
 int pixels(double part, const FrameArea& area) {
@@ -85,6 +97,7 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
 void FrameScene::updatePlots(const Frame& frame, const FrameArea& area) {
     attach(frame);
     hidePlots();
+    m_warning.clear();
     if (m_data != nullptr && frame.plotType == PlotType_Cartesian3D)
         showContent(frame, area);
     m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
@@ -141,8 +154,12 @@ void FrameScene::showPlot(const PlotRequest& request, const host::LightStyle& li
 void FrameScene::showStreams(const StreamRequest& request, const host::FrameStyle& style,
                              const FrameArea& area) {
     m_streams.setGeometry(m_geometry->streams(request, *m_data));
-    if (m_streams.isEmpty())
+    const bool lackedTraces = std::exchange(m_lacksTraces, m_streams.isEmpty());
+    if (m_lacksTraces) {
+        if (!lackedTraces)
+            m_warning = noTracesText(request);
         return;
+    }
     m_streams.show(style, m_colors, request.markerSize,
                    std::max(1.0, traceWidthPart * area.full.height));
     m_isContourShown = m_isContourShown || style.streamtraces.useContour;

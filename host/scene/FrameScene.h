@@ -22,6 +22,7 @@
 
 #include <map>
 #include <memory>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -38,6 +39,8 @@ public:
 
     void update(const host::Frame& frame, const FrameArea& area, int pictureWidth,
                 int pictureHeight);
+    /// What begins to be missing with the last update, as a sentence; empty: nothing.
+    const std::string& warning() const { return m_warning; }
     void hide(); ///< leaves the next picture without this frame
 
     /// In the order of drawing.
@@ -72,6 +75,8 @@ private:
     TimeTravel m_travel;
     std::map<PlotKey, std::unique_ptr<Plot>> m_plots;
     StreamPlot m_streams;
+    std::string m_warning;
+    bool m_lacksTraces = false;
     bool m_isTranslucent = false;
     bool m_isContourShown = false;
 };

@@ -36,10 +36,13 @@ public:
 
     int largestSize() const { return m_largestSize; }
     void waitForReadAhead() { m_geometry->wait(); }
-    host::Picture draw(const host::Page& page, const host::PictureRequest& request);
+    /// The warnings of the frames go to the listener, where there is one.
+    host::Picture draw(const host::Page& page, const host::PictureRequest& request,
+                       const std::function<void(const std::string&)>& onWarning);
 
 private:
-    void updateFrames(const host::Page& page, const host::PictureRequest& request);
+    void updateFrames(const host::Page& page, const host::PictureRequest& request,
+                      const std::function<void(const std::string&)>& onWarning);
     void forgetDeletedFrames(const host::Page& page);
     void orderRenderers(const host::Page& page);
 
@@ -54,15 +57,16 @@ private:
     vtkNew<vtkUnsignedCharArray> m_pixels;
 };
 
-host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
-                                          const host::PictureRequest& request) {
+host::Picture
+SceneRenderer::Canvas::draw(const host::Page& page, const host::PictureRequest& request,
+                            const std::function<void(const std::string&)>& onWarning) {
     // Odd data must neither stop a movie nor write to the terminal.
     const VtkMessages silenced;
     const int width = request.width * request.supersample;
     const int height = request.height * request.supersample;
     m_window->MakeCurrent();
     m_window->SetSize(width, height);
-    updateFrames(page, request);
+    updateFrames(page, request, onWarning);
     m_window->Render();
     ++m_statistics->renders;
     m_window->GetRGBACharPixelData(0, 0, width - 1, height - 1, 1, m_pixels);
@@ -71,7 +75,8 @@ host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
 }
 
 void SceneRenderer::Canvas::updateFrames(const host::Page& page,
-                                         const host::PictureRequest& request) {
+                                         const host::PictureRequest& request,
+                                         const std::function<void(const std::string&)>& onWarning) {
     forgetDeletedFrames(page);
     for (const auto& frame : page.frames()) {
         auto& scene = m_frames[frame->id()];
@@ -80,9 +85,12 @@ void SceneRenderer::Canvas::updateFrames(const host::Page& page,
         scene->hide();
     }
     orderRenderers(page);
-    for (const FrameInPicture& shown : framesInPicture(page, request))
-        m_frames[shown.frame->id()]->update(*shown.frame, shown.area, m_window->GetSize()[0],
-                                            m_window->GetSize()[1]);
+    for (const FrameInPicture& shown : framesInPicture(page, request)) {
+        FrameScene& scene = *m_frames[shown.frame->id()];
+        scene.update(*shown.frame, shown.area, m_window->GetSize()[0], m_window->GetSize()[1]);
+        if (onWarning && !scene.warning().empty())
+            onWarning(scene.warning());
+    }
 }
 
 void SceneRenderer::Canvas::forgetDeletedFrames(const host::Page& page) {
@@ -144,7 +152,7 @@ host::Picture SceneRenderer::draw(const host::Page& page, const host::PictureReq
                               std::to_string(factor) +
                               " times larger, cannot be made: sizes from 1 to " +
                               std::to_string(largest) + " can be drawn here.");
-    return canvas().draw(page, request);
+    return canvas().draw(page, request, onWarning);
 }
 
 } // namespace corvane::scene

@@ -4,7 +4,9 @@
 #include "host/core/Ports.h"
 #include "host/scene/MemoryBudget.h"
 
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace corvane::scene {
 
@@ -26,6 +28,9 @@ public:
     /// Returns when what comes next has been read and built. Nobody needs to wait; those who count
     /// do.
     void waitForReadAhead();
+
+    /// Told, in a sentence, when something that was asked for begins to be missing in pictures.
+    std::function<void(const std::string&)> onWarning;
 
 private:
     class Canvas;

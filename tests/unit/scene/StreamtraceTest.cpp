@@ -4,6 +4,8 @@
 #include "tests/unit/scene/SampleMeshes.h"
 #include "tests/unit/scene/SceneTest.h"
 
+#include <gmock/gmock.h>
+
 #include <vtkCellData.h>
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
@@ -367,17 +369,25 @@ TEST_F(StreamtraceTest, withHalfOfTheLightEverythingIsHalfAsBright) {
 TEST_F(StreamtraceTest, whatCannotBeTracedDrawsNothing) {
     timing() = {0.0, 0.1, true, true};
     frame().style.streamtraces.show = false;
+    std::vector<std::string> warnings;
+    renderer.onWarning = [&](const std::string& sentence) { warnings.push_back(sentence); };
     const host::Picture empty = draw(width, height);
     frame().style.streamtraces.show = true;
     EXPECT_NE(draw(width, height), empty);
+    EXPECT_TRUE(warnings.empty());
     for (const char* variable : {"", "nothing", "T", "C"}) {
         frame().style.streamtraces.variable = variable;
         EXPECT_EQ(draw(width, height), empty) << variable;
     }
+    EXPECT_EQ(warnings.size(), 1U) << "not for every picture";
+    EXPECT_THAT(warnings.front(), testing::HasSubstr("choose a vector variable"));
     frame().style.streamtraces.variable = "flow";
+    draw(width, height);
     frame().style.streamtraces.seedStart = {5.0, 5.0, 5.0};
     frame().style.streamtraces.seedEnd = {6.0, 5.0, 5.0};
     EXPECT_EQ(draw(width, height), empty);
+    ASSERT_EQ(warnings.size(), 2U);
+    EXPECT_THAT(warnings.back(), testing::HasSubstr("no seed lies inside"));
     frame().attachData(load("cube.vtp", sampleCube({0.5, 0.5, 0.5}, 1.0)));
     EXPECT_EQ(draw(width, height), empty);
     frame().attachData(nullptr);
