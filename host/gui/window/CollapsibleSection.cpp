@@ -1,27 +1,21 @@
 // A titled part of the sidebar that can be folded away.
 #include "host/gui/window/CollapsibleSection.h"
 
+#include "host/gui/window/SectionHeader.h"
+
 #include <QFrame>
 #include <QSettings>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace corvane::gui {
 
 CollapsibleSection::CollapsibleSection(const QString& title, const QString& key, QWidget& content,
                                        bool isOpen)
-    : m_header(new QToolButton), m_content(content), m_key(QStringLiteral("sections/") + key) {
+    : m_header(new SectionHeader(title)),
+      m_content(content),
+      m_key(QStringLiteral("sections/") + key) {
     setObjectName(key);
     m_header->setObjectName(QStringLiteral("header"));
-    m_header->setText(title);
-    m_header->setCheckable(true);
-    m_header->setAutoRaise(true);
-    m_header->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_header->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_header->setStyleSheet(
-        QStringLiteral("QToolButton { border: none; color: palette(window-text); font-weight: 600; "
-                       "padding: 5px 2px; text-align: left; }"));
-    m_header->setIconSize({10, 10});
     auto* const line = new QFrame;
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Plain);
@@ -32,7 +26,7 @@ CollapsibleSection::CollapsibleSection(const QString& title, const QString& key,
     column->addWidget(m_header);
     column->addWidget(&m_content);
     column->addWidget(line);
-    connect(m_header, &QToolButton::toggled, this, [this](bool isOpenNow) {
+    connect(m_header, &QAbstractButton::toggled, this, [this](bool isOpenNow) {
         QSettings().setValue(m_key, isOpenNow);
         setOpen(isOpenNow);
     });
@@ -41,7 +35,6 @@ CollapsibleSection::CollapsibleSection(const QString& title, const QString& key,
 
 void CollapsibleSection::setOpen(bool isOpen) {
     m_header->setChecked(isOpen);
-    m_header->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
     m_content.setVisible(isOpen);
 }
 

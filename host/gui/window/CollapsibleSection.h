@@ -3,9 +3,9 @@
 
 #include <QWidget>
 
-class QToolButton;
-
 namespace corvane::gui {
+
+class SectionHeader;
 
 /// Whether it is open is kept from one run to the next.
 class CollapsibleSection : public QWidget {
@@ -17,7 +17,7 @@ public:
     void setOpen(bool isOpen);
 
 private:
-    QToolButton* m_header;
+    SectionHeader* m_header;
     QWidget& m_content;
     QString m_key;
 };

@@ -1,0 +1,20 @@
+// The title of a part of the sidebar, with an arrow that tells whether it is open.
+#pragma once
+
+#include <QAbstractButton>
+
+namespace corvane::gui {
+
+class SectionHeader : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit SectionHeader(const QString& title);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace corvane::gui
