@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QSlider>
 #include <QToolButton>
 #include <QtTest>
@@ -222,6 +223,33 @@ TEST_F(MainWindow, aRecordedMacroLeadsToTheSameState) {
     EXPECT_EQ(frame().view, view);
     EXPECT_EQ(frame().style, style);
     EXPECT_EQ(frame().solutionTime, time);
+}
+
+TEST_F(MainWindow, aFailedExportIsToldOnceAllIsPutAway) {
+    ASSERT_FALSE(app().exporter().start());
+    const std::string cause = app().exporter().failure();
+    app().status().start("Animating", true, true);
+    app().drawing().mark();
+    app().status().check(50);
+    EXPECT_THAT(dialogs.shown(), IsEmpty());
+    app().status().finish();
+    settle();
+    app().drawing().mark();
+    settle();
+    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error), ElementsAre(cause));
+}
+
+TEST_F(MainWindow, recentFilesOpenAgain) {
+    QMenu* recent = nullptr;
+    const auto menus = window().findChildren<QMenu*>();
+    for (QMenu* const menu : menus) {
+        recent = menu->title() == QStringLiteral("&Recent Files") ? menu : recent;
+    }
+    ASSERT_NE(recent, nullptr);
+    const auto reads = reader.reads().size();
+    recent->actions().constFirst()->trigger();
+    ASSERT_EQ(reader.reads().size(), reads + 1);
+    EXPECT_EQ(reader.reads().back(), reader.reads().front());
 }
 
 TEST_F(MainWindow, idleWorkWaitsForTheEndOfAnInnerLoop) {
