@@ -17,6 +17,10 @@ bool isLabel(const host::PlacedControl& control) {
     return dynamic_cast<const host::Label*>(&control) != nullptr;
 }
 
+bool isGroupBox(const host::PlacedControl& control) {
+    return dynamic_cast<const host::GroupBox*>(&control) != nullptr;
+}
+
 bool isField(const host::PlacedControl& control) {
     return dynamic_cast<const host::TextField*>(&control) != nullptr ||
            dynamic_cast<const host::OptionMenu*>(&control) != nullptr;
@@ -64,6 +68,10 @@ const host::PlacedControl* ControlArea::fieldBeside(const host::PlacedControl& l
 QRect ControlArea::placeOf(const Placed& placed) const {
     const DialogUnits units(font());
     const QRect box = units.rect(placed.control->box);
+    if (isGroupBox(*placed.control)) {
+        // Add-ons expect the title in the line of the frame; styles put it above.
+        return {QPoint(box.left(), qMax(0, box.top() - units.down(50))), box.bottomRight()};
+    }
     if (!isLabel(*placed.control)) {
         return grown(box,
                      placed.widget->minimumSizeHint().expandedTo(
