@@ -10,6 +10,7 @@
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
+#include "host/core/MacroFile.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
@@ -24,18 +25,28 @@
 namespace corvane::app {
 namespace {
 
+std::size_t memoryFor(const Options& options) {
+    constexpr std::size_t mebibyte = 1024 * 1024;
+    return options.memory ? *options.memory * mebibyte : scene::defaultMemoryBudget();
+}
+
 class BatchRun {
 public:
     explicit BatchRun(const Options& options)
         : m_options(options),
+          m_scene(nullptr, memoryFor(options) / 4),
           m_renderer(m_scene),
-          m_status(std::cerr, isatty(STDERR_FILENO) != 0, isStopSignalled),
+          m_reader(memoryFor(options)),
+          m_status(options.quiet ? m_silence : std::cerr,
+                   !options.quiet && isatty(STDERR_FILENO) != 0, isStopSignalled),
           m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs, m_pictures}) {}
 
     ExitCode run();
 
 private:
     void work();
+    void openData();
+    void writeRecorded();
     void traceCalls();
     void setUpPage();
     void sayWhatWasMade(double seconds);
@@ -47,6 +58,7 @@ private:
     scene::DataReaders m_reader;
     movie::LibavMovieWriters m_movies;
     movie::PngFiles m_pictures;
+    std::ostream m_silence{nullptr};
     TerminalStatus m_status;
     BatchDialogs m_dialogs;
     std::unique_ptr<TraceFile> m_trace;
@@ -67,10 +79,12 @@ ExitCode BatchRun::run() {
 void BatchRun::work() {
     traceCalls();
     setUpPage();
+    m_scene.onWarning = say;
     host::loadAddOn(m_application, addOnLibrary(m_options));
-    if (!m_options.data.empty()) {
-        m_application.openData(m_options.data);
+    if (!m_options.record.empty()) {
+        m_application.recorder().start();
     }
+    openData();
     for (const auto& [name, value] : m_options.variables) {
         m_application.macros().variables().set(name, value);
     }
@@ -82,6 +96,19 @@ void BatchRun::work() {
         fly(m_application, m_options);
         sayWhatWasMade(
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+    writeRecorded();
+}
+
+void BatchRun::openData() {
+    if (!m_options.data.empty()) {
+        m_application.perform("READDATA", m_options.data);
+    }
+}
+
+void BatchRun::writeRecorded() {
+    if (!m_options.record.empty()) {
+        host::writeMacro(m_application.recorder().stop(), m_options.record);
     }
 }
 
@@ -99,6 +126,9 @@ void BatchRun::setUpPage() {
 }
 
 void BatchRun::sayWhatWasMade(double seconds) {
+    if (m_options.quiet) {
+        return;
+    }
     const unsigned long frames = m_application.exporter().frames();
     char figures[128];
     std::snprintf(figures, sizeof figures,

@@ -107,6 +107,13 @@ Options parseCommandLine(int argc, const char* const* argv) {
         ->check(CLI::Range(1, 16));
     app.add_option("--add-on", options.addOn, "the add-on library (Key Frame Animation)");
     app.add_option("--trace", options.trace, "write every call of the add-on to this file");
+    app.add_option("--record", options.record, "write a macro of all that is done to this file");
+    app.add_option("--memory", options.memory,
+                   "MiB for time steps that are kept (a quarter of the machine's memory); what is "
+                   "built from them gets a fourth of it on top")
+        ->type_name("MIB")
+        ->check(CLI::Range(1, 16 * 1024 * 1024));
+    app.add_flag("--quiet", options.quiet, "say nothing but what went wrong");
     bool wantsReference = false;
     app.add_flag("--macro-reference", wantsReference, "print the macro language (Markdown)");
     try {

@@ -1,6 +1,7 @@
 // The command line as values.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -22,6 +23,9 @@ struct Options {
     std::optional<int> supersample;
     std::string addOn;
     std::string trace;
+    std::string record;                ///< a macro of what is done goes here
+    std::optional<std::size_t> memory; ///< MiB for data that are kept
+    bool quiet = false;
 
     /// Nothing of what was asked for can be done without one.
     bool needsWindow() const { return !batch && keyFrames.empty() && output.empty(); }

@@ -139,11 +139,6 @@ void Application::announce(StyleEffect effect) {
 
 void Application::perform(const std::string& command, const std::vector<std::string>& words) {
     m_macros.run(command, words);
-    std::vector<std::string> recorded;
-    for (const std::string& word : words) {
-        recorded.push_back(MacroVariables::escaped(word));
-    }
-    m_recorder.recordRaw(macroLine(command, recorded));
 }
 
 void Application::openData(const std::vector<std::string>& files) {

@@ -1,7 +1,11 @@
 // The table of macro commands.
 #include "host/core/MacroCommands.h"
 
+#include "host/core/MacroText.h"
+#include "host/core/MacroVariables.h"
 #include "host/core/StyleTree.h"
+
+#include <filesystem>
 
 namespace corvane::host {
 
@@ -12,7 +16,8 @@ const std::vector<MacroCommand>& macroCommands() {
          "Reads data into the active frame and chooses plots and view for them. Several files make "
          "one data set.",
          "$!READDATA \"wake.pvd\"",
-         readData},
+         readData,
+         Recorded::WithFileNames},
         {"STYLE",
          {"PATH = VALUE"},
          "Sets one value of the active frame or of the program.",
@@ -60,24 +65,28 @@ const std::vector<MacroCommand>& macroCommands() {
          "Writes a picture: of the work area, as wide as it is, unless other values are given. "
          "Width is 4 to 32766 pixels; Supersample draws 2 to 16 times larger and filters down.",
          "$!PICTURE \"wake.png\" Width = 1920 Supersample = 2",
-         exportPicture},
+         exportPicture,
+         Recorded::WithFileName},
         {"EXTCOMMAND",
          {"\"ADD-ON\" \"COMMAND\""},
          "Runs a command of an add-on.",
          "$!EXTCOMMAND \"Key Frame Animation\" \"Animate AnimationDestination=ToFile\"",
-         runAddOnCommand},
+         runAddOnCommand,
+         Recorded::ByOthers},
         {"INCLUDE",
          {"\"FILE\""},
          "Plays another macro. File names in it are relative to its own folder.",
          "$!INCLUDE \"colors.mcr\"",
-         includeMacro},
+         includeMacro,
+         Recorded::ByOthers},
         {"SET",
          {"NAME = VALUE"},
          "Gives a variable a value, unless it has one from the command line (--set NAME=VALUE). "
          "${NAME} in the words of later lines stands for it, $${ for the characters ${. "
          "${MACRO_FOLDER} is the folder of the macro that plays.",
          "$!SET CASE = \"wake\"",
-         setVariable}};
+         setVariable,
+         Recorded::ByOthers}};
     return all;
 }
 
@@ -88,6 +97,21 @@ const MacroCommand* findMacroCommand(const std::string& name) {
         }
     }
     return nullptr;
+}
+
+std::string recordedLine(const MacroCommand& command, const MacroCall& call) {
+    if (command.recorded == Recorded::ByOthers) {
+        return {};
+    }
+    std::vector<std::string> words;
+    for (const std::string& word : call.words) {
+        const bool isFile = command.recorded == Recorded::WithFileNames ||
+                            (command.recorded == Recorded::WithFileName && words.empty());
+        const std::string name =
+            isFile ? std::filesystem::absolute(call.path(word)).lexically_normal().string() : word;
+        words.push_back(MacroVariables::escaped(name));
+    }
+    return macroLine(command.name, words);
 }
 
 } // namespace corvane::host

@@ -8,6 +8,14 @@
 
 namespace corvane::host {
 
+/// How a command that was carried out goes into a macro that is being recorded.
+enum class Recorded {
+    AsWritten,
+    WithFileNames, ///< all words are names of files, which become absolute
+    WithFileName,  ///< the first word is
+    ByOthers,      ///< add-ons record their commands, and included macros are recorded line by line
+};
+
 /// One command of the macro language.
 struct MacroCommand {
     std::string name;                   ///< READDATA
@@ -16,7 +24,11 @@ struct MacroCommand {
     std::string example;                ///< one line that works
     /// Throws std::invalid_argument or HostError with the cause.
     void (*run)(const MacroCall& call);
+    Recorded recorded = Recorded::AsWritten;
 };
+
+/// The line that a macro being recorded gets for a command that was carried out; empty for none.
+std::string recordedLine(const MacroCommand& command, const MacroCall& call);
 
 /// The whole language, in the order in which it is explained.
 const std::vector<MacroCommand>& macroCommands();

@@ -1,6 +1,7 @@
 // Plays macros line by line.
 #include "host/core/MacroPlayer.h"
 
+#include "host/core/Application.h"
 #include "host/core/HostError.h"
 #include "host/core/MacroCommands.h"
 
@@ -81,7 +82,11 @@ void MacroPlayer::run(const std::string& name, const std::vector<std::string>& w
     if (command == nullptr) {
         reject("There is no command " + name + ".");
     }
-    command->run({m_application, words, folder});
+    const MacroCall call{m_application, words, folder};
+    command->run(call);
+    if (const std::string line = recordedLine(*command, call); !line.empty()) {
+        m_application.recorder().recordRaw(line);
+    }
 }
 
 void MacroPlayer::runLine(const MacroLine& line, const std::string& name,

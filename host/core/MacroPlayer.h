@@ -24,7 +24,8 @@ public:
     void play(std::istream& macro, const std::string& name, const std::string& folder);
 
     /// One command, as if it stood in a macro of that folder, but without variables. Throws
-    /// std::invalid_argument for words that make no sense, HostError for what cannot be done.
+    /// std::invalid_argument for words that make no sense, HostError for what cannot be done. What
+    /// was done is recorded while a macro is being recorded.
     void run(const std::string& name, const std::vector<std::string>& words,
              const std::string& folder = ".");
 

@@ -2,6 +2,7 @@
 #include "host/core/MacroPlayer.h"
 
 #include "host/core/MacroCommands.h"
+#include "host/core/MacroFile.h"
 
 #include "tests/unit/host_core/Fakes.h"
 #include "tests/unit/host_core/TemporaryFolder.h"
@@ -288,6 +289,29 @@ TEST_F(MacroPlayerTest, RecordsWhatIsPerformedAndSucceeds) {
                 ElementsAre("$!READDATA \"/there/a $${b}.vtu\"", "$!STYLE Slice/1/Show = true"));
     play(lines[0]);
     EXPECT_EQ(host.reader.calls.back(), host.reader.calls.front());
+}
+
+TEST_F(MacroPlayerTest, RecordsAMacroThatIsPlayedLineByLine) {
+    const fakes::TemporaryFolder folder;
+    const std::string inner = folder.write("inner.mcr", "$!STYLE Slice/1/Show = ${SHOW}\n");
+    app.addOnCommands().add("A", [this](const std::string& command) {
+        app.recorder().recordAddOnCommand("A", command);
+        return std::nullopt;
+    });
+    app.recorder().start();
+    play("$!READDATA sub/../x.vtu\n$!SET SHOW = true\n$!INCLUDE " + quoted(inner) +
+         "\n$!EXTCOMMAND A \"go ${SHOW}\"\n");
+    EXPECT_THAT(app.recorder().stop(),
+                ElementsAre("$!READDATA /scenes/x.vtu", "$!STYLE Slice/1/Show = true",
+                            "$!EXTCOMMAND \"A\" \"go true\""));
+}
+
+TEST_F(MacroPlayerTest, AMacroFileIsWrittenWholeOrNotAtAll) {
+    const fakes::TemporaryFolder folder;
+    writeMacro({"$!REDRAW", "$!VIEW FIT"}, folder.path("a.mcr"));
+    EXPECT_EQ(folder.read("a.mcr"), "$!REDRAW\n$!VIEW FIT\n");
+    EXPECT_THROW(writeMacro({"$!REDRAW"}, folder.path("none/a.mcr")), HostError);
+    EXPECT_THAT(folder.names(), ElementsAre("a.mcr"));
 }
 
 TEST_F(MacroPlayerTest, SetsTheSolutionTime) {
