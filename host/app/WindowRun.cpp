@@ -76,6 +76,7 @@ private:
 };
 
 void WindowRun::start() {
+    m_renderer.onWarning = say;
     traceCalls();
     loadAddOn();
     m_desktop.window().show();
