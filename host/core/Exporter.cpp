@@ -102,7 +102,7 @@ bool Exporter::guarded(void (Exporter::*step)()) {
     } catch (const std::bad_alloc&) {
         m_failure = "There is not enough memory for the movie. Choose a smaller width.";
     } catch (const std::exception& error) {
-        m_failure = error.what();
+        m_failure = m_file ? m_file->namingDestination(error.what()) : error.what();
     } catch (...) {
         m_failure.clear();
     }

@@ -81,6 +81,15 @@ PartFile::~PartFile() {
     }
 }
 
+std::string PartFile::namingDestination(std::string message) const {
+    std::size_t at = 0;
+    while ((at = message.find(m_path, at)) != std::string::npos) {
+        message.replace(at, m_path.size(), m_destination);
+        at += m_destination.size();
+    }
+    return message;
+}
+
 void PartFile::commit() {
     int error = flush(m_path);
     if (error == 0 && std::rename(m_path.c_str(), m_destination.c_str()) != 0) {

@@ -18,6 +18,9 @@ public:
 
     const std::string& path() const { return m_path; }
     const std::string& destination() const { return m_destination; }
+    /// The message with the destination in the place of path(), which means nothing to the user:
+    /// whoever writes the file knows no other name for it.
+    std::string namingDestination(std::string message) const;
     /// Flushes the file to the disk and renames it. Throws HostError; the part is removed then.
     void commit();
 

@@ -176,6 +176,12 @@ TEST_F(ExporterTest, AWriterThatCannotBeOpenedLeavesNothing) {
     expectNothingWritten();
 }
 
+TEST_F(ExporterTest, AWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
+    movies.failOpen = "The movie \"" + folder.path("movie.avi.part") + "\" has no encoder.";
+    EXPECT_FALSE(exporter.start());
+    EXPECT_EQ(exporter.failure(), "The movie \"" + folder.path("movie.avi") + "\" has no encoder.");
+}
+
 TEST_F(ExporterTest, AFirstPictureThatCannotBeDrawnLeavesNothing) {
     renderer.failAt = 1;
     EXPECT_FALSE(exporter.start());

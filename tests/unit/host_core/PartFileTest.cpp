@@ -39,6 +39,13 @@ TEST_F(PartFileTest, StandsBesideItsDestination) {
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4.part"));
 }
 
+TEST_F(PartFileTest, NamesItsDestinationInMessagesAboutItsPath) {
+    const PartFile file(folder.path("a.part"));
+    EXPECT_EQ(file.namingDestination("No room for " + file.path() + " (" + file.path() + ")."),
+              "No room for " + file.destination() + " (" + file.destination() + ").");
+    EXPECT_EQ(file.namingDestination("The disk is full."), "The disk is full.");
+}
+
 TEST_F(PartFileTest, DisappearsUnlessItIsCommitted) {
     folder.write("movie.mp4", "older");
     {
