@@ -108,6 +108,7 @@ void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> 
         leaf.maximum = maximum;
         leaf.effect = StyleEffect::None;
         leaf.isAllowed = isAllowed;
+        leaf.needs = "A movie is being recorded.";
         tree.bind(std::move(leaf));
     };
     bind("ExportFormat", &setup.format, 0, std::numeric_limits<int>::max());

@@ -3,6 +3,7 @@
 
 #include "host/core/FrameStyles.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane::host {
@@ -15,7 +16,11 @@ Frame::Frame(long id, Placement where) : placement(where), m_id(id) {
     const auto isVector = [this](const std::string& name) {
         return name.empty() || !m_data || m_data->findVector(name) != nullptr;
     };
-    bindPlotStyles(m_styles, style, isQuantity, isVector);
+    const auto mayHaveVectors = [this] {
+        return !m_data || std::any_of(m_data->variables.begin(), m_data->variables.end(),
+                                      [](const Variable& v) { return v.components == 3; });
+    };
+    bindPlotStyles(m_styles, style, {isQuantity, isVector, mayHaveVectors});
 }
 
 void Frame::attachData(std::shared_ptr<const DataSet> data) {

@@ -40,10 +40,18 @@ public:
                 double maximum = unlimited) const {
         bind(ranged(leaf(keyword, &value), minimum, maximum));
     }
-    void positiveWhile(const std::string& keyword, double& value,
-                       std::function<bool()> isAllowed) const {
+    void positiveWhile(const std::string& keyword, double& value, std::function<bool()> isAllowed,
+                       const char* needs) const {
         StyleLeaf bound = ranged(leaf(keyword, &value), leastPositive, unlimited);
         bound.isAllowed = std::move(isAllowed);
+        bound.needs = needs;
+        bind(std::move(bound));
+    }
+    void flagWhile(const std::string& keyword, bool& value, std::function<bool()> isAllowed,
+                   const char* needs) const {
+        StyleLeaf bound = leaf(keyword, &value);
+        bound.isAllowed = std::move(isAllowed);
+        bound.needs = needs;
         bind(std::move(bound));
     }
     void point(const std::string& keyword, Vec3& value) const {
@@ -121,10 +129,11 @@ void bindIsoSurface(const Group& group, IsoSurfaceStyle& surface, const NameChec
     group.number("Opacity", surface.opacity, 0.0, 1.0);
 }
 
-void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces, const NameCheck& isVector) {
+void bindStreamtraces(StyleTree& tree, StreamtraceStyle& traces, const DataChecks& data) {
     const Group group(tree, {"Streamtraces"});
-    group.flag("Show", traces.show);
-    group.name("Variable", traces.variable, isVector);
+    group.flagWhile("Show", traces.show, data.mayHaveVectors,
+                    "Streamtraces follow a vector variable, and the data have none.");
+    group.name("Variable", traces.variable, data.isVector);
     group.integer("SeedKind", traces.seedKind, 1, 3);
     group.point("SeedStart", traces.seedStart);
     group.point("SeedEnd", traces.seedEnd);
@@ -180,22 +189,23 @@ void bindViewStyles(StyleTree& tree, View3D& view) {
     group.number("AlphaAngle", view.alpha);
     group.point("ViewerPosition", view.position);
     group.flag("DrawInPerspective", view.perspective);
-    group.positiveWhile("ViewWidth", view.width, [&view] { return !view.perspective; });
+    group.positiveWhile(
+        "ViewWidth", view.width, [&view] { return !view.perspective; },
+        "Switch perspective off first.");
     group.number("FieldOfView", view.fieldOfView, 0.1, 179.0);
     group.point("RotationOrigin", view.rotationOrigin);
 }
 
-void bindPlotStyles(StyleTree& tree, FrameStyle& style, const NameCheck& isQuantity,
-                    const NameCheck& isVector) {
+void bindPlotStyles(StyleTree& tree, FrameStyle& style, const DataChecks& data) {
     bindLight(tree, style.light);
     bindStreamTiming(tree, style.streamTiming);
-    bindContour(tree, style.contour, isQuantity);
+    bindContour(tree, style.contour, data.isQuantity);
     bindNumbered(Group(tree, {"Slice"}), style.slices, bindSlice);
     bindNumbered(Group(tree, {"IsoSurface"}), style.isoSurfaces,
-                 [&isQuantity](const Group& group, IsoSurfaceStyle& surface) {
-                     bindIsoSurface(group, surface, isQuantity);
+                 [&data](const Group& group, IsoSurfaceStyle& surface) {
+                     bindIsoSurface(group, surface, data.isQuantity);
                  });
-    bindStreamtraces(tree, style.streamtraces, isVector);
+    bindStreamtraces(tree, style.streamtraces, data);
     bindAnnotations(tree, style.annotations);
 }
 

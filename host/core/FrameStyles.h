@@ -13,10 +13,15 @@ void bindViewStyles(StyleTree& tree, View3D& view);
 /// Answers whether a text names something of the data.
 using NameCheck = std::function<bool(const std::string&)>;
 
-/// All paths outside of the view but "Surface" n. Names of quantities and vectors are checked
-/// before they are written.
-void bindPlotStyles(StyleTree& tree, FrameStyle& style, const NameCheck& isQuantity,
-                    const NameCheck& isVector);
+/// What values are asked of the data before they are written.
+struct DataChecks {
+    NameCheck isQuantity;
+    NameCheck isVector;
+    std::function<bool()> mayHaveVectors; ///< true while there are no data
+};
+
+/// All paths outside of the view but "Surface" n.
+void bindPlotStyles(StyleTree& tree, FrameStyle& style, const DataChecks& data);
 
 /// "Surface" n for each of the surfaces, n from 1 on; replaces the ones bound before. To be called
 /// again whenever the vector was resized.

@@ -18,7 +18,8 @@ struct InputFrom {
     StyleInput operator()(const std::string*) const { return text; }
 };
 
-void checkWritten(StyleSetResult_e result, const std::string& path, const std::string& value) {
+void checkWritten(StyleSetResult_e result, const StyleLeaf& leaf, const std::string& path,
+                  const std::string& value) {
     switch (result) {
     case StyleSet_Ok:
     case StyleSet_Unchanged:
@@ -28,7 +29,7 @@ void checkWritten(StyleSetResult_e result, const std::string& path, const std::s
     case StyleSet_BadValue:
         reject(path + " cannot be \"" + value + "\".");
     case StyleSet_NotAllowed:
-        reject(path + " cannot be set in the present state.");
+        reject(path + " cannot be set now. " + leaf.needs);
     }
 }
 
@@ -59,21 +60,22 @@ void setStyle(const MacroCall& call) {
         reject("There is no value " + words[0] + ".");
     }
     const StyleInput value = std::visit(InputFrom{words[2]}, leaf->target);
-    checkWritten(call.application.setStyle(path, value), words[0], words[2]);
+    checkWritten(call.application.setStyle(path, value), *leaf, words[0], words[2]);
 }
 
 void setUpExport(const MacroCall& call) {
     const std::vector<std::string>& words = call.words;
     expect(words.size() == 3 && words[1] == "=", "name = value");
     const StylePath path{"ExportSetup", words[0]};
-    if (call.application.findStyle(path) == nullptr) {
+    const StyleLeaf* leaf = call.application.findStyle(path);
+    if (leaf == nullptr) {
         reject("There is no export setting " + words[0] + ".");
     }
     const std::optional<StyleInput> value = exportSettingFromText(words[0], words[2]);
     if (!value) {
         reject(words[0] + " cannot be \"" + words[2] + "\".");
     }
-    checkWritten(call.application.setStyle(path, *value), words[0], words[2]);
+    checkWritten(call.application.setStyle(path, *value), *leaf, words[0], words[2]);
 }
 
 } // namespace corvane::host

@@ -108,7 +108,7 @@ std::string styleTable() {
     StyleTree tree;
     const auto any = [](const std::string&) { return true; };
     bindViewStyles(tree, view);
-    bindPlotStyles(tree, style, any, any);
+    bindPlotStyles(tree, style, {any, any, {}});
     bindSurfaceStyles(tree, style.surfaces);
     std::string text = "| Path | Value |\n|---|---|\n";
     for (const StyleLeaf& leaf : withFirstNumberOnly(tree.leaves())) {

@@ -30,6 +30,7 @@ struct StyleLeaf {
     double maximum = std::numeric_limits<double>::max();
     StyleEffect effect = StyleEffect::Picture;
     std::function<bool()> isAllowed;                 ///< empty: always
+    std::string needs;                               ///< what isAllowed asks for, as a sentence
     std::vector<std::string> choices;                ///< texts a text leaf may take; empty: any
     std::function<bool(const std::string&)> accepts; ///< asked before a text is written; empty: any
 };

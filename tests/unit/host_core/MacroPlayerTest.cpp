@@ -103,6 +103,16 @@ TEST_F(MacroPlayerTest, StylesThatCannotBeSetNameTheirPath) {
     }
 }
 
+TEST_F(MacroPlayerTest, StylesThatCannotBeSetNowTellWhatTheyNeed) {
+    host.reader.data->variables = {{"p", 1, 0.0, 1.0}};
+    play("$!READDATA x\n");
+    EXPECT_EQ(causeOf("$!STYLE Streamtraces/Show = true"),
+              "Streamtraces/Show cannot be set now. Streamtraces follow a vector variable, and the "
+              "data have none.");
+    EXPECT_EQ(causeOf("$!STYLE ThreeDView/ViewWidth = 2"),
+              "ThreeDView/ViewWidth cannot be set now. Switch perspective off first.");
+}
+
 TEST_F(MacroPlayerTest, StylesOfAFrameNeedOne) {
     EXPECT_THAT(causeOf("$!STYLE Slice/1/Show = true"), HasSubstr("Slice/1/Show"));
 }
@@ -424,7 +434,7 @@ TEST_F(MacroPlayerMovieTest, NoCommandRunsWhileAMovieIsRecorded) {
     ASSERT_TRUE(app.exporter().start());
     EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
     EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 9"),
-              "ImageWidth cannot be set in the present state.");
+              "ImageWidth cannot be set now. A movie is being recorded.");
     EXPECT_TRUE(app.exporter().isRecording());
 }
 
