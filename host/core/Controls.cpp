@@ -186,7 +186,7 @@ void Controls::select(List& list, std::vector<long> positions) {
     std::erase_if(positions,
                   [&](long position) { return !hasPosition(list.rows.size(), position); });
     if (!list.isMulti && positions.size() > 1) {
-        positions.resize(1);
+        positions.erase(positions.begin() + 1, positions.end());
     }
     std::sort(positions.begin(), positions.end());
     positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
