@@ -1,34 +1,26 @@
 // Chooses how a movie is written.
 #include "host/movie/LibavMovieWriters.h"
 
+#include "host/movie/AviFormat.h"
 #include "host/movie/EncoderThread.h"
+#include "host/movie/FlvFormat.h"
 #include "host/movie/FrameRate.h"
 #include "host/movie/LibavCheck.h"
 #include "host/movie/LibavLog.h"
-#include "host/movie/Mpeg4Movie.h"
+#include "host/movie/Mpeg4Format.h"
+#include "host/movie/RasterMetafileFormat.h"
+#include "host/movie/SwfFormat.h"
+#include "host/movie/WmvFormat.h"
 
-#include <string>
+#include <iostream>
+#include <utility>
 
 namespace corvane::movie {
 
 namespace {
 
-std::string formatName(ExportFormat_e format) {
-    switch (format) {
-    case ExportFormat_RasterMetafile:
-        return "Raster metafile";
-    case ExportFormat_AVI:
-        return "AVI";
-    case ExportFormat_FlashSWF:
-        return "Flash (.swf)";
-    case ExportFormat_FlashFLV:
-        return "Flash video (.flv)";
-    case ExportFormat_MPEG4:
-        return "MPEG-4";
-    case ExportFormat_WMV:
-        return "Windows Media";
-    }
-    return "Such";
+void logOnStandardError(const std::string& note) {
+    std::clog << "corvane: " + note + "\n" << std::flush;
 }
 
 void checkSpeed(const host::MovieRequest& request) {
@@ -41,20 +33,38 @@ void checkSpeed(const host::MovieRequest& request) {
               " frames per second; choose 0.001 to 200");
 }
 
-std::unique_ptr<PictureSink> openSink(const host::MovieRequest& request) {
-    if (request.format != ExportFormat_MPEG4)
-        LibavCheck(request.path)
-            .fail(formatName(request.format) +
-                  " movies cannot be written by this version; choose MPEG-4 (.mp4)");
-    return std::make_unique<Mpeg4Movie>(request);
+std::unique_ptr<MovieFormat> formatOf(const host::MovieRequest& request) {
+    switch (request.format) {
+    case ExportFormat_AVI:
+        return std::make_unique<AviFormat>();
+    case ExportFormat_FlashFLV:
+        return std::make_unique<FlvFormat>();
+    case ExportFormat_FlashSWF:
+        return std::make_unique<SwfFormat>();
+    case ExportFormat_MPEG4:
+        return std::make_unique<Mpeg4Format>();
+    case ExportFormat_RasterMetafile:
+        return std::make_unique<RasterMetafileFormat>();
+    case ExportFormat_WMV:
+        return std::make_unique<WmvFormat>();
+    }
+    LibavCheck(request.path)
+        .fail("format " + std::to_string(request.format) +
+              " holds no movies; choose AVI, FLV, Flash, MPEG-4, WMV or raster metafile");
 }
 
 } // namespace
 
+LibavMovieWriters::LibavMovieWriters() : LibavMovieWriters(logOnStandardError) {}
+
+LibavMovieWriters::LibavMovieWriters(Log log) : m_log(std::move(log)) {}
+
 std::unique_ptr<host::MovieWriter> LibavMovieWriters::open(const host::MovieRequest& request) {
     captureLibavLog();
     checkSpeed(request);
-    std::unique_ptr<PictureSink> sink = openSink(request);
+    std::unique_ptr<PictureSink> sink = formatOf(request)->open(request);
+    if (const std::string note = sink->note(); !note.empty())
+        m_log(note);
     return std::make_unique<EncoderThread>(std::move(sink),
                                            mostWaitingPictures(request.width, request.height));
 }

@@ -2,6 +2,8 @@
 #include "host/movie/MovieFile.h"
 
 #include "host/movie/FrameRate.h"
+#include "host/movie/SizeCheck.h"
+#include "host/movie/SizeText.h"
 
 #include <memory>
 #include <string>
@@ -14,23 +16,11 @@ struct CodecParametersDeleter {
     void operator()(AVCodecParameters* parameters) const { avcodec_parameters_free(&parameters); }
 };
 
-const LibavCheck& checkedSize(const host::MovieRequest& request, const EncoderSettings& settings,
-                              const LibavCheck& check) {
-    const auto fits = [&](int side) { return side >= 1 && side <= settings.largestSide; };
-    if (!fits(request.width) || !fits(request.height))
-        check.fail("its pictures would have " + std::to_string(request.width) + " x " +
-                   std::to_string(request.height) +
-                   " pixels; choose an image width that leads to " + "1 to " +
-                   std::to_string(settings.largestSide) + " pixels in both directions");
-    return check;
-}
-
 VideoShape videoShape(const PictureConverter& converter, const OutputContainer& container,
-                      AVPixelFormat pixelFormat, AVRational rate) {
+                      AVRational rate) {
     VideoShape shape;
     shape.width = converter.frameWidth();
     shape.height = converter.frameHeight();
-    shape.pixelFormat = pixelFormat;
     shape.rate = rate;
     shape.headerApart = container.keepsHeaderApart();
     return shape;
@@ -50,21 +40,33 @@ void begin(OutputContainer& container, const AVCodecContext& encoder, const Liba
 
 } // namespace
 
-MovieFile::MovieFile(const host::MovieRequest& request, const MovieFormat& format)
-    : MovieFile(request, format, availableEncoder(format, LibavCheck(request.path)),
+MovieFile::MovieFile(const host::MovieRequest& request, const VideoSettings& settings)
+    : MovieFile(request, settings, availableEncoder(settings, LibavCheck(request.path)),
                 LibavCheck(request.path)) {}
 
-MovieFile::MovieFile(const host::MovieRequest& request, const MovieFormat& format,
-                     const EncoderSettings& settings, const LibavCheck& check)
-    : m_check(checkedSize(request, settings, check)),
-      m_converter(request.width, request.height, format.pixelFormat, check),
-      m_container(format.container, check),
-      m_encoder(settings,
-                videoShape(m_converter, m_container, format.pixelFormat,
-                           frameRate(request.framesPerSecond, settings.largestRateTerm)),
+MovieFile::MovieFile(const host::MovieRequest& request, const VideoSettings& settings,
+                     const EncoderSettings& encoder, const LibavCheck& check)
+    : m_check(checkedSize(request, encoder.largestSide, check)),
+      m_width(request.width),
+      m_height(request.height),
+      m_converter(request.width, request.height, encoder.frames, check),
+      m_container(settings.container, check),
+      m_encoder(encoder,
+                videoShape(m_converter, m_container,
+                           frameRate(request.framesPerSecond, encoder.largestRateTerm)),
                 check),
       m_store([this](AVPacket* packet) { m_container.write(packet); }) {
-    begin(m_container, m_encoder.context(), format.containerOptions, check);
+    begin(m_container, m_encoder.context(), settings.containerOptions, check);
+}
+
+std::string MovieFile::note() const {
+    const int width = m_converter.frameWidth();
+    const int height = m_converter.frameHeight();
+    if (width == m_width && height == m_height)
+        return {};
+    return "The pictures of the movie have " + sizeText(width, height) + " pixels instead of " +
+           sizeText(m_width, m_height) +
+           ", since its format takes only even sizes; the last column or row is repeated.";
 }
 
 void MovieFile::write(const host::Picture& picture) {

@@ -3,27 +3,32 @@
 
 #include "host/core/Ports.h"
 #include "host/movie/LibavCheck.h"
-#include "host/movie/MovieFormat.h"
 #include "host/movie/OutputContainer.h"
 #include "host/movie/PictureConverter.h"
 #include "host/movie/PictureSink.h"
 #include "host/movie/VideoEncoder.h"
+#include "host/movie/VideoSettings.h"
+
+#include <string>
 
 namespace corvane::movie {
 
 class MovieFile : public PictureSink {
 public:
     /// Starts the encoder and makes the file. Throws HostError.
-    MovieFile(const host::MovieRequest& request, const MovieFormat& format);
+    MovieFile(const host::MovieRequest& request, const VideoSettings& settings);
 
+    std::string note() const override;
     void write(const host::Picture& picture) override;
     void finish() override;
 
 private:
-    MovieFile(const host::MovieRequest& request, const MovieFormat& format,
-              const EncoderSettings& settings, const LibavCheck& check);
+    MovieFile(const host::MovieRequest& request, const VideoSettings& settings,
+              const EncoderSettings& encoder, const LibavCheck& check);
 
     LibavCheck m_check;
+    int m_width;
+    int m_height;
     PictureConverter m_converter;
     OutputContainer m_container;
     VideoEncoder m_encoder;

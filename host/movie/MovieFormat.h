@@ -1,30 +1,19 @@
-// What makes one kind of movie file different from another.
+// One entry of the menu of movie formats.
 #pragma once
 
-#include "host/movie/LibavOptions.h"
+#include "host/core/Ports.h"
+#include "host/movie/PictureSink.h"
 
-extern "C" {
-#include <libavutil/pixfmt.h>
-}
-
-#include <string>
-#include <vector>
+#include <memory>
 
 namespace corvane::movie {
 
-/// One way to compress the pictures of a format.
-struct EncoderSettings {
-    std::string encoder; ///< libav's name
-    LibavOptions options;
-    int largestSide = 0;     ///< pixels; what the encoder takes at most as width or height
-    int largestRateTerm = 0; ///< of the fraction that the speed is stored as
-};
-
-struct MovieFormat {
-    std::string container;                 ///< libav's name
-    LibavOptions containerOptions;         ///< while it is written
-    std::vector<EncoderSettings> encoders; ///< the first one that this libav has is used
-    AVPixelFormat pixelFormat = AV_PIX_FMT_NONE;
+class MovieFormat {
+public:
+    virtual ~MovieFormat() = default;
+    /// Starts a movie as the request's options for this format say. Throws HostError when such a
+    /// movie cannot be written.
+    virtual std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const = 0;
 };
 
 } // namespace corvane::movie

@@ -1,13 +1,12 @@
 // An MPEG-4 movie being written.
 #include "host/movie/Mpeg4Movie.h"
 
-#include "host/movie/Mpeg4Format.h"
 #include "host/movie/PlainMp4.h"
 
 namespace corvane::movie {
 
-Mpeg4Movie::Mpeg4Movie(const host::MovieRequest& request)
-    : m_path(request.path), m_file(request, mpeg4Format()) {}
+Mpeg4Movie::Mpeg4Movie(const host::MovieRequest& request, const VideoSettings& settings)
+    : m_path(request.path), m_file(request, settings) {}
 
 void Mpeg4Movie::finish() {
     m_file.finish();

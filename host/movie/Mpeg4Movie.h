@@ -11,8 +11,9 @@ namespace corvane::movie {
 /// it is finished, for the widest choice of players.
 class Mpeg4Movie : public PictureSink {
 public:
-    explicit Mpeg4Movie(const host::MovieRequest& request);
+    Mpeg4Movie(const host::MovieRequest& request, const VideoSettings& settings);
 
+    std::string note() const override { return m_file.note(); }
     void write(const host::Picture& picture) override { m_file.write(picture); }
     void finish() override;
 

@@ -1,6 +1,8 @@
 // Converts colours with swscale.
 #include "host/movie/PictureConverter.h"
 
+#include "host/movie/PictureCheck.h"
+
 extern "C" {
 #include <libavutil/opt.h>
 #include <libavutil/pixdesc.h>
@@ -8,7 +10,6 @@ extern "C" {
 
 #include <algorithm>
 #include <cstring>
-#include <string>
 
 namespace corvane::movie {
 
@@ -20,10 +21,6 @@ int roundedUp(int size, int shift) {
     return (size + group - 1) / group * group;
 }
 
-std::string sizeText(int width, int height) {
-    return std::to_string(width) + " x " + std::to_string(height);
-}
-
 /// Repeats the last of the pixels that a row has until the row is full.
 void repeatLastPixel(std::uint8_t* row, std::ptrdiff_t pixels, std::ptrdiff_t wanted) {
     for (std::ptrdiff_t x = pixels; x < wanted; ++x)
@@ -32,16 +29,17 @@ void repeatLastPixel(std::uint8_t* row, std::ptrdiff_t pixels, std::ptrdiff_t wa
 
 } // namespace
 
-PictureConverter::PictureConverter(int width, int height, AVPixelFormat format,
+PictureConverter::PictureConverter(int width, int height, const FrameKind& kind,
                                    const LibavCheck& check)
-    : m_check(check), m_width(width), m_height(height) {
+    : m_check(check), m_width(width), m_height(height), m_kind(kind) {
     int shiftX = 0;
     int shiftY = 0;
-    check(av_pix_fmt_get_chroma_sub_sample(format, &shiftX, &shiftY), "choosing a pixel format");
+    check(av_pix_fmt_get_chroma_sub_sample(kind.pixelFormat, &shiftX, &shiftY),
+          "choosing a pixel format");
     const int frameWidth = roundedUp(width, shiftX);
     const int frameHeight = roundedUp(height, shiftY);
     m_source = makeFrame(frameWidth, frameHeight, AV_PIX_FMT_RGBA);
-    m_frame = makeFrame(frameWidth, frameHeight, format);
+    m_frame = makeFrame(frameWidth, frameHeight, kind.pixelFormat);
     makeScaler();
 }
 
@@ -54,11 +52,12 @@ FrameHandle PictureConverter::makeFrame(int width, int height, AVPixelFormat for
     return frame;
 }
 
+void PictureConverter::set(const char* name, std::int64_t value) {
+    m_check(av_opt_set_int(m_scaler.get(), name, value, 0), "setting up the colours");
+}
+
 void PictureConverter::makeScaler() {
     m_scaler.reset(m_check.made(sws_alloc_context()));
-    const auto set = [this](const char* name, std::int64_t value) {
-        m_check(av_opt_set_int(m_scaler.get(), name, value, 0), "setting up the colours");
-    };
     set("srcw", m_source->width);
     set("srch", m_source->height);
     set("src_format", m_source->format);
@@ -66,18 +65,33 @@ void PictureConverter::makeScaler() {
     set("dstw", m_frame->width);
     set("dsth", m_frame->height);
     set("dst_format", m_frame->format);
-    set("dst_range", 0);
-    // Colours shared between pixels sit where the encoders' streams say: at the left one of two.
-    set("dst_h_chr_pos", 0);
-    set("dst_v_chr_pos", 128);
+    set("dst_range", rangeOf(m_kind.colors) == AVCOL_RANGE_JPEG ? 1 : 0);
+    placeSharedColors();
     // Without the full chroma input pairs of pixels would be averaged first, which places their
     // colour between them all the same.
     set("sws_flags", SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INP);
     m_check(sws_init_context(m_scaler.get(), nullptr, nullptr), "setting up the colours");
+    chooseMatrix();
+}
 
-    const int* coefficients = sws_getCoefficients(SWS_CS_ITU709);
+void PictureConverter::placeSharedColors() {
+    if (m_kind.pixelFormat != AV_PIX_FMT_YUV420P)
+        return; // every pixel has a colour of its own
+    // They sit where the encoders' streams say: at the left one of two, between two rows.
+    set("dst_h_chr_pos", 0);
+    set("dst_v_chr_pos", 128);
+}
+
+void PictureConverter::chooseMatrix() {
+    const AVColorSpace matrix = matrixOf(m_kind.colors, m_height);
+    if (matrix == AVCOL_SPC_RGB)
+        return; // colours are moved, not calculated
+    const int* coefficients =
+        sws_getCoefficients(matrix == AVCOL_SPC_BT709 ? SWS_CS_ITU709 : SWS_CS_ITU601);
     const int one = 1 << 16; // of the fixed-point contrast and saturation
-    m_check(sws_setColorspaceDetails(m_scaler.get(), coefficients, 1, coefficients, 0, 0, one, one),
+    const int fullRange = rangeOf(m_kind.colors) == AVCOL_RANGE_JPEG ? 1 : 0;
+    m_check(sws_setColorspaceDetails(m_scaler.get(), coefficients, 1, coefficients, fullRange, 0,
+                                     one, one),
             "setting up the colours");
 }
 
@@ -85,18 +99,14 @@ void PictureConverter::copyPadded(const host::Picture& picture) {
     const std::size_t rowBytes = 4U * static_cast<std::size_t>(m_width);
     for (int y = 0; y < m_source->height; ++y) {
         std::uint8_t* row = m_source->data[0] + std::ptrdiff_t{y} * m_source->linesize[0];
-        std::memcpy(row, picture.row(std::min(y, m_height - 1)), rowBytes);
+        const int from = std::min(y, m_height - 1);
+        std::memcpy(row, picture.row(m_kind.bottomUp ? m_height - 1 - from : from), rowBytes);
         repeatLastPixel(row, m_width, m_source->width);
     }
 }
 
 AVFrame* PictureConverter::convert(const host::Picture& picture) {
-    const std::size_t bytes =
-        4U * static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height);
-    if (picture.width != m_width || picture.height != m_height || picture.rgba.size() != bytes)
-        m_check.fail("a picture of " + sizeText(picture.width, picture.height) +
-                     " pixels came into a movie of " + sizeText(m_width, m_height) +
-                     "; keep the size while a movie is written");
+    checkPicture(picture, m_width, m_height, m_check);
     copyPadded(picture);
     // An encoder may still hold the frame before.
     m_check(av_frame_make_writable(m_frame.get()), "making room for a picture");

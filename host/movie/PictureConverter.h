@@ -4,16 +4,18 @@
 #include "host/core/Picture.h"
 #include "host/movie/LibavCheck.h"
 #include "host/movie/LibavHandles.h"
+#include "host/movie/VideoSettings.h"
+
+#include <cstdint>
 
 namespace corvane::movie {
 
-/// Serves a whole movie. The colours follow BT.709 in limited range: what players expect of a video
-/// whatever its size, once the video says so.
+/// Serves a whole movie.
 class PictureConverter {
 public:
     /// The size is that of the pictures. Where the pixel format shares colours between pixels the
     /// frames are larger by a repeated last column or row, so that they hold whole groups of them.
-    PictureConverter(int width, int height, AVPixelFormat format, const LibavCheck& check);
+    PictureConverter(int width, int height, const FrameKind& kind, const LibavCheck& check);
 
     int frameWidth() const { return m_frame->width; }
     int frameHeight() const { return m_frame->height; }
@@ -23,12 +25,16 @@ public:
 
 private:
     FrameHandle makeFrame(int width, int height, AVPixelFormat format) const;
+    void set(const char* name, std::int64_t value);
     void makeScaler();
+    void placeSharedColors();
+    void chooseMatrix();
     void copyPadded(const host::Picture& picture);
 
     LibavCheck m_check;
     int m_width;
     int m_height;
+    FrameKind m_kind;
     FrameHandle m_source; ///< aligned and padded the way swscale likes to read it
     FrameHandle m_frame;
     ScalerHandle m_scaler;

@@ -15,6 +15,7 @@ VideoEncoder::VideoEncoder(const EncoderSettings& settings, const VideoShape& sh
         m_check.fail("this libav has no encoder \"" + settings.encoder + "\"");
     m_context.reset(m_check.made(avcodec_alloc_context3(codec)));
     setShape(shape);
+    setColors(settings.frames);
     LibavDictionary options(settings.options, m_check);
     m_check(avcodec_open2(m_context.get(), codec, options.get()), "starting the encoder");
     options.requireAllUsed(m_check);
@@ -23,20 +24,24 @@ VideoEncoder::VideoEncoder(const EncoderSettings& settings, const VideoShape& sh
 void VideoEncoder::setShape(const VideoShape& shape) {
     m_context->width = shape.width;
     m_context->height = shape.height;
-    m_context->pix_fmt = shape.pixelFormat;
     m_context->sample_aspect_ratio = AVRational{1, 1};
     m_context->framerate = shape.rate;
     m_context->time_base = av_inv_q(shape.rate);
     m_context->gop_size = picturesPerGroup(shape.rate);
     m_context->thread_count = 0; // as many as there are cores
-    // Players guess, and guess differently, what is not said.
-    m_context->color_range = AVCOL_RANGE_MPEG;
-    m_context->colorspace = AVCOL_SPC_BT709;
-    m_context->color_primaries = AVCOL_PRI_BT709;
-    m_context->color_trc = AVCOL_TRC_BT709;
-    m_context->chroma_sample_location = AVCHROMA_LOC_LEFT;
     if (shape.headerApart)
         m_context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+}
+
+/// Players guess, and guess differently, what is not said.
+void VideoEncoder::setColors(const FrameKind& frames) {
+    m_context->pix_fmt = frames.pixelFormat;
+    m_context->color_range = rangeOf(frames.colors);
+    m_context->colorspace = matrixOf(frames.colors, m_context->height);
+    m_context->color_primaries = AVCOL_PRI_BT709;
+    m_context->color_trc = AVCOL_TRC_BT709;
+    if (frames.pixelFormat == AV_PIX_FMT_YUV420P)
+        m_context->chroma_sample_location = AVCHROMA_LOC_LEFT;
 }
 
 void VideoEncoder::encode(AVFrame* frame, const PacketTaker& taker) {
@@ -61,12 +66,12 @@ void VideoEncoder::send(AVFrame* frame, const PacketTaker& taker) {
     }
 }
 
-const EncoderSettings& availableEncoder(const MovieFormat& format, const LibavCheck& check) {
-    for (const EncoderSettings& settings : format.encoders) {
-        if (avcodec_find_encoder_by_name(settings.encoder.c_str()))
-            return settings;
+const EncoderSettings& availableEncoder(const VideoSettings& settings, const LibavCheck& check) {
+    for (const EncoderSettings& encoder : settings.encoders) {
+        if (avcodec_find_encoder_by_name(encoder.encoder.c_str()))
+            return encoder;
     }
-    check.fail("this libav has no encoder \"" + format.encoders.front().encoder +
+    check.fail("this libav has no encoder \"" + settings.encoders.front().encoder +
                "\"; install a libav that has it");
 }
 

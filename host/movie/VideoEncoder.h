@@ -3,7 +3,7 @@
 
 #include "host/movie/LibavCheck.h"
 #include "host/movie/LibavHandles.h"
-#include "host/movie/MovieFormat.h"
+#include "host/movie/VideoSettings.h"
 
 #include <functional>
 
@@ -13,7 +13,6 @@ namespace corvane::movie {
 struct VideoShape {
     int width = 0;
     int height = 0;
-    AVPixelFormat pixelFormat = AV_PIX_FMT_NONE;
     AVRational rate{0, 1};
     bool headerApart = false; ///< the container keeps the stream's header, not the packets
 };
@@ -35,6 +34,7 @@ public:
 
 private:
     void setShape(const VideoShape& shape);
+    void setColors(const FrameKind& frames);
     void send(AVFrame* frame, const PacketTaker& taker);
 
     LibavCheck m_check;
@@ -43,7 +43,7 @@ private:
     std::int64_t m_frames = 0;
 };
 
-/// The first of the format's encoders that this libav has. Throws HostError when it has none.
-const EncoderSettings& availableEncoder(const MovieFormat& format, const LibavCheck& check);
+/// The first of the encoders that this libav has. Throws HostError when it has none.
+const EncoderSettings& availableEncoder(const VideoSettings& settings, const LibavCheck& check);
 
 } // namespace corvane::movie

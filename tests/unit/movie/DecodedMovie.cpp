@@ -57,7 +57,7 @@ Number numberOr0(const std::string& text) {
 
 } // namespace
 
-DecodedMovie::DecodedMovie(std::string path) : m_path(std::move(path)) {
+DecodedMovie::DecodedMovie(std::string path, MovieEnd end) : m_path(std::move(path)), m_end(end) {
     auto values = parsed(
         outputOf(std::string(CORVANE_FFPROBE) +
                  " -v error -select_streams v:0 -count_frames -show_streams -of default=nw=1 -i " +
@@ -77,7 +77,10 @@ DecodedMovie::DecodedMovie(std::string path) : m_path(std::move(path)) {
     colors = values["color_range"] + " " + values["color_space"] + " " + values["color_primaries"] +
              " " + values["color_transfer"];
     // ffmpeg of itself converts as if colours shared by two pixels belonged between them.
-    m_chromaPosition = values["chroma_location"] == "left" ? "0" : "-513";
+    m_colors = values["chroma_location"] == "left" ? "in_h_chr_pos=0:" : "";
+    // Where nothing is said, players take high pictures for BT.709, but ffmpeg takes none.
+    if (pixelFormat == "yuv420p" && values["color_space"] == "unknown" && height > 576)
+        m_colors += "in_color_matrix=bt709:";
     if (frames < 1)
         throw std::runtime_error("no picture in " + m_path);
 }
@@ -95,12 +98,13 @@ std::vector<host::Picture> DecodedMovie::pictures() const {
 
 std::vector<host::Picture> DecodedMovie::decode(const std::string& filter) const {
     // Any damage ends ffmpeg with an error; no picture is repeated or dropped to fit a rate.
-    const std::string bytes = outputOf(
-        std::string(CORVANE_FFMPEG) + " -nostdin -v error -xerror -err_detect explode -i " +
-        quotedForShell("file:" + m_path) + " -map 0:v:0 -vf " +
-        quotedForShell(filter + ",scale=in_h_chr_pos=" + m_chromaPosition +
-                       ":flags=bicubic+accurate_rnd+full_chroma_int") +
-        " -vsync passthrough -pix_fmt rgba -f rawvideo -");
+    const std::string bytes =
+        outputOf(std::string(CORVANE_FFMPEG) + " -nostdin -v error " +
+                 (m_end == MovieEnd::Complete ? "-xerror -err_detect explode" : "") + " -i " +
+                 quotedForShell("file:" + m_path) + " -map 0:v:0 -vf " +
+                 quotedForShell(filter + ",scale=" + m_colors +
+                                "flags=bicubic+accurate_rnd+full_chroma_int") +
+                 " -vsync passthrough -pix_fmt rgba -f rawvideo -");
     const std::size_t size =
         4U * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     std::vector<host::Picture> pictures;
@@ -111,6 +115,18 @@ std::vector<host::Picture> DecodedMovie::decode(const std::string& filter) const
         picture.rgba.assign(bytes.data() + at, bytes.data() + at + size);
     }
     return pictures;
+}
+
+std::vector<double> DecodedMovie::times() const {
+    std::istringstream lines(
+        outputOf(std::string(CORVANE_FFPROBE) +
+                 " -v error -select_streams v:0 -show_entries frame=best_effort_timestamp_time"
+                 " -of default=nw=1:nk=1 -i " +
+                 quotedForShell("file:" + m_path)));
+    std::vector<double> found;
+    for (double time = 0.0; lines >> time;)
+        found.push_back(time);
+    return found;
 }
 
 double psnr(const host::Picture& a, const host::Picture& b) {

@@ -8,10 +8,13 @@
 
 namespace corvane::movie_test {
 
+/// Whether a movie may end in the middle of a picture.
+enum class MovieEnd { Complete, CutOff };
+
 class DecodedMovie {
 public:
     /// Decodes the movie once to count its pictures. Throws std::runtime_error when that fails.
-    explicit DecodedMovie(std::string path);
+    explicit DecodedMovie(std::string path, MovieEnd end = MovieEnd::Complete);
 
     int width = 0;          ///< pixels
     int height = 0;         ///< pixels
@@ -30,12 +33,15 @@ public:
     host::Picture picture(long n) const;
     /// All pictures, decoded at once.
     std::vector<host::Picture> pictures() const;
+    /// When each picture is shown, in seconds.
+    std::vector<double> times() const;
 
 private:
     std::vector<host::Picture> decode(const std::string& filter) const;
 
     std::string m_path;
-    std::string m_chromaPosition; ///< for ffmpeg's scale filter
+    MovieEnd m_end;
+    std::string m_colors; ///< options of ffmpeg's scale filter
 };
 
 /// Peak signal-to-noise ratio in dB over red, green and blue: infinite for equal pictures. Throws

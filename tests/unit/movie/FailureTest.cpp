@@ -1,6 +1,8 @@
 // What goes wrong while a movie is written.
 #include "host/core/HostError.h"
+#include "host/core/PartFile.h"
 #include "host/movie/LibavMovieWriters.h"
+#include "tests/unit/movie/MovieKind.h"
 #include "tests/unit/movie/TestFolder.h"
 #include "tests/unit/movie/TestMovie.h"
 
@@ -13,6 +15,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <thread>
@@ -82,10 +85,70 @@ TEST(FullDiskDeathTest, isNoticedWithASinglePicture) {
         testing::ExitedWithCode(0), "all were taken; .*File too large while");
 }
 
-TEST(Failure, aPictureOfAnotherSizeIsReported) {
-    const TestFolder folder;
+/// As the exporter does it: the part goes when the writer fails.
+void writePartUntilItFails(const MovieKind& kind, const std::string& path, int frames) {
+    const host::PartFile part(path);
     movie::LibavMovieWriters writers;
-    const auto writer = writers.open(movieRequest(folder.path("movie.mp4"), 64, 48));
+    const auto writer = writers.open(movieRequest(kind, part.path(), 320, 240));
+    for (int n = 0; n < frames; ++n)
+        writer->add(noisyPicture(320, 240, n));
+    writer->finish();
+}
+
+[[noreturn]] void exitWithTheFailureOf(const MovieKind& kind, const std::string& path, rlim_t limit,
+                                       int frames) {
+    limitFileSize(limit);
+    try {
+        writePartUntilItFails(kind, path, frames);
+    } catch (const host::HostError& error) {
+        std::cerr << error.what() << std::endl;
+        std::_Exit(0);
+    }
+    std::_Exit(1);
+}
+
+class FullDiskOfAnyKindDeathTest : public testing::TestWithParam<MovieKind> {
+protected:
+    FullDiskOfAnyKindDeathTest() {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        std::ofstream(m_path) << "older";
+    }
+    void expectFailure(rlim_t limit, int frames) {
+        EXPECT_EXIT(exitWithTheFailureOf(GetParam(), m_path, limit, frames),
+                    testing::ExitedWithCode(0), "File too large while");
+        EXPECT_THAT(m_folder.names(), ElementsAre("movie"));
+        std::string content;
+        std::ifstream(m_path) >> content;
+        EXPECT_EQ(content, "older");
+    }
+
+    TestFolder m_folder;
+    std::string m_path = m_folder.path("movie");
+};
+
+TEST_P(FullDiskOfAnyKindDeathTest, isToldAndLeavesTheMovieThatWasThere) {
+    expectFailure(1'000'000, 100'000);
+}
+
+TEST_P(FullDiskOfAnyKindDeathTest, isNoticedWithASinglePicture) {
+    expectFailure(3'000, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, FullDiskOfAnyKindDeathTest, testing::ValuesIn(movieKinds()),
+                         nameOfKind);
+
+class FailureOfAnyKind : public testing::TestWithParam<MovieKind> {
+protected:
+    std::unique_ptr<host::MovieWriter> opened() {
+        movie::LibavMovieWriters writers;
+        return writers.open(movieRequest(GetParam(), m_folder.path("movie"), 64, 48));
+    }
+
+    TestFolder m_folder;
+};
+
+TEST_P(FailureOfAnyKind, aPictureOfAnotherSizeIsReported) {
+    const auto writer = opened();
     writer->add(movingPicture(64, 48, 0));
     writer->add(movingPicture(48, 64, 1));
     EXPECT_THAT([&] { writer->finish(); },
@@ -93,23 +156,21 @@ TEST(Failure, aPictureOfAnotherSizeIsReported) {
                                                          "64 x 48")));
 }
 
-TEST(Failure, aPictureWithoutAllItsBytesIsReported) {
-    const TestFolder folder;
-    movie::LibavMovieWriters writers;
-    const auto writer = writers.open(movieRequest(folder.path("movie.mp4"), 64, 48));
+TEST_P(FailureOfAnyKind, aPictureWithoutAllItsBytesIsReported) {
+    const auto writer = opened();
     host::Picture picture = movingPicture(64, 48, 0);
     picture.rgba.pop_back();
     writer->add(picture);
     EXPECT_THROW(writer->finish(), host::HostError);
 }
 
-TEST(Failure, aMovieWithoutPicturesIsReported) {
-    const TestFolder folder;
-    movie::LibavMovieWriters writers;
-    const auto writer = writers.open(movieRequest(folder.path("movie.mp4"), 64, 48));
+TEST_P(FailureOfAnyKind, aMovieWithoutPicturesIsReported) {
+    const auto writer = opened();
     EXPECT_THAT([&] { writer->finish(); },
                 ThrowsMessage<host::HostError>(HasSubstr("it has no pictures")));
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, FailureOfAnyKind, testing::ValuesIn(movieKinds()), nameOfKind);
 
 long threadsOfThisProcess() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"),

@@ -24,12 +24,12 @@ protected:
     std::string path() const { return m_folder.path("movie.mp4"); }
 
     TestFolder m_folder;
-    movie::MovieFormat m_format = movie::mpeg4Format();
+    movie::VideoSettings m_settings = movie::Mpeg4Format().settings({});
 };
 
 TEST_F(MovieFile, usesTheNextEncoderWhereTheFirstIsMissing) {
-    m_format.encoders.front().encoder = "an encoder that nobody has";
-    movie::MovieFile file(movieRequest(path(), 321, 240, 29.97), m_format);
+    m_settings.encoders.front().encoder = "an encoder that nobody has";
+    movie::MovieFile file(movieRequest(path(), 321, 240, 29.97), m_settings);
     for (int n = 0; n < 40; ++n)
         file.write(movingPicture(321, 240, n));
     file.finish();
@@ -43,9 +43,9 @@ TEST_F(MovieFile, usesTheNextEncoderWhereTheFirstIsMissing) {
 }
 
 TEST_F(MovieFile, takesTheSlowestAndTheFastestSpeedWithTheNextEncoder) {
-    m_format.encoders.erase(m_format.encoders.begin());
+    m_settings.encoders.erase(m_settings.encoders.begin());
     for (const double speed : {0.001, 199.999, 200.0}) {
-        movie::MovieFile file(movieRequest(path(), 64, 48, speed), m_format);
+        movie::MovieFile file(movieRequest(path(), 64, 48, speed), m_settings);
         file.write(movingPicture(64, 48, 0));
         file.write(movingPicture(64, 48, 1));
         file.finish();
@@ -54,21 +54,21 @@ TEST_F(MovieFile, takesTheSlowestAndTheFastestSpeedWithTheNextEncoder) {
 }
 
 TEST_F(MovieFile, saysWhichEncoderIsMissing) {
-    m_format.encoders.resize(1);
-    m_format.encoders.front().encoder = "an encoder that nobody has";
-    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+    m_settings.encoders.resize(1);
+    m_settings.encoders.front().encoder = "an encoder that nobody has";
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_settings); },
                 ThrowsMessage<host::HostError>(HasSubstr("an encoder that nobody has")));
 }
 
 TEST_F(MovieFile, refusesOptionsThatWouldHaveNoEffect) {
-    m_format.encoders.front().options.emplace_back("sharpness", "11");
-    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+    m_settings.encoders.front().options.emplace_back("sharpness", "11");
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_settings); },
                 ThrowsMessage<host::HostError>(HasSubstr("sharpness")));
 }
 
 TEST_F(MovieFile, passesOnWhatTheEncoderSays) {
-    m_format.encoders.front().options = {{"preset", "leisurely"}};
-    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_format); },
+    m_settings.encoders.front().options = {{"preset", "leisurely"}};
+    EXPECT_THAT([&] { movie::MovieFile(movieRequest(path(), 64, 48), m_settings); },
                 ThrowsMessage<host::HostError>(HasSubstr("leisurely")));
 }
 

@@ -2,6 +2,7 @@
 #include "host/movie/LibavMovieWriters.h"
 
 #include "host/core/HostError.h"
+#include "tests/unit/movie/MovieKind.h"
 #include "tests/unit/movie/TestFolder.h"
 #include "tests/unit/movie/TestMovie.h"
 
@@ -33,28 +34,56 @@ protected:
     TestFolder m_folder;
 };
 
-TEST_F(RefusedMovie, ofAnotherFormat) {
-    for (const ExportFormat_e format :
-         {ExportFormat_RasterMetafile, ExportFormat_AVI, ExportFormat_FlashSWF,
-          ExportFormat_FlashFLV, ExportFormat_WMV}) {
-        host::MovieRequest other = request();
-        other.format = format;
-        expectRefusal(other, HasSubstr("choose MPEG-4 (.mp4)"));
+TEST_F(RefusedMovie, ofAFormatThatHoldsNoMovies) {
+    host::MovieRequest other = request();
+    other.format = static_cast<ExportFormat_e>(2);
+    expectRefusal(other, HasSubstr("format 2 holds no movies"));
+}
+
+TEST_F(RefusedMovie, ofAFlashMovieSlowerThanItsClock) {
+    host::MovieRequest other = request();
+    other.format = ExportFormat_FlashSWF;
+    other.framesPerSecond = 0.0019;
+    expectRefusal(other, HasSubstr("1/256"));
+}
+
+class RefusedMovieKind : public RefusedMovie, public testing::WithParamInterface<MovieKind> {
+protected:
+    host::MovieRequest requestOf(int width, int height) const {
+        return movieRequest(GetParam(), m_folder.path("movie"), width, height);
+    }
+};
+
+TEST_P(RefusedMovieKind, ofAnImpossibleSize) {
+    for (const auto& [width, height] : {std::pair(0, 48), std::pair(64, 0), std::pair(-1, 48),
+                                        std::pair(64, -48), std::pair(2147483647, 2147483647)}) {
+        expectRefusal(requestOf(width, height),
+                      HasSubstr(std::to_string(width) + " x " + std::to_string(height)));
     }
 }
 
-TEST_F(RefusedMovie, ofAnImpossibleSize) {
-    for (const auto& [width, height] :
-         {std::pair(0, 48), std::pair(64, 0), std::pair(-1, 48), std::pair(64, -48),
-          std::pair(16385, 48), std::pair(64, 16385), std::pair(2147483647, 2147483647)}) {
-        host::MovieRequest other = request();
-        other.width = width;
-        other.height = height;
-        expectRefusal(other,
+TEST_P(RefusedMovieKind, ofASizeAboveItsLargest) {
+    const int largest = GetParam().largestSide;
+    if (largest == std::numeric_limits<int>::max())
+        GTEST_SKIP() << "the format has no such limit";
+    for (const auto& [width, height] : {std::pair(largest + 1, 48), std::pair(64, largest + 1)}) {
+        expectRefusal(requestOf(width, height),
                       AllOf(HasSubstr(std::to_string(width) + " x " + std::to_string(height)),
-                            HasSubstr("16384")));
+                            HasSubstr("1 to " + std::to_string(largest))));
     }
 }
+
+TEST_P(RefusedMovieKind, withMorePixelsThanCanBeHandled) {
+    expectRefusal(requestOf(16384, 16384), HasSubstr("260 million"));
+}
+
+TEST_P(RefusedMovieKind, inAFolderThatIsNotThere) {
+    host::MovieRequest other = requestOf(64, 48);
+    other.path = m_folder.path("missing/movie");
+    expectRefusal(other, AllOf(HasSubstr(other.path), HasSubstr("No such file or directory")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, RefusedMovieKind, testing::ValuesIn(movieKinds()), nameOfKind);
 
 TEST_F(RefusedMovie, ofAnImpossibleSpeed) {
     for (const double speed :
@@ -64,12 +93,6 @@ TEST_F(RefusedMovie, ofAnImpossibleSpeed) {
         other.framesPerSecond = speed;
         expectRefusal(other, HasSubstr("choose 0.001 to 200"));
     }
-}
-
-TEST_F(RefusedMovie, inAFolderThatIsNotThere) {
-    host::MovieRequest other = request();
-    other.path = m_folder.path("missing/movie.mp4");
-    expectRefusal(other, AllOf(HasSubstr(other.path), HasSubstr("No such file or directory")));
 }
 
 TEST_F(RefusedMovie, withTheNameOfAFolder) {
