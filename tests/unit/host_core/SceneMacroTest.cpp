@@ -1,0 +1,88 @@
+// A scene that was written as a macro comes back as it was.
+#include "host/core/SceneMacro.h"
+
+#include "tests/unit/host_core/Fakes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class SceneMacroTest : public testing::Test {
+protected:
+    SceneMacroTest() {
+        before.reader.data = fakes::volumeData();
+        before.reader.data->files = {"/there/a ${b}.vtu"};
+    }
+
+    /// Plays the scene of the one host in another.
+    void replay() {
+        std::string macro;
+        for (const std::string& line : sceneMacro(before.app)) {
+            macro += line + "\n";
+        }
+        after.reader.data = before.reader.data;
+        std::istringstream lines(macro);
+        after.app.macros().play(lines, "scene", "/elsewhere");
+    }
+
+    fakes::FakeHost before;
+    fakes::FakeHost after;
+};
+
+TEST_F(SceneMacroTest, NothingIsNoLines) {
+    EXPECT_TRUE(sceneMacro(before.app).empty());
+}
+
+TEST_F(SceneMacroTest, BringsBackDataStylesViewAndTime) {
+    Application& app = before.app;
+    app.perform("READDATA", {"/there/a ${b}.vtu"});
+    app.perform("STYLE", {"Slice/2/Show", "=", "true"});
+    app.perform("STYLE", {"Slice/2/Position", "=", "0.1"});
+    app.perform("STYLE", {"Annotations/Title", "=", "a \"b\" = ${c}"});
+    app.perform("STYLE", {"Contour/Variable", "=", "U:X"});
+    app.perform("VIEW", {"SET", "Psi", "=", "0.1", "X", "=", "1e-7", "Perspective", "=", "false",
+                         "Width", "=", "3.25", "Perspective", "=", "true"});
+    app.perform("SOLUTIONTIME", {"=", "0.3"});
+    app.perform("EXPORTSETUP", {"ExportFormat", "=", "MPEG4"});
+    replay();
+    const Frame& was = *before.app.page().active();
+    const Frame& is = *after.app.page().active();
+    EXPECT_EQ(is.style, was.style);
+    EXPECT_EQ(is.view, was.view);
+    EXPECT_EQ(is.solutionTime, was.solutionTime);
+    EXPECT_EQ(is.placement, was.placement);
+    EXPECT_EQ(after.app.exportSetup().format, ExportFormat_MPEG4);
+    EXPECT_THAT(after.reader.calls, ElementsAre(ElementsAre("/there/a ${b}.vtu")));
+}
+
+TEST_F(SceneMacroTest, WritesNoValueThatComesWithTheData) {
+    before.app.perform("READDATA", {"/there/x.vtu"});
+    for (const std::string& line : sceneMacro(before.app)) {
+        EXPECT_THAT(line, testing::Not(HasSubstr("$!STYLE")));
+    }
+}
+
+TEST_F(SceneMacroTest, BringsBackThePage) {
+    before.app.perform("FRAME", {"CREATE", "X", "=", "1", "Width", "=", "3"});
+    before.app.perform("READDATA", {"/there/x.vtu"});
+    before.app.perform("FRAME", {"CREATE", "X", "=", "4", "Width", "=", "2"});
+    before.app.perform("PLOTTYPE", {"=", "CARTESIAN2D"});
+    before.app.perform("FRAME", {"ACTIVATE", "=", "1"});
+    replay();
+    const auto& frames = after.app.page().frames();
+    ASSERT_EQ(frames.size(), 2U);
+    EXPECT_EQ(frames[0]->placement, before.app.page().frames()[0]->placement);
+    EXPECT_EQ(frames[0]->plotType, PlotType_Cartesian2D);
+    EXPECT_EQ(frames[1]->placement, before.app.page().frames()[1]->placement);
+    EXPECT_EQ(after.app.page().active(), frames[1].get());
+}
+
+} // namespace
+} // namespace corvane::host
