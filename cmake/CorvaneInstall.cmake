@@ -18,7 +18,7 @@ function(corvane_install_shared_files)
         FILES_MATCHING PATTERN "dialog-*.png")
     install(FILES README.md CHANGELOG.md DESTINATION ${CORVANE_INSTALL_DOC} COMPONENT program)
     install(FILES LICENSE DESTINATION ${CORVANE_INSTALL_DOC} COMPONENT program RENAME copyright)
-    install(FILES docs/tutorial.md docs/macros.md
+    install(FILES docs/tutorial.md docs/macros.md docs/raster-metafile.md
         DESTINATION ${CORVANE_INSTALL_DOC}/docs COMPONENT program)
     install(DIRECTORY docs/images DESTINATION ${CORVANE_INSTALL_DOC}/docs COMPONENT program)
     install(DIRECTORY examples/wake DESTINATION ${CORVANE_INSTALL_DOC}/examples COMPONENT program
