@@ -25,7 +25,8 @@ set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
 # Qt finds its X11 plug-in, and drawing without a display its driver, at run time only.
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "libegl-mesa0 | libegl-vendor, libgl1-mesa-dri")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
-    "corvane-key-frame-animation, qt6-qpa-plugins, fonts-dejavu-core, xdg-utils")
+    "corvane-key-frame-animation, qt6-qpa-plugins, fonts-dejavu-core")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS xdg-utils)
 
 set(CPACK_DEBIAN_ADD-ON_PACKAGE_NAME corvane-key-frame-animation)
 set(CPACK_COMPONENT_ADD-ON_DESCRIPTION
