@@ -4,7 +4,9 @@
 #include "host/gui/widgets/DialogUnits.h"
 
 #include <QEvent>
+#include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 namespace corvane::gui {
 
@@ -96,6 +98,29 @@ void ControlArea::place() {
         needed |= QRect(rect.topLeft(), rect.bottomRight() + margin);
     }
     setFixedSize(needed.size());
+}
+
+/// Add-ons make their controls in any order; readers go down the dialog.
+QList<QWidget*> ControlArea::focusOrder() const {
+    std::vector<Placed> sorted = m_placed;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Placed& a, const Placed& b) {
+        const host::Box& first = a.control->box;
+        const host::Box& second = b.control->box;
+        return std::tie(first.y, first.x) < std::tie(second.y, second.x);
+    });
+    QList<QWidget*> order;
+    for (const Placed& each : sorted) {
+        if (each.widget->focusPolicy() != Qt::NoFocus) {
+            order.append(each.widget);
+            continue;
+        }
+        // A radio box itself takes no focus, its buttons do.
+        const auto parts =
+            each.widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        std::copy_if(parts.begin(), parts.end(), std::back_inserter(order),
+                     [](const QWidget* part) { return part->focusPolicy() != Qt::NoFocus; });
+    }
+    return order;
 }
 
 void ControlArea::changeEvent(QEvent* event) {

@@ -18,6 +18,8 @@ public:
     void add(QWidget* widget, const host::PlacedControl& control);
     /// To be called when something has changed that changes what a control needs.
     void place();
+    /// What can take the focus, line by line, each from left to right.
+    QList<QWidget*> focusOrder() const;
 
 protected:
     void changeEvent(QEvent* event) override;

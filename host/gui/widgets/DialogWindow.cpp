@@ -13,7 +13,11 @@ namespace corvane::gui {
 
 DialogWindow::DialogWindow(const host::Dialog& dialog, host::ControlActions& actions,
                            QWidget* parent)
-    : QDialog(parent), m_dialog(dialog), m_actions(actions), m_area(new ControlArea(dialog, this)) {
+    : QDialog(parent),
+      m_dialog(dialog),
+      m_actions(actions),
+      m_area(new ControlArea(dialog, this)),
+      m_buttons(new QDialogButtonBox(this)) {
     setWindowTitle(toQt(dialog.label));
     setWindowModality(dialog.isModal ? Qt::ApplicationModal : Qt::NonModal);
     auto* const column = new QVBoxLayout(this);
@@ -27,9 +31,8 @@ DialogWindow::DialogWindow(const host::Dialog& dialog, host::ControlActions& act
 void DialogWindow::addButtons() {
     using Standard = QDialogButtonBox::StandardButton;
     using Action = void (host::ControlActions::*)(int);
-    auto* const box = new QDialogButtonBox(this);
     const auto add = [&](Standard kind, Action action) {
-        QPushButton* const button = box->addButton(kind);
+        QPushButton* const button = m_buttons->addButton(kind);
         // Without OK, Return would press a button that nobody has chosen.
         button->setAutoDefault(m_dialog.isModal);
         button->setDefault(kind == QDialogButtonBox::Ok);
@@ -48,8 +51,8 @@ void DialogWindow::addButtons() {
         add(QDialogButtonBox::Help, &host::ControlActions::help);
     }
     const int margin = fontMetrics().lineSpacing() / 2;
-    box->setContentsMargins(margin, 0, margin, margin);
-    layout()->addWidget(box);
+    m_buttons->setContentsMargins(margin, 0, margin, margin);
+    layout()->addWidget(m_buttons);
 }
 
 QMenuBar* DialogWindow::addMenuBar() {
@@ -70,7 +73,17 @@ void DialogWindow::closeEvent(QCloseEvent* event) {
 
 void DialogWindow::showEvent(QShowEvent* event) {
     m_area->place();
+    orderTabs();
     QDialog::showEvent(event);
+}
+
+void DialogWindow::orderTabs() {
+    QList<QWidget*> order = m_area->focusOrder();
+    const auto buttons = m_buttons->buttons();
+    order.append(QList<QWidget*>(buttons.begin(), buttons.end()));
+    for (qsizetype next = 1; next < order.size(); ++next) {
+        setTabOrder(order[next - 1], order[next]);
+    }
 }
 
 } // namespace corvane::gui

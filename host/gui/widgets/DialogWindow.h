@@ -7,6 +7,7 @@
 
 #include <QDialog>
 
+class QDialogButtonBox;
 class QMenuBar;
 
 namespace corvane::gui {
@@ -27,10 +28,12 @@ protected:
 
 private:
     void addButtons();
+    void orderTabs();
 
     const host::Dialog& m_dialog;
     host::ControlActions& m_actions;
     ControlArea* m_area;
+    QDialogButtonBox* m_buttons;
 };
 
 } // namespace corvane::gui
