@@ -11,7 +11,7 @@ namespace {
 constexpr int labelX = 200;
 constexpr int labelWidth = 3300;
 constexpr int controlX = 3600;
-constexpr int controlWidth = 3000;
+constexpr int controlWidth = 3200;
 constexpr int lineHeight = 145;
 // A label is one line of text high: this puts it in the middle of the control beside it.
 constexpr int labelOffset = 22;
