@@ -14,8 +14,7 @@ Desktop::Desktop(const DesktopParts& parts)
       m_screen(parts.renderer, m_window.drawingArea(), m_pacer),
       m_status(m_window.progressStrip(), m_pacer),
       m_idle(m_screen),
-      m_dialogs(m_window, parts.helpFolder,
-                [this](const std::string& text) { m_window.progressStrip().setText(toQt(text)); }),
+      m_dialogs(m_window, parts.helpFolder, [this](const std::string& text) { tell(text); }),
       m_widgets(m_window),
       m_mainMenu(*m_window.menuBar()),
       m_application({.renderer = parts.renderer,
@@ -30,6 +29,10 @@ Desktop::Desktop(const DesktopParts& parts)
                      .mainMenu = &m_mainMenu}),
       m_workbench(m_application, m_window, m_idle) {
     m_status.onFinished = [this] { m_idle.requestIdle(); };
+}
+
+void Desktop::tell(const std::string& notice) {
+    m_window.progressStrip().tell(toQt(notice));
 }
 
 Desktop::~Desktop() {

@@ -38,6 +38,9 @@ public:
     MainWindow& window() { return m_window; }
     Workbench& workbench() { return m_workbench; }
 
+    /// Shows a sentence in the status line for some seconds.
+    void tell(const std::string& notice);
+
 private:
     MainWindow m_window;
     FramePacer m_pacer;

@@ -2,14 +2,13 @@
 #include "host/gui/window/MacroActions.h"
 
 #include "host/core/Application.h"
-#include "host/core/HostError.h"
+#include "host/core/MacroFile.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/MainWindow.h"
 #include "host/gui/window/MenuActions.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
 
 namespace corvane::gui {
@@ -24,22 +23,6 @@ QString folderKey() {
     return QStringLiteral("macroFolder");
 }
 
-void writeLines(const std::vector<std::string>& lines, const QString& fileName) {
-    std::string text;
-    for (const std::string& line : lines) {
-        text += line + "\n";
-    }
-    QSaveFile file(fileName);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.write(text.data(), static_cast<qint64>(text.size())) ==
-                               static_cast<qint64>(text.size()) &&
-                           file.commit();
-    if (!isWritten) {
-        throw host::HostError("The macro file " + fromQt(fileName) +
-                              " cannot be written: " + fromQt(file.errorString()) + ".");
-    }
-}
-
 } // namespace
 
 MacroActions::MacroActions(const Commands& commands, MainWindow& window)
@@ -52,13 +35,19 @@ MacroActions::MacroActions(const Commands& commands, MainWindow& window)
         m_commands.application().recorder().start();
         refresh();
     });
-    m_stop = addAction(menu, tr("&Stop Recording…"), [this] { askAndStop(); });
+    m_stop = addAction(menu, tr("&Stop Recording…"), [this] { stop(); });
     refresh();
 }
 
 bool MacroActions::play(const QString& fileName) {
     return m_commands.attempt(
         [&] { m_commands.application().macros().playFile(fromQt(fileName)); });
+}
+
+void MacroActions::recordTo(const QString& fileName) {
+    m_file = QFileInfo(fileName).absoluteFilePath();
+    m_commands.application().recorder().start();
+    refresh();
 }
 
 void MacroActions::askAndPlay() {
@@ -68,6 +57,14 @@ void MacroActions::askAndPlay() {
     if (!file.isEmpty()) {
         settings.setValue(folderKey(), QFileInfo(file).absolutePath());
         play(file);
+    }
+}
+
+void MacroActions::stop() {
+    if (m_file.isEmpty()) {
+        askAndStop();
+    } else {
+        stopRecording(m_file);
     }
 }
 
@@ -86,16 +83,21 @@ void MacroActions::askAndStop() {
 
 bool MacroActions::stopRecording(const QString& fileName) {
     host::MacroRecorder& recorder = m_commands.application().recorder();
-    const bool isWritten = m_commands.attempt([&] { writeLines(recorder.lines(), fileName); });
+    const bool isWritten =
+        m_commands.attempt([&] { host::writeMacro(recorder.lines(), fromQt(fileName)); });
     if (isWritten) {
         recorder.stop();
+        m_file.clear();
         refresh();
     }
     return isWritten;
 }
 
-bool MacroActions::mayQuit() const {
+bool MacroActions::mayQuit() {
     const host::MacroRecorder& recorder = m_commands.application().recorder();
+    if (recorder.isRecording() && !m_file.isEmpty() && stopRecording(m_file)) {
+        return true;
+    }
     return !recorder.isRecording() || recorder.lines().empty() ||
            m_commands.application().dialogs().askYesNo(
                "A macro is being recorded. Quit without saving it?");

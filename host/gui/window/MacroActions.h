@@ -18,15 +18,18 @@ public:
     MacroActions(const Commands& commands, MainWindow& window);
 
     bool play(const QString& fileName);
+    /// Records from now on; the file is written when the recording is stopped, or at the end.
+    void recordTo(const QString& fileName);
     /// Ends the recording and writes it to the file, or, when that fails, goes on with nothing
     /// lost. False: the user was told why.
     bool stopRecording(const QString& fileName);
-    /// Asks when a recording would be lost.
-    bool mayQuit() const;
+    /// Writes a recording whose file is known; asks when one would be lost.
+    bool mayQuit();
     void refresh();
 
 private:
     void askAndPlay();
+    void stop();
     void askAndStop();
 
     Commands m_commands;
@@ -34,6 +37,7 @@ private:
     QAction* m_play;
     QAction* m_record;
     QAction* m_stop;
+    QString m_file; ///< of the recording, when it is known; else empty
 };
 
 } // namespace corvane::gui

@@ -53,7 +53,7 @@ MainWindow::MainWindow() : m_drawingArea(new DrawingArea), m_strip(new ProgressS
 void MainWindow::makeMenus() {
     // In this order, whoever puts something in first.
     for (const char* title :
-         {"&File", "&Edit", "&View", "&Plot", "&Data", "&Animate", "&Macro", "&Help"}) {
+         {"&File", "&Edit", "&View", "&Plot", "Fra&me", "&Data", "&Animate", "&Macro", "&Help"}) {
         menuBar()->addMenu(QString::fromLatin1(title));
     }
 }
@@ -70,6 +70,11 @@ QMenu& MainWindow::menu(const QString& title) {
 
 void MainWindow::addBottomBar(QWidget& bar) {
     centralWidget()->layout()->addWidget(&bar);
+}
+
+void MainWindow::resizePicture(QSize pixels) {
+    const QSize wanted = (QSizeF(pixels) / devicePixelRatioF()).toSize();
+    resize(size() + wanted - m_drawingArea->size());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -23,6 +23,8 @@ public:
     /// The menu of the menu bar with this title (without '&'); made when there is none.
     QMenu& menu(const QString& title);
     /// Puts a bar below the drawing area.
+    /// Resizes the window so that the picture gets this size, where the screen allows it.
+    void resizePicture(QSize pixels);
     void addBottomBar(QWidget& bar);
 
     std::function<void(const QStringList&)> onFilesDropped;

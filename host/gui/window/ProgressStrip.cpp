@@ -8,6 +8,12 @@
 
 namespace corvane::gui {
 
+namespace {
+
+constexpr int noticeMs = 20000;
+
+} // namespace
+
 ProgressStrip::ProgressStrip(QWidget* parent)
     : QWidget(parent),
       m_label(new QLabel(this)),
@@ -29,6 +35,11 @@ ProgressStrip::ProgressStrip(QWidget* parent)
         part->setSizePolicy(policy);
         part->hide();
     }
+    m_noticeEnd.setSingleShot(true);
+    connect(&m_noticeEnd, &QTimer::timeout, this, [this] {
+        m_notice.clear();
+        showIdleText();
+    });
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(8, 2, 4, 2);
     row->addWidget(m_label, 1);
@@ -38,8 +49,18 @@ ProgressStrip::ProgressStrip(QWidget* parent)
 
 void ProgressStrip::setIdleText(const QString& text) {
     m_idleText = text;
+    showIdleText();
+}
+
+void ProgressStrip::tell(const QString& notice) {
+    m_notice = notice;
+    m_noticeEnd.start(noticeMs);
+    showIdleText();
+}
+
+void ProgressStrip::showIdleText() {
     if (!m_isRunning) {
-        setText(text);
+        setText(m_notice.isEmpty() ? m_idleText : m_notice);
     }
 }
 
@@ -64,7 +85,7 @@ void ProgressStrip::finish() {
     m_isRunning = false;
     m_bar->hide();
     m_stop->hide();
-    setText(m_idleText);
+    showIdleText();
 }
 
 } // namespace corvane::gui

@@ -1,6 +1,7 @@
 // What stands in the status line: a text, and progress with a Stop button while something runs.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -17,6 +18,8 @@ public:
 
     /// What stands there as long as nothing runs.
     void setIdleText(const QString& text);
+    /// Stands there instead for some seconds, as soon as nothing runs.
+    void tell(const QString& notice);
 
     void start(const QString& text, bool showStop, bool showProgress);
     void setText(const QString& text);
@@ -28,10 +31,14 @@ public:
     QPushButton& stopButton() const { return *m_stop; }
 
 private:
+    void showIdleText();
+
     QLabel* m_label;
     QProgressBar* m_bar;
     QPushButton* m_stop;
     QString m_idleText;
+    QString m_notice;
+    QTimer m_noticeEnd;
     bool m_isRunning = false;
 };
 
