@@ -3,6 +3,8 @@
 
 #include "host/movie/Codecs.h"
 
+#include <utility>
+
 namespace corvane::movie {
 
 namespace {

@@ -5,6 +5,7 @@
 #include "host/movie/SizeCheck.h"
 
 #include <cmath>
+#include <string>
 
 namespace corvane::movie {
 

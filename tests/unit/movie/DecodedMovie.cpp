@@ -86,7 +86,16 @@ DecodedMovie::DecodedMovie(std::string path, MovieEnd end) : m_path(std::move(pa
 }
 
 host::Picture DecodedMovie::picture(long n) const {
-    auto found = decode("select='eq(n," + std::to_string(n) + ")'");
+    return onePicture(n, "null");
+}
+
+host::Picture DecodedMovie::pictureIn256Colors(long n) const {
+    return onePicture(n, "split[a][b];[a]palettegen=reserve_transparent=0:stats_mode=single[p];"
+                         "[b][p]paletteuse=new=1:dither=none");
+}
+
+host::Picture DecodedMovie::onePicture(long n, const std::string& filter) const {
+    auto found = decode("select='eq(n," + std::to_string(n) + ")'," + filter);
     if (found.size() != 1)
         throw std::runtime_error("no picture " + std::to_string(n) + " in " + m_path);
     return std::move(found.front());

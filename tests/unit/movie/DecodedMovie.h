@@ -33,10 +33,13 @@ public:
     host::Picture picture(long n) const;
     /// All pictures, decoded at once.
     std::vector<host::Picture> pictures() const;
+    /// Picture n in 256 colours of its own that ffmpeg chose, without dithering.
+    host::Picture pictureIn256Colors(long n) const;
     /// When each picture is shown, in seconds.
     std::vector<double> times() const;
 
 private:
+    host::Picture onePicture(long n, const std::string& filter) const;
     std::vector<host::Picture> decode(const std::string& filter) const;
 
     std::string m_path;

@@ -2,6 +2,7 @@
 #include "host/movie/IndexedPicture.h"
 
 #include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/movie/TestFolder.h"
 #include "tests/unit/movie/TestMovie.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +64,19 @@ TEST(IndexedPicture, isMuchBetterThanWithAFixedPalette) {
         const double quality = psnr(shown(movie::indexed(picture), 640, 480), picture);
         EXPECT_GT(quality, psnr(inFixedPalette(picture), picture) + 6.0);
         EXPECT_GT(quality, 31.0);
+    }
+}
+
+TEST(IndexedPicture, isAsGoodAsWithThePaletteOfAnotherProgram) {
+    const TestFolder folder;
+    host::MovieRequest request = movieRequest(folder.path("movie.rm"), 640, 480);
+    request.format = ExportFormat_RasterMetafile; // lossless
+    const auto originals = writeMovingMovie(request, 2);
+    const DecodedMovie movie(request.path);
+    for (long n = 0; n < 2; ++n) {
+        const host::Picture& picture = originals[static_cast<std::size_t>(n)];
+        const double other = psnr(movie.pictureIn256Colors(n), picture);
+        EXPECT_GT(psnr(shown(movie::indexed(picture), 640, 480), picture), other - 0.5);
     }
 }
 

@@ -1,4 +1,4 @@
-// What is in FLV and WMV movies.
+// What is in FLV movies.
 #include "host/movie/FlvFormat.h"
 
 #include "host/movie/LibavLog.h"
@@ -41,18 +41,6 @@ TEST(FlvFormat, hasACodecOfItsOwnWhereLibavHasNoX264) {
     const DecodedMovie movie(request.path);
     EXPECT_EQ(movie.codec, "flv1");
     EXPECT_GE(lowestPsnr(movie, originals), 30.0);
-}
-
-TEST(WmvFormat, isWhatPlayersTake) {
-    const TestFolder folder;
-    host::MovieRequest request = movieRequest(folder.path("movie.wmv"), 64, 48, 25);
-    request.format = ExportFormat_WMV;
-    writeMovingMovie(request, 50);
-    const DecodedMovie movie(request.path);
-    EXPECT_EQ(movie.codec, "wmv2");
-    EXPECT_EQ(movie.rateNumerator, 25);
-    EXPECT_EQ(movie.rateDenominator, 1);
-    EXPECT_NEAR(movie.duration, 2.0, 0.1);
 }
 
 } // namespace
