@@ -6,6 +6,7 @@
 #include "host/gui/window/ColorButton.h"
 #include "host/gui/window/NumberEdit.h"
 #include "host/gui/window/ValueSlider.h"
+#include "host/gui/window/ViewCommand.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -57,7 +58,7 @@ void StylePanel::refresh() {
 }
 
 const host::DataSet* StylePanel::data() const {
-    const host::Frame* const frame = m_commands.application().page().active();
+    const host::Frame* const frame = spatialFrameWithData(m_commands.application());
     return frame != nullptr ? frame->data().get() : nullptr;
 }
 

@@ -32,7 +32,8 @@ public:
     virtual void refresh();
 
 protected:
-    const host::DataSet* data() const; ///< of the active frame, or null
+    /// Of the active frame, when it shows 3D: else it has no styles. Or null.
+    const host::DataSet* data() const;
     StyleEditor& editor() { return m_editor; }
     const Commands& commands() const { return m_commands; }
     QFormLayout& form() { return *m_form; }
