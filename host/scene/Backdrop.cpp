@@ -23,9 +23,14 @@ constexpr Color haze{0.55, 0.64, 0.75};
 
 } // namespace
 
-void setBackground(vtkRenderer& renderer, const Color& color) {
-    const Color top = mix(color, haze, isLight(color) ? 0.35 : 0.12);
-    renderer.SetBackground(color.red, color.green, color.blue);
+void setBackground(vtkRenderer& renderer, const Color& color, const FrameArea& area) {
+    const Color highest = mix(color, haze, isLight(color) ? 0.35 : 0.12);
+    const auto colorAt = [&](int y) {
+        return mix(color, highest, static_cast<double>(y - area.full.y) / area.full.height);
+    };
+    const Color bottom = colorAt(area.visible.y);
+    const Color top = colorAt(area.visible.y + area.visible.height);
+    renderer.SetBackground(bottom.red, bottom.green, bottom.blue);
     renderer.SetBackground2(top.red, top.green, top.blue);
     renderer.GradientBackgroundOn();
 }

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "host/core/FrameStyle.h"
+#include "host/scene/PixelRect.h"
 
 #include <vtkRenderer.h>
 
 namespace corvane::scene {
 
-/// The colour itself at the bottom, and a little deeper toward the top.
-void setBackground(vtkRenderer& renderer, const host::Color& color);
+/// The colour itself at the bottom of the frame, and a little deeper toward its top.
+void setBackground(vtkRenderer& renderer, const host::Color& color, const FrameArea& area);
 
 host::Color textColorOn(const host::Color& background); ///< nearly black, or white
 host::Color lineColorOn(const host::Color& background); ///< less strong than text

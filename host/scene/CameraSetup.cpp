@@ -76,12 +76,18 @@ void setWindow(vtkCamera& camera, const View3D& view, const FrameArea& area) {
     const double halfAngle = 0.5 * view.fieldOfView * std::numbers::pi / 180.0;
     camera.SetViewAngle(2.0 * std::atan(part * std::tan(halfAngle)) * 180.0 / std::numbers::pi);
     camera.SetParallelScale(0.5 * part * view.width / full.aspect());
+    setWindowCenter(camera, area);
+}
+
+} // namespace
+
+void setWindowCenter(vtkCamera& camera, const FrameArea& area) {
+    const PixelRect& full = area.full;
+    const PixelRect& visible = area.visible;
     const double fromCenterX = visible.x - full.x + 0.5 * (visible.width - full.width);
     const double fromCenterY = visible.y - full.y + 0.5 * (visible.height - full.height);
     camera.SetWindowCenter(2.0 * fromCenterX / visible.width, 2.0 * fromCenterY / visible.height);
 }
-
-} // namespace
 
 void setCamera(vtkCamera& camera, const View3D& view, const FrameArea& area, const Bounds& shown) {
     const ViewBasis basis = basisOf(view);

@@ -13,4 +13,7 @@ namespace corvane::scene {
 void setCamera(vtkCamera& camera, const host::View3D& view, const FrameArea& area,
                const host::Bounds& shown);
 
+/// Turns the camera of the whole area into that of its visible part, but for the scale.
+void setWindowCenter(vtkCamera& camera, const FrameArea& area);
+
 } // namespace corvane::scene

@@ -79,7 +79,7 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
                             static_cast<double>(visible.y) / pictureHeight,
                             static_cast<double>(visible.x + visible.width) / pictureWidth,
                             static_cast<double>(visible.y + visible.height) / pictureHeight);
-    setBackground(*m_renderer, frame.style.annotations.background);
+    setBackground(*m_renderer, frame.style.annotations.background, area);
     setLight(*m_light, frame.style.light);
 
     updatePlots(frame, area);

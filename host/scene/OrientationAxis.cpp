@@ -1,6 +1,7 @@
 // The little axis cross in the corner of a frame.
 #include "host/scene/OrientationAxis.h"
 
+#include "host/scene/CameraSetup.h"
 #include "host/scene/Material.h"
 
 #include <vtkArrowSource.h>
@@ -66,7 +67,6 @@ OrientationAxis::OrientationAxis() {
     }
     vtkCamera& camera = *m_renderer->GetActiveCamera();
     camera.ParallelProjectionOn();
-    camera.SetParallelScale(halfExtent);
     camera.SetFocalPoint(0.0, 0.0, 0.0);
     camera.SetClippingRange(1.0, 9.0);
 }
@@ -80,30 +80,33 @@ void OrientationAxis::show(const host::View3D& view, const Color& textColor, con
     const auto size = static_cast<int>(std::lround(sizePart * area.full.height));
     const auto margin = static_cast<int>(std::lround(marginPart * area.full.height));
     const PixelRect corner{area.full.x + margin, area.full.y + margin, size, size};
-    // A corner that the picture cuts through would be squeezed into what is left of it.
-    if (size < 8 || intersection(corner, area.visible) != corner) {
+    const FrameArea shown{corner, intersection(corner, area.visible)};
+    if (size < 8 || shown.visible.isEmpty()) {
         hide();
         return;
     }
     m_renderer->DrawOn();
-    m_renderer->SetViewport(static_cast<double>(corner.x) / pictureWidth,
-                            static_cast<double>(corner.y) / pictureHeight,
-                            static_cast<double>(corner.x + size) / pictureWidth,
-                            static_cast<double>(corner.y + size) / pictureHeight);
+    const PixelRect& visible = shown.visible;
+    m_renderer->SetViewport(static_cast<double>(visible.x) / pictureWidth,
+                            static_cast<double>(visible.y) / pictureHeight,
+                            static_cast<double>(visible.x + visible.width) / pictureWidth,
+                            static_cast<double>(visible.y + visible.height) / pictureHeight);
 
     const host::ViewBasis basis = basisOf(view);
     const Vec3 position = 5.0 * basis.toViewer;
     vtkCamera& camera = *m_renderer->GetActiveCamera();
     camera.SetPosition(position.x, position.y, position.z);
     camera.SetViewUp(basis.up.x, basis.up.y, basis.up.z);
+    camera.SetParallelScale(halfExtent * visible.height / size);
+    setWindowCenter(camera, shown);
 
     TextLook look{std::max(1, static_cast<int>(std::lround(labelSizePart * size))), textColor};
     look.horizontal = TextLook::Align::Middle;
     look.vertical = TextLook::Align::Middle;
     for (std::size_t i = 0; i < 3; ++i) {
         const Vec3 place = (labelDistance / halfExtent) * directions[i];
-        m_labels[i].show(names[i], 0.5 * size * (1.0 + dot(place, basis.right)),
-                         0.5 * size * (1.0 + dot(place, basis.up)), look);
+        m_labels[i].show(names[i], shown.offsetX() + 0.5 * size * (1.0 + dot(place, basis.right)),
+                         shown.offsetY() + 0.5 * size * (1.0 + dot(place, basis.up)), look);
     }
 }
 

@@ -42,4 +42,29 @@ std::vector<FrameInPicture> framesInPicture(const host::Page& page,
     return shown;
 }
 
+std::vector<FrameInPicture> framesInTile(const std::vector<FrameInPicture>& frames,
+                                         const PixelRect& tile) {
+    std::vector<FrameInPicture> shown;
+    for (FrameInPicture frame : frames) {
+        PixelRect& full = frame.area.full;
+        full.x -= tile.x;
+        full.y -= tile.y;
+        frame.area.visible = intersection(full, {0, 0, tile.width, tile.height});
+        if (!frame.area.visible.isEmpty())
+            shown.push_back(frame);
+    }
+    return shown;
+}
+
+std::vector<PixelRect> tilesOf(const host::PictureRequest& request, int largestSize) {
+    const int n = request.supersample;
+    const int side = largestSize / n * n;
+    const PixelRect picture{0, 0, request.width * n, request.height * n};
+    std::vector<PixelRect> tiles;
+    for (int y = 0; y < picture.height; y += side)
+        for (int x = 0; x < picture.width; x += side)
+            tiles.push_back(intersection({x, y, side, side}, picture));
+    return tiles;
+}
+
 } // namespace corvane::scene

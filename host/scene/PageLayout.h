@@ -19,4 +19,12 @@ struct FrameInPicture {
 std::vector<FrameInPicture> framesInPicture(const host::Page& page,
                                             const host::PictureRequest& request);
 
+/// The frames that a part of the picture shows, with areas from the corner of that part.
+std::vector<FrameInPicture> framesInTile(const std::vector<FrameInPicture>& frames,
+                                         const PixelRect& tile);
+
+/// Parts that make up the picture, none larger than the limit in either direction. Edges lie on
+/// whole pixels of the finished picture.
+std::vector<PixelRect> tilesOf(const host::PictureRequest& request, int largestSize);
+
 } // namespace corvane::scene

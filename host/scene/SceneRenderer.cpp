@@ -23,32 +23,61 @@
 
 namespace corvane::scene {
 
+namespace {
+
+/// The largest finished picture; supersampling comes on top.
+constexpr int largestPicture = 32766;
+constexpr int largestSupersample = 16;
+
+host::Picture emptyPicture(const host::PictureRequest& request) {
+    const std::size_t pixels =
+        static_cast<std::size_t>(request.width) * static_cast<std::size_t>(request.height);
+    return {request.width, request.height, std::vector<std::uint8_t>(pixels * 4)};
+}
+
+/// x and y of the left upper corner, from the left upper corner.
+void paste(host::Picture& picture, const host::Picture& piece, int x, int y) {
+    for (int row = 0; row < piece.height; ++row) {
+        const std::size_t target =
+            (static_cast<std::size_t>(y + row) * static_cast<std::size_t>(picture.width) +
+             static_cast<std::size_t>(x)) *
+            4;
+        std::copy_n(piece.row(row), static_cast<std::size_t>(piece.width) * 4,
+                    picture.rgba.begin() + static_cast<std::ptrdiff_t>(target));
+    }
+}
+
+} // namespace
+
 /// The window, and what is kept of each frame.
 class SceneRenderer::Canvas {
 public:
+    using Listener = std::function<void(const std::string&)>;
+
     Canvas(std::shared_ptr<SceneStatistics> statistics, std::size_t budget)
         : m_statistics(std::move(statistics)),
           m_geometry(std::make_shared<PreparedGeometry>(budget, m_statistics)) {
         m_window->open(m_context);
-        m_largestSize = m_window->largestSize();
+        m_largestTarget = m_window->largestSize();
         m_paper->SetBackground(1.0, 1.0, 1.0);
     }
 
-    int largestSize() const { return m_largestSize; }
+    void limitTarget(int pixels) { m_largestTarget = std::min(m_largestTarget, pixels); }
     void waitForReadAhead() { m_geometry->wait(); }
     /// The warnings of the frames go to the listener, where there is one.
     host::Picture draw(const host::Page& page, const host::PictureRequest& request,
-                       const std::function<void(const std::string&)>& onWarning);
+                       const Listener& onWarning);
 
 private:
-    void updateFrames(const host::Page& page, const host::PictureRequest& request,
-                      const std::function<void(const std::string&)>& onWarning);
+    host::Picture drawTile(const PixelRect& tile, const std::vector<FrameInPicture>& frames,
+                           int supersample, const Listener& onWarning);
+    void prepareFrames(const host::Page& page);
     void forgetDeletedFrames(const host::Page& page);
     void orderRenderers(const host::Page& page);
 
     EglContext m_context;
     vtkNew<EglRenderWindow> m_window;
-    int m_largestSize = 0;
+    int m_largestTarget = 0; ///< that can be drawn at once
     std::shared_ptr<SceneStatistics> m_statistics;
     std::shared_ptr<PreparedGeometry> m_geometry;
     vtkNew<vtkRenderer> m_paper;
@@ -57,40 +86,52 @@ private:
     vtkNew<vtkUnsignedCharArray> m_pixels;
 };
 
-host::Picture
-SceneRenderer::Canvas::draw(const host::Page& page, const host::PictureRequest& request,
-                            const std::function<void(const std::string&)>& onWarning) {
+host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
+                                          const host::PictureRequest& request,
+                                          const Listener& onWarning) {
     // Odd data must neither stop a movie nor write to the terminal.
     const VtkMessages silenced;
-    const int width = request.width * request.supersample;
-    const int height = request.height * request.supersample;
     m_window->MakeCurrent();
-    m_window->SetSize(width, height);
-    updateFrames(page, request, onWarning);
-    m_window->Render();
-    ++m_statistics->renders;
-    m_window->GetRGBACharPixelData(0, 0, width - 1, height - 1, 1, m_pixels);
-    return finishPicture(m_pixels->GetPointer(0), request.width, request.height,
-                         request.supersample);
+    prepareFrames(page);
+    const auto frames = framesInPicture(page, request);
+    const auto tiles = tilesOf(request, m_largestTarget);
+    if (tiles.size() == 1)
+        return drawTile(tiles.front(), frames, request.supersample, onWarning);
+    host::Picture picture = emptyPicture(request);
+    for (const PixelRect& tile : tiles)
+        paste(picture, drawTile(tile, frames, request.supersample, onWarning),
+              tile.x / request.supersample,
+              request.height - (tile.y + tile.height) / request.supersample);
+    return picture;
 }
 
-void SceneRenderer::Canvas::updateFrames(const host::Page& page,
-                                         const host::PictureRequest& request,
-                                         const std::function<void(const std::string&)>& onWarning) {
+host::Picture SceneRenderer::Canvas::drawTile(const PixelRect& tile,
+                                              const std::vector<FrameInPicture>& frames,
+                                              int supersample, const Listener& onWarning) {
+    m_window->SetSize(tile.width, tile.height);
+    for (const auto& [id, scene] : m_frames)
+        scene->hide();
+    for (const FrameInPicture& shown : framesInTile(frames, tile)) {
+        FrameScene& scene = *m_frames[shown.frame->id()];
+        scene.update(*shown.frame, shown.area, tile.width, tile.height);
+        if (onWarning && !scene.warning().empty())
+            onWarning(scene.warning());
+    }
+    m_window->Render();
+    ++m_statistics->renders;
+    m_window->GetRGBACharPixelData(0, 0, tile.width - 1, tile.height - 1, 1, m_pixels);
+    return finishPicture(m_pixels->GetPointer(0), tile.width / supersample,
+                         tile.height / supersample, supersample);
+}
+
+void SceneRenderer::Canvas::prepareFrames(const host::Page& page) {
     forgetDeletedFrames(page);
     for (const auto& frame : page.frames()) {
         auto& scene = m_frames[frame->id()];
         if (scene == nullptr)
             scene = std::make_unique<FrameScene>(m_geometry);
-        scene->hide();
     }
     orderRenderers(page);
-    for (const FrameInPicture& shown : framesInPicture(page, request)) {
-        FrameScene& scene = *m_frames[shown.frame->id()];
-        scene.update(*shown.frame, shown.area, m_window->GetSize()[0], m_window->GetSize()[1]);
-        if (onWarning && !scene.warning().empty())
-            onWarning(scene.warning());
-    }
 }
 
 void SceneRenderer::Canvas::forgetDeletedFrames(const host::Page& page) {
@@ -135,7 +176,11 @@ SceneRenderer::Canvas& SceneRenderer::canvas() const {
 }
 
 int SceneRenderer::largestSize() const {
-    return canvas().largestSize();
+    return largestPicture * largestSupersample;
+}
+
+void SceneRenderer::limitTarget(int pixels) {
+    canvas().limitTarget(std::max(largestSupersample, pixels));
 }
 
 void SceneRenderer::waitForReadAhead() {

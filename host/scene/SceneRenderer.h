@@ -23,7 +23,11 @@ public:
     ~SceneRenderer() override;
 
     host::Picture draw(const host::Page& page, const host::PictureRequest& request) override;
+    /// What is larger than the GPU can draw at once is drawn in parts.
     int largestSize() const override;
+
+    /// Draws in parts no larger than this, instead of what the GPU can draw at once. At least 16.
+    void limitTarget(int pixels);
 
     /// Returns when what comes next has been read and built. Nobody needs to wait; those who count
     /// do.
