@@ -4,6 +4,7 @@
 #include "host/app/AddOnLibrary.h"
 #include "host/app/BatchDialogs.h"
 #include "host/app/Flight.h"
+#include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/StopSignal.h"
 #include "host/app/TerminalStatus.h"
@@ -25,18 +26,13 @@
 namespace corvane::app {
 namespace {
 
-std::size_t memoryFor(const Options& options) {
-    constexpr std::size_t mebibyte = 1024 * 1024;
-    return options.memory ? *options.memory * mebibyte : scene::defaultMemoryBudget();
-}
-
 class BatchRun {
 public:
     explicit BatchRun(const Options& options)
         : m_options(options),
-          m_scene(nullptr, memoryFor(options) / 4),
+          m_scene(nullptr, memoryForPlots(options)),
           m_renderer(m_scene),
-          m_reader(memoryFor(options)),
+          m_reader(memoryForData(options)),
           m_status(options.quiet ? m_silence : std::cerr,
                    !options.quiet && isatty(STDERR_FILENO) != 0, isStopSignalled),
           m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs, m_pictures}) {}

@@ -19,6 +19,7 @@ struct Options {
     std::string output;
     int width = 1280; ///< pixels of the picture
     int height = 720;
+    bool isSizeGiven = false;
     std::optional<double> framesPerSecond;
     std::optional<int> supersample;
     std::string addOn;

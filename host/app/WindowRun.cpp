@@ -2,6 +2,7 @@
 #include "host/app/WindowRun.h"
 
 #include "host/app/AddOnLibrary.h"
+#include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/TraceFile.h"
 #include "host/core/AddOns.h"
@@ -18,19 +19,54 @@
 #include <clocale>
 #include <cstdlib>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace corvane::app {
 namespace {
 
-bool hasDisplay() {
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+constexpr const char* withoutDisplay =
+    "; to work without one, give --batch with --macro FILE, or --keyframes FILE --output MOVIE.";
+
+/// The first of these settings that there is, else empty.
+std::string displayName() {
+    for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
         const char* const value = std::getenv(name);
         if (value != nullptr && *value != '\0') {
-            return true;
+            return std::string(name) + '=' + value;
         }
     }
-    return false;
+    return {};
 }
+
+/// Qt aborts the process when it cannot reach the display, after several lines about its plugins.
+/// While one lives, that becomes one sentence and an exit code; what Qt says otherwise is kept.
+class QtStart {
+public:
+    QtStart() {
+        s_texts.clear();
+        qInstallMessageHandler(&QtStart::hear);
+    }
+    ~QtStart() {
+        qInstallMessageHandler(nullptr);
+        for (const std::string& text : s_texts) {
+            say(text);
+        }
+    }
+    QtStart(const QtStart&) = delete;
+    QtStart& operator=(const QtStart&) = delete;
+
+private:
+    static void hear(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
+        if (type == QtFatalMsg) {
+            say("The display for a window (" + displayName() + ") cannot be used" + withoutDisplay);
+            std::_Exit(ExitUsage);
+        }
+        s_texts.push_back(gui::fromQt(text));
+    }
+
+    static inline std::vector<std::string> s_texts;
+};
 
 // Beside the program where it is installed, else where it was built from.
 QString helpFolder() {
@@ -53,6 +89,8 @@ class WindowRun {
 public:
     explicit WindowRun(const Options& options)
         : m_options(options),
+          m_renderer(nullptr, memoryForPlots(options)),
+          m_reader(memoryForData(options)),
           m_desktop({.renderer = m_renderer,
                      .reader = m_reader,
                      .movies = m_movies,
@@ -76,10 +114,19 @@ private:
 };
 
 void WindowRun::start() {
-    m_renderer.onWarning = say;
+    m_renderer.onWarning = [this](const std::string& warning) {
+        say(warning);
+        m_desktop.tell(warning);
+    };
     traceCalls();
     loadAddOn();
+    if (!m_options.record.empty()) {
+        m_desktop.workbench().macros().recordTo(gui::toQt(m_options.record));
+    }
     m_desktop.window().show();
+    if (m_options.isSizeGiven) {
+        m_desktop.window().resizePicture({m_options.width, m_options.height});
+    }
     // Once the event loop runs, so that messages have somebody to read them.
     QMetaObject::invokeMethod(
         &m_desktop.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
@@ -121,15 +168,16 @@ void WindowRun::openWhatWasAsked() {
 } // namespace
 
 ExitCode runWindow(const Options& options) {
-    if (!hasDisplay()) {
-        say("There is no display for a window; to work without one, give --batch with --macro "
-            "FILE, or --keyframes FILE --output MOVIE.");
+    if (displayName().empty()) {
+        say(std::string("There is no display for a window") + withoutDisplay);
         return ExitUsage;
     }
     std::string name = "corvane";
     char* arguments[] = {name.data(), nullptr};
     int count = 1;
+    std::optional<QtStart> start(std::in_place);
     QApplication qt(count, arguments);
+    start.reset();
     nameProgram();
     try {
         WindowRun run(options);
