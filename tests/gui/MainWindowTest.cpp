@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -223,6 +224,47 @@ TEST_F(MainWindow, aRecordedMacroLeadsToTheSameState) {
     EXPECT_EQ(frame().view, view);
     EXPECT_EQ(frame().style, style);
     EXPECT_EQ(frame().solutionTime, time);
+}
+
+TEST_F(MainWindow, aRecordingWhoseFileIsKnownIsWrittenWhenTheWindowCloses) {
+    const TempFolder folder;
+    workbench().macros().recordTo(QString::fromStdString(folder.file("all.mcr")));
+    part<QCheckBox>("Contour/ShowLegend").click();
+    EXPECT_TRUE(window().close());
+    EXPECT_THAT(folder.read("all.mcr"), HasSubstr("Contour/ShowLegend = false"));
+    EXPECT_FALSE(app().recorder().isRecording());
+    EXPECT_THAT(dialogs.shown(), IsEmpty());
+}
+
+TEST_F(MainWindow, aRecordingThatCannotBeWrittenIsNotLostUnasked) {
+    const TempFolder folder;
+    workbench().macros().recordTo(QString::fromStdString(folder.file("no/folder/all.mcr")));
+    part<QCheckBox>("Contour/ShowLegend").click();
+    EXPECT_FALSE(window().close());
+    EXPECT_TRUE(app().recorder().isRecording());
+    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error), ElementsAre(HasSubstr("all.mcr")));
+    EXPECT_EQ(dialogs.shown(ShownDialog::Kind::Question).size(), 1U);
+    app().recorder().stop();
+}
+
+TEST_F(MainWindow, aNoticeStaysInTheStatusLineWhenOtherThingsChange) {
+    auto& text = part<QLabel>("statusText");
+    const QString before = text.text();
+    desktop().tell("There are no streamtraces to show.");
+    EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
+    part<QCheckBox>("Contour/ShowLegend").click();
+    settle();
+    EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
+    app().status().start("Working", true, true);
+    EXPECT_EQ(text.text(), QStringLiteral("Working"));
+    app().status().finish();
+    EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
+    EXPECT_NE(before, text.text());
+}
+
+TEST_F(MainWindow, thePictureGetsTheSizeThatWasAskedFor) {
+    window().resizePicture({800, 450});
+    EXPECT_TRUE(waitUntil([&] { return drawingArea().pixels() == QSize(800, 450); }));
 }
 
 TEST_F(MainWindow, aFailedExportIsToldOnceAllIsPutAway) {

@@ -17,7 +17,9 @@ void makeQtApplication() {
     static int count = 1;
     static std::string name = "gui_window";
     static char* arguments[] = {name.data(), nullptr};
-    static QApplication application(count, arguments);
+    // Never destroyed: widgets of Qt's own outlive what is static here.
+    static auto* const application = new QApplication(count, arguments);
+    application->setEffectEnabled(Qt::UI_AnimateCombo, false);
     QApplication::setOrganizationName(QStringLiteral("Corvane"));
     QApplication::setApplicationName(QStringLiteral("Corvane tests"));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -25,19 +27,20 @@ void makeQtApplication() {
 
 } // namespace
 
-WindowTest::WindowTest() {
+WindowTest::WindowTest(const WindowSurroundings& surroundings) : m_surroundings(surroundings) {
     makeQtApplication();
     QSettings().clear();
     open();
 }
 
 void WindowTest::open() {
-    m_desktop = std::make_unique<gui::Desktop>(gui::DesktopParts{.renderer = renderer,
-                                                                 .reader = reader,
-                                                                 .movies = movies,
-                                                                 .pictures = pictures,
-                                                                 .dialogs = &dialogs,
-                                                                 .helpFolder = {}});
+    m_desktop = std::make_unique<gui::Desktop>(gui::DesktopParts{
+        .renderer = renderer,
+        .reader = reader,
+        .movies = m_surroundings.movies != nullptr ? *m_surroundings.movies : movies,
+        .pictures = pictures,
+        .dialogs = m_surroundings.hasRealDialogs ? nullptr : &dialogs,
+        .helpFolder = {}});
     window().show();
     if (!QTest::qWaitForWindowExposed(&window())) {
         throw std::runtime_error("The window does not come up.");

@@ -15,13 +15,20 @@
 
 namespace corvane::test {
 
+/// What a test has instead of things made in memory.
+struct WindowSurroundings {
+    host::MovieWriters* movies = nullptr; ///< null: movies are counted
+    bool hasRealDialogs = false;          ///< message boxes and file dialogs over the window
+};
+
 /// The tests share one QApplication, since a process has no more; it is made with the first.
 class WindowTest : public ::testing::Test {
 protected:
-    WindowTest();
+    explicit WindowTest(const WindowSurroundings& surroundings = {});
     void TearDown() override;
 
     host::Application& app() { return m_desktop->application(); }
+    gui::Desktop& desktop() { return *m_desktop; }
     gui::MainWindow& window() { return m_desktop->window(); }
     gui::Workbench& workbench() { return m_desktop->workbench(); }
     gui::DrawingArea& drawingArea();
@@ -54,6 +61,7 @@ protected:
 private:
     void open();
 
+    WindowSurroundings m_surroundings;
     std::unique_ptr<gui::Desktop> m_desktop;
 };
 
