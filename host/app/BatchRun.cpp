@@ -46,13 +46,14 @@ private:
     void traceCalls();
     void setUpPage();
     void sayWhatWasMade(double seconds);
+    void tell(const std::string& note) const; ///< unless quiet was asked for
     ExitCode failed(const std::string& message);
 
     const Options& m_options;
     scene::SceneRenderer m_scene;
     TimedRenderer m_renderer;
     scene::DataReaders m_reader;
-    movie::LibavMovieWriters m_movies;
+    movie::LibavMovieWriters m_movies{[this](const std::string& note) { tell(note); }};
     movie::PngFiles m_pictures;
     std::ostream m_silence{nullptr};
     TerminalStatus m_status;
@@ -75,7 +76,7 @@ ExitCode BatchRun::run() {
 void BatchRun::work() {
     traceCalls();
     setUpPage();
-    m_scene.onWarning = say;
+    m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
     host::loadAddOn(m_application, addOnLibrary(m_options));
     if (!m_options.record.empty()) {
         m_application.recorder().start();
@@ -121,17 +122,20 @@ void BatchRun::setUpPage() {
                                      m_options.width / pageWidthInches};
 }
 
-void BatchRun::sayWhatWasMade(double seconds) {
-    if (m_options.quiet) {
-        return;
+void BatchRun::tell(const std::string& note) const {
+    if (!m_options.quiet) {
+        say(note);
     }
+}
+
+void BatchRun::sayWhatWasMade(double seconds) {
     const unsigned long frames = m_application.exporter().frames();
     char figures[128];
     std::snprintf(figures, sizeof figures,
                   ": %lu frames in %.1f s, %.1f frames a second, %.0f %% of it drawing", frames,
                   seconds, static_cast<double>(frames) / seconds,
                   100.0 * m_renderer.seconds() / seconds);
-    say(m_options.output + figures);
+    tell(m_options.output + figures);
 }
 
 ExitCode BatchRun::failed(const std::string& message) {

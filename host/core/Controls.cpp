@@ -162,10 +162,12 @@ void Controls::deleteRow(List& list, long position) {
         return;
     }
     list.rows.erase(list.rows.begin() + (position - 1));
-    std::erase(list.selection, position);
-    for (long& selected : list.selection) {
-        selected -= selected > position ? 1 : 0;
+    // Sorted, so that deleting rows from the last to the first looks at few of them.
+    auto selected = std::lower_bound(list.selection.begin(), list.selection.end(), position);
+    if (selected != list.selection.end() && *selected == position) {
+        selected = list.selection.erase(selected);
     }
+    std::for_each(selected, list.selection.end(), [](long& later) { --later; });
     show(list, ControlChange::Rows);
 }
 

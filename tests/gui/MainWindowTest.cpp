@@ -165,6 +165,20 @@ TEST_F(MainWindow, theSidebarFollowsWhatChangesElsewhereAndFiresNothing) {
     EXPECT_THAT(app().recorder().stop(), IsEmpty());
 }
 
+TEST_F(MainWindow, aRecordingBeginsWithTheSceneThatIsThere) {
+    frame().style.annotations.title = "Before";
+    const auto actions = window().menu(QStringLiteral("Macro")).actions();
+    for (QAction* const action : actions) {
+        if (action->text() == QStringLiteral("&Record Macro")) {
+            action->trigger();
+        }
+    }
+    EXPECT_THAT(app().recorder().stop(),
+                ::testing::IsSupersetOf({HasSubstr("$!FRAME CREATE"), HasSubstr("$!READDATA"),
+                                         HasSubstr("Annotations/Title = Before"),
+                                         HasSubstr("$!VIEW SET")}));
+}
+
 TEST_F(MainWindow, aCheckInTheListShowsASlice) {
     auto& slices = part<QListWidget>("Slice");
     slices.item(2)->setCheckState(Qt::Checked);

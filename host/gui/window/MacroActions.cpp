@@ -3,6 +3,7 @@
 
 #include "host/core/Application.h"
 #include "host/core/MacroFile.h"
+#include "host/core/SceneMacro.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/MainWindow.h"
 #include "host/gui/window/MenuActions.h"
@@ -31,11 +32,18 @@ MacroActions::MacroActions(const Commands& commands, MainWindow& window)
     m_play = addAction(
         menu, tr("&Play Macro…"), [this] { askAndPlay(); }, QKeySequence(Qt::CTRL | Qt::Key_M));
     menu.addSeparator();
-    m_record = addAction(menu, tr("&Record Macro"), [this] {
-        m_commands.application().recorder().start();
-        refresh();
-    });
+    m_record = addAction(menu, tr("&Record Macro"), [this] { record(); });
     m_stop = addAction(menu, tr("&Stop Recording…"), [this] { stop(); });
+    refresh();
+}
+
+/// A macro recorded in the middle of the work begins with all that is there by then.
+void MacroActions::record() {
+    host::Application& application = m_commands.application();
+    application.recorder().start();
+    for (const std::string& line : host::sceneMacro(application)) {
+        application.recorder().recordRaw(line);
+    }
     refresh();
 }
 

@@ -28,6 +28,7 @@ public:
     void refresh();
 
 private:
+    void record();
     void askAndPlay();
     void stop();
     void askAndStop();

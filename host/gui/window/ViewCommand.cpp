@@ -2,35 +2,9 @@
 #include "host/gui/window/ViewCommand.h"
 
 #include "host/core/Application.h"
-#include "host/gui/window/Numbers.h"
-
-#include <initializer_list>
-#include <utility>
+#include "host/core/SceneMacro.h"
 
 namespace corvane::gui {
-
-namespace {
-
-std::vector<std::string> wordsFor(const host::View3D& view) {
-    std::vector<std::string> words{"SET", "Perspective", "=", view.perspective ? "true" : "false"};
-    const std::initializer_list<std::pair<const char*, double>> numbers{
-        {"Psi", view.psi},
-        {"Theta", view.theta},
-        {"Alpha", view.alpha},
-        {"X", view.position.x},
-        {"Y", view.position.y},
-        {"Z", view.position.z},
-        {"FieldOfView", view.fieldOfView}};
-    for (const auto& [name, value] : numbers) {
-        words.insert(words.end(), {name, "=", exactText(value)});
-    }
-    if (!view.perspective) {
-        words.insert(words.end(), {"Width", "=", exactText(view.width)});
-    }
-    return words;
-}
-
-} // namespace
 
 host::Frame* spatialFrameWithData(host::Application& application) {
     host::Frame* const frame = application.page().active();
@@ -40,7 +14,7 @@ host::Frame* spatialFrameWithData(host::Application& application) {
 }
 
 void setView(const Commands& commands, const host::View3D& view) {
-    commands.perform("VIEW", wordsFor(view));
+    commands.perform("VIEW", host::viewWords(view));
 }
 
 void recordView(const Commands& commands) {

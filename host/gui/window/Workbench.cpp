@@ -41,6 +41,7 @@ Workbench::Workbench(host::Application& application, MainWindow& window, IdleDri
       m_view(m_commands, window),
       m_windowActions(m_commands, window, *m_sidebar),
       m_plot(m_commands, window),
+      m_frames(m_commands, window),
       m_timeActions(m_time, window),
       m_macros(m_commands, window),
       m_help(m_commands, window),
@@ -125,6 +126,7 @@ void Workbench::refresh() {
     m_view.refresh();
     m_windowActions.refresh();
     m_plot.refresh();
+    m_frames.refresh();
     m_macros.refresh();
     refreshTitle();
     refreshStatus();

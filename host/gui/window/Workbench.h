@@ -3,6 +3,7 @@
 
 #include "host/gui/window/Commands.h"
 #include "host/gui/window/FileActions.h"
+#include "host/gui/window/FrameActions.h"
 #include "host/gui/window/HelpActions.h"
 #include "host/gui/window/MacroActions.h"
 #include "host/gui/window/PlotActions.h"
@@ -58,6 +59,7 @@ private:
     ViewActions m_view;
     WindowActions m_windowActions;
     PlotActions m_plot;
+    FrameActions m_frames;
     TimeActions m_timeActions;
     MacroActions m_macros;
     HelpActions m_help;
