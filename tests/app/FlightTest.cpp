@@ -105,6 +105,21 @@ TEST(Flight, drawsEachFrameOnceAndNothingElse) {
     EXPECT_EQ(host.application.drawing().suspensions(), 0);
 }
 
+TEST(Flight, isMadeAgainByTheMacroRecordedOfIt) {
+    const TempFolder folder;
+    const std::string movie = folder.file("flight.mp4");
+    auto arguments = shortRun(folder, movie);
+    arguments.insert(arguments.end(), {"--record", folder.file("flight.mcr")});
+    ASSERT_EQ(runProgram(arguments).exitCode, 0);
+    const auto pictures = DecodedMovie(movie).pictures();
+    fs::remove(movie);
+
+    const ProgramResult result =
+        runProgram({"--batch", "--macro", folder.file("flight.mcr"), "--size", "320x180"});
+    ASSERT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_TRUE(DecodedMovie(movie).pictures() == pictures);
+}
+
 TEST(Flight, canBeTraced) {
     const TempFolder folder;
     const std::string trace = folder.file("calls.txt");
