@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QDialogButtonBox>
+#include <QIcon>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -33,6 +34,7 @@ void DialogWindow::addButtons() {
     using Action = void (host::ControlActions::*)(int);
     const auto add = [&](Standard kind, Action action) {
         QPushButton* const button = m_buttons->addButton(kind);
+        button->setIcon({}); // the words say it, as on the dialog's other buttons
         // Without OK, Return would press a button that nobody has chosen.
         button->setAutoDefault(m_dialog.isModal);
         button->setDefault(kind == QDialogButtonBox::Ok);
