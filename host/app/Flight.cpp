@@ -4,17 +4,10 @@
 #include "host/app/MovieFormats.h"
 #include "host/core/Application.h"
 #include "host/core/HostError.h"
-
-#include <charconv>
+#include "host/core/MacroWords.h"
 
 namespace corvane::app {
 namespace {
-
-std::string number(double value) {
-    char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    return {buffer, end};
-}
 
 // A flight from the command line is no other thing than one from a macro.
 void runAddOnCommand(host::Application& application, const std::string& command) {
@@ -44,7 +37,7 @@ void setUpMovie(host::Application& application, const Options& options, double s
     setUp(application, "ExportFormat", movieFormatFor(options.output)->keyword);
     setUp(application, "ExportRegion", "CURRENTFRAME");
     setUp(application, "ImageWidth", std::to_string(options.width));
-    setUp(application, "AnimationSpeed", number(options.framesPerSecond.value_or(speed)));
+    setUp(application, "AnimationSpeed", host::exactText(options.framesPerSecond.value_or(speed)));
     if (options.supersample) {
         const bool isOn = *options.supersample > 1;
         setUp(application, "UseSuperSampleAntiAliasing", isOn ? "true" : "false");

@@ -3,6 +3,7 @@
 
 #include "host/core/StyleTree.h"
 
+#include <array>
 #include <charconv>
 #include <filesystem>
 
@@ -47,6 +48,12 @@ int integerFrom(const std::string& text) {
 
 long longFrom(const std::string& text) {
     return parsed<long>(text);
+}
+
+std::string exactText(double number) {
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return {buffer.data(), end};
 }
 
 bool booleanFrom(const std::string& text) {

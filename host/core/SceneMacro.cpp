@@ -4,9 +4,9 @@
 #include "host/core/Application.h"
 #include "host/core/MacroText.h"
 #include "host/core/MacroVariables.h"
+#include "host/core/MacroWords.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <variant>
 
@@ -16,16 +16,10 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// The shortest text that reads as the same number.
-std::string text(double value) {
-    char buffer[32];
-    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
-}
-
 struct TextOf {
     std::string operator()(const bool* value) const { return *value ? "true" : "false"; }
     std::string operator()(const int* value) const { return std::to_string(*value); }
-    std::string operator()(const double* value) const { return text(*value); }
+    std::string operator()(const double* value) const { return exactText(*value); }
     std::string operator()(const std::string* value) const { return *value; }
 };
 
@@ -48,9 +42,19 @@ private:
 };
 
 Words placementWords(const Placement& place) {
-    return {"CREATE",          "X",     "=", text(place.x),     "Y",      "=",
-            text(place.y),     "Width", "=", text(place.width), "Height", "=",
-            text(place.height)};
+    return {"CREATE",
+            "X",
+            "=",
+            exactText(place.x),
+            "Y",
+            "=",
+            exactText(place.y),
+            "Width",
+            "=",
+            exactText(place.width),
+            "Height",
+            "=",
+            exactText(place.height)};
 }
 
 void addData(Lines& lines, const DataSet& data) {
@@ -85,7 +89,7 @@ void addFrame(Lines& lines, Frame& frame) {
     addStyles(lines, frame);
     lines.add("VIEW", viewWords(frame.view));
     if (frame.data()) {
-        lines.add("SOLUTIONTIME", {"=", text(frame.solutionTime)});
+        lines.add("SOLUTIONTIME", {"=", exactText(frame.solutionTime)});
     }
     if (frame.plotType == PlotType_Cartesian2D) {
         lines.add("PLOTTYPE", {"=", "CARTESIAN2D"});
@@ -112,19 +116,19 @@ std::vector<std::string> viewWords(const View3D& view) {
     const auto set = [&words](const char* name, const std::string& value) {
         words.insert(words.end(), {name, "=", value});
     };
-    set("Psi", text(view.psi));
-    set("Theta", text(view.theta));
-    set("Alpha", text(view.alpha));
-    set("X", text(view.position.x));
-    set("Y", text(view.position.y));
-    set("Z", text(view.position.z));
-    set("OriginX", text(view.rotationOrigin.x));
-    set("OriginY", text(view.rotationOrigin.y));
-    set("OriginZ", text(view.rotationOrigin.z));
-    set("FieldOfView", text(view.fieldOfView));
+    set("Psi", exactText(view.psi));
+    set("Theta", exactText(view.theta));
+    set("Alpha", exactText(view.alpha));
+    set("X", exactText(view.position.x));
+    set("Y", exactText(view.position.y));
+    set("Z", exactText(view.position.z));
+    set("OriginX", exactText(view.rotationOrigin.x));
+    set("OriginY", exactText(view.rotationOrigin.y));
+    set("OriginZ", exactText(view.rotationOrigin.z));
+    set("FieldOfView", exactText(view.fieldOfView));
     // The width is there with perspective too, but can be set only without.
     set("Perspective", "false");
-    set("Width", text(view.width));
+    set("Width", exactText(view.width));
     if (view.perspective) {
         set("Perspective", "true");
     }

@@ -2,9 +2,9 @@
 #include "host/gui/window/FrameActions.h"
 
 #include "host/core/Application.h"
+#include "host/core/MacroWords.h"
 #include "host/gui/window/MainWindow.h"
 #include "host/gui/window/MenuActions.h"
-#include "host/gui/window/Numbers.h"
 
 namespace corvane::gui {
 
@@ -31,13 +31,13 @@ void FrameActions::split(Side side) {
     double& extent = side == Side::Right ? half.width : half.height;
     extent /= 2.0;
     const char* const extentName = side == Side::Right ? "Width" : "Height";
-    if (!m_commands.perform("FRAME", {"PLACE", extentName, "=", exactText(extent)})) {
+    if (!m_commands.perform("FRAME", {"PLACE", extentName, "=", host::exactText(extent)})) {
         return;
     }
     (side == Side::Right ? half.x : half.y) += extent;
-    m_commands.perform("FRAME",
-                       {"CREATE", "X", "=", exactText(half.x), "Y", "=", exactText(half.y), "Width",
-                        "=", exactText(half.width), "Height", "=", exactText(half.height)});
+    m_commands.perform("FRAME", {"CREATE", "X", "=", host::exactText(half.x), "Y", "=",
+                                 host::exactText(half.y), "Width", "=", host::exactText(half.width),
+                                 "Height", "=", host::exactText(half.height)});
 }
 
 void FrameActions::refresh() {

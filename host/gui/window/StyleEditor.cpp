@@ -2,10 +2,10 @@
 #include "host/gui/window/StyleEditor.h"
 
 #include "host/core/Application.h"
+#include "host/core/MacroWords.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/ColorButton.h"
 #include "host/gui/window/NumberEdit.h"
-#include "host/gui/window/Numbers.h"
 #include "host/gui/window/ValueSlider.h"
 
 #include <QCheckBox>
@@ -122,7 +122,7 @@ std::string StyleEditor::text(const std::string& path) const {
         return *held;
     }
     const long* const whole = std::get_if<long>(&*value);
-    return whole != nullptr ? std::to_string(*whole) : exactText(std::get<double>(*value));
+    return whole != nullptr ? std::to_string(*whole) : host::exactText(std::get<double>(*value));
 }
 
 void StyleEditor::set(const std::string& path, const std::string& value) {
@@ -135,7 +135,7 @@ void StyleEditor::set(const std::string& path, const std::string& value) {
 }
 
 void StyleEditor::set(const std::string& path, double value) {
-    set(path, exactText(value));
+    set(path, host::exactText(value));
 }
 
 void StyleEditor::preview(const std::string& path, double value) {

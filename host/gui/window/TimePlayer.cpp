@@ -2,7 +2,7 @@
 #include "host/gui/window/TimePlayer.h"
 
 #include "host/core/Application.h"
-#include "host/gui/window/Numbers.h"
+#include "host/core/MacroWords.h"
 #include "host/gui/window/SolutionTimes.h"
 
 #include <algorithm>
@@ -72,7 +72,7 @@ void TimePlayer::showStep(int index) {
     }
     const int wanted = std::clamp(index, 0, static_cast<int>(m_times.size()) - 1);
     const double time = m_times[static_cast<std::size_t>(wanted)];
-    if (!m_commands.perform("SOLUTIONTIME", {"=", exactText(time)})) {
+    if (!m_commands.perform("SOLUTIONTIME", {"=", host::exactText(time)})) {
         m_timer.stop();
     }
     refresh();
