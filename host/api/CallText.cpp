@@ -3,7 +3,7 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/core/Application.h"
-#include "host/core/MacroText.h"
+#include "host/core/macro/MacroText.h"
 
 #include <charconv>
 #include <variant>

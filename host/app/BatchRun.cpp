@@ -11,7 +11,7 @@
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
-#include "host/core/MacroFile.h"
+#include "host/core/macro/MacroFile.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"

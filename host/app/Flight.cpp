@@ -4,7 +4,7 @@
 #include "host/app/MovieFormats.h"
 #include "host/core/Application.h"
 #include "host/core/HostError.h"
-#include "host/core/MacroWords.h"
+#include "host/core/macro/MacroWords.h"
 
 namespace corvane::app {
 namespace {

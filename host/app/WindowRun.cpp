@@ -5,7 +5,7 @@
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/TraceFile.h"
-#include "host/core/AddOns.h"
+#include "host/core/addons/AddOns.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/Desktop.h"
 #include "host/gui/window/Icons.h"

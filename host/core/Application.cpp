@@ -3,7 +3,7 @@
 
 #include "host/core/HostError.h"
 #include "host/core/PartFile.h"
-#include "host/core/PictureRequests.h"
+#include "host/core/picture/PictureRequests.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,8 +2,8 @@
 // them, tests implement them in memory.
 #pragma once
 
-#include "host/core/DataSet.h"
-#include "host/core/Picture.h"
+#include "host/core/page/DataSet.h"
+#include "host/core/picture/Picture.h"
 #include "hostapi/CorEnums.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 // Pictures of up to 256 colours.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 #include "host/movie/Palette.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Pictures that do not belong into a movie.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 #include "host/movie/LibavCheck.h"
 
 namespace corvane::movie {

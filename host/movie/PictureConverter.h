@@ -1,7 +1,7 @@
 // Turns pictures into frames of the kind that encoders take.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 #include "host/movie/LibavCheck.h"
 #include "host/movie/LibavHandles.h"
 #include "host/movie/VideoSettings.h"

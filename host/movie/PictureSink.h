@@ -1,7 +1,7 @@
 // Where the encoder thread's pictures go.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 
 #include <string>
 

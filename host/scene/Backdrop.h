@@ -1,7 +1,7 @@
 // The background of a frame, and the colours that can be read on it.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 #include "host/scene/PixelRect.h"
 
 #include <vtkRenderer.h>

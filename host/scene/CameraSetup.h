@@ -1,7 +1,7 @@
 // From the view of a frame to VTK's camera.
 #pragma once
 
-#include "host/core/View3D.h"
+#include "host/core/page/View3D.h"
 #include "host/scene/PixelRect.h"
 
 #include <vtkCamera.h>

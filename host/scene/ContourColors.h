@@ -1,7 +1,7 @@
 // The colours of one frame's contour variable.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 #include "host/scene/SceneDataSet.h"
 #include "host/scene/VariableRef.h"
 

@@ -1,7 +1,7 @@
 // From the pixels as they were drawn to the finished picture.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // Coloured rectangles over a picture.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 
 #include <vtkActor2D.h>
 #include <vtkCellArray.h>

@@ -1,7 +1,7 @@
 // What VTK needs to draw one frame, kept from picture to picture.
 #pragma once
 
-#include "host/core/Frame.h"
+#include "host/core/page/Frame.h"
 #include "host/scene/ColorBar.h"
 #include "host/scene/ContourColors.h"
 #include "host/scene/FrameRenderer.h"

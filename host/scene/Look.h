@@ -1,7 +1,7 @@
 // How the polygons of a plot look.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 #include "host/scene/ContourColors.h"
 
 #include <vtkActor.h>

@@ -1,7 +1,7 @@
 // How surfaces and lines answer to the light of a frame.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 
 #include <vtkLight.h>
 #include <vtkProperty.h>

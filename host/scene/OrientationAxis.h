@@ -1,7 +1,7 @@
 // The little axis cross in the corner of a frame.
 #pragma once
 
-#include "host/core/View3D.h"
+#include "host/core/page/View3D.h"
 #include "host/scene/PixelRect.h"
 #include "host/scene/TextItem.h"
 

@@ -1,8 +1,8 @@
 // The box around the data of a frame.
 #pragma once
 
-#include "host/core/FrameStyle.h"
-#include "host/core/Vec3.h"
+#include "host/core/page/FrameStyle.h"
+#include "host/core/page/Vec3.h"
 
 #include <vtkActor.h>
 #include <vtkNew.h>

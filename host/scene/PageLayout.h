@@ -1,8 +1,8 @@
 // Where the frames of a page lie in a picture.
 #pragma once
 
-#include "host/core/Page.h"
-#include "host/core/Picture.h"
+#include "host/core/page/Page.h"
+#include "host/core/picture/Picture.h"
 #include "host/scene/PixelRect.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 // What a frame asks to be drawn of its data.
 #pragma once
 
-#include "host/core/Frame.h"
+#include "host/core/page/Frame.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Look.h"
 #include "host/scene/SceneDataSet.h"

@@ -1,7 +1,7 @@
 // A data set whose meshes are read when they are needed.
 #pragma once
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 #include "host/scene/MeshCache.h"
 #include "host/scene/VariableRanges.h"
 #include "host/scene/VariableRef.h"
@@ -47,7 +47,7 @@ public:
     ValueRange rangeOf(const VariableRef& variable) const;
 
     long id() const { return m_id; } ///< MeshId::dataSet of its meshes
-    MeshId meshId(int zone) const; ///< zone: index into zones
+    MeshId meshId(int zone) const;   ///< zone: index into zones
     /// Reads the mesh if it is not at hand. Null when the file holds no such part at that time.
     /// Throws host::HostError.
     vtkSmartPointer<vtkDataSet> mesh(int zone) const;

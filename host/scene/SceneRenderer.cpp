@@ -2,7 +2,7 @@
 #include "host/scene/SceneRenderer.h"
 
 #include "host/core/HostError.h"
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 #include "host/scene/Downsample.h"
 #include "host/scene/EglContext.h"
 #include "host/scene/EglRenderWindow.h"

@@ -1,7 +1,7 @@
 // Where streamtraces start.
 #include "host/scene/StreamSeeds.h"
 
-#include "host/core/PointList.h"
+#include "host/core/page/PointList.h"
 
 #include <vtkNew.h>
 #include <vtkPoints.h>

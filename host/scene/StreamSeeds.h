@@ -1,7 +1,7 @@
 // Where streamtraces start.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 
 #include <vtkPolyData.h>
 #include <vtkSmartPointer.h>

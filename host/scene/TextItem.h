@@ -1,7 +1,7 @@
 // A line of text over a picture.
 #pragma once
 
-#include "host/core/FrameStyle.h"
+#include "host/core/page/FrameStyle.h"
 
 #include <vtkNew.h>
 #include <vtkTextActor.h>

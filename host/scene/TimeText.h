@@ -1,7 +1,7 @@
 // The solution time as text.
 #pragma once
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // What a style's variable name means in a mesh.
 #pragma once
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 // Wrong usage: one sentence on standard error, exit code 2, nothing done.
 #include "tests/app/Program.h"
 
-#include <gmock/gmock.h>
 #include <cstdlib>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using corvane::test::ProgramResult;

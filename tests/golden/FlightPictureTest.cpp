@@ -1,5 +1,5 @@
 // Pictures from the key views of named flights: the views that other tests play are those meant.
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 #include "tests/cases/FlightCases.h"

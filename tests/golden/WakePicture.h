@@ -1,7 +1,7 @@
 // A frame that shows the flow past the cylinder, for tests that compare its pictures.
 #pragma once
 
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 #include "tests/golden/GoldenPicture.h"

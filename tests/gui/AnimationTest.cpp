@@ -1,5 +1,5 @@
 // A flight of the add-on on the screen, and the two ways to stop it.
-#include "host/core/AddOns.h"
+#include "host/core/addons/AddOns.h"
 #include "host/gui/window/DrawingArea.h"
 #include "host/gui/window/ProgressStrip.h"
 #include "tests/gui/WindowTest.h"

@@ -1,7 +1,7 @@
 // A test with the add-on in a real main window.
 #include "tests/gui/KeyFrameWindowTest.h"
 
-#include "host/core/AddOns.h"
+#include "host/core/addons/AddOns.h"
 #include "host/gui/window/DrawingArea.h"
 
 #include <QtTest>

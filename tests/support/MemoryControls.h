@@ -1,8 +1,8 @@
 // The controls of add-ons as a user of the tests sees and uses them.
 #pragma once
 
-#include "host/core/Control.h"
-#include "host/core/ControlActions.h"
+#include "host/core/controls/Control.h"
+#include "host/core/controls/ControlActions.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // A small data set without a file.
 #pragma once
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 #include <memory>
 #include <string>

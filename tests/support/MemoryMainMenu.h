@@ -1,7 +1,7 @@
 // Menus of a main window without a window: tests choose from them as a user would.
 #pragma once
 
-#include "host/core/MainMenu.h"
+#include "host/core/controls/MainMenu.h"
 
 #include <string>
 #include <vector>

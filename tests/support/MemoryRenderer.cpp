@@ -2,7 +2,7 @@
 #include "tests/support/MemoryRenderer.h"
 
 #include "host/core/HostError.h"
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 
 #include <utility>
 

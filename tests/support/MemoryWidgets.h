@@ -1,7 +1,7 @@
 // A toolkit without windows: tests use its dialogs as a user would.
 #pragma once
 
-#include "host/core/Widgets.h"
+#include "host/core/controls/Widgets.h"
 #include "tests/support/MemoryDialog.h"
 
 #include <cstddef>

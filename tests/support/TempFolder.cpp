@@ -44,4 +44,12 @@ std::string TempFolder::read(const std::string& name) const {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+std::set<std::string> TempFolder::names() const {
+    std::set<std::string> all;
+    for (const auto& entry : fs::directory_iterator(m_path)) {
+        all.insert(entry.path().filename().string());
+    }
+    return all;
+}
+
 } // namespace corvane::test

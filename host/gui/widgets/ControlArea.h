@@ -1,7 +1,7 @@
 // The part of a dialog where the controls of an add-on stand.
 #pragma once
 
-#include "host/core/Control.h"
+#include "host/core/controls/Control.h"
 
 #include <QWidget>
 #include <vector>

@@ -1,7 +1,7 @@
 // Dialog units in pixels, so that layouts follow the font.
 #pragma once
 
-#include "host/core/Control.h"
+#include "host/core/controls/Control.h"
 
 #include <QFont>
 #include <QRect>

@@ -1,8 +1,8 @@
 // Entries in the menus of an add-on's dialog.
 #pragma once
 
-#include "host/core/Control.h"
-#include "host/core/ControlActions.h"
+#include "host/core/controls/Control.h"
+#include "host/core/controls/ControlActions.h"
 
 #include <QAction>
 

@@ -1,7 +1,7 @@
 // The options of add-ons in the menu bar of the main window.
 #pragma once
 
-#include "host/core/MainMenu.h"
+#include "host/core/controls/MainMenu.h"
 
 #include <QPointer>
 #include <map>

@@ -1,7 +1,7 @@
 // The dialogs and controls of add-ons, in Qt.
 #pragma once
 
-#include "host/core/Widgets.h"
+#include "host/core/controls/Widgets.h"
 
 #include <QPointer>
 #include <functional>

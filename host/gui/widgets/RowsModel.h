@@ -1,7 +1,7 @@
 // The rows of a list of an add-on, for Qt's views.
 #pragma once
 
-#include "host/core/Control.h"
+#include "host/core/controls/Control.h"
 
 #include <QAbstractListModel>
 

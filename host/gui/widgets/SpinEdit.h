@@ -1,8 +1,8 @@
 // A text field with two arrows of an add-on.
 #pragma once
 
-#include "host/core/Control.h"
-#include "host/core/ControlActions.h"
+#include "host/core/controls/Control.h"
+#include "host/core/controls/ControlActions.h"
 
 #include <QAbstractSpinBox>
 

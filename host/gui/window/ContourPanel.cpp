@@ -1,7 +1,7 @@
 // What plots are coloured by.
 #include "host/gui/window/ContourPanel.h"
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 #include "host/gui/window/NumberEdit.h"
 #include "host/gui/window/QuantityRange.h"
 

@@ -1,7 +1,7 @@
 // What is in the data of a frame.
 #include "host/gui/window/DataInformation.h"
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/Numbers.h"
 #include "host/gui/window/SolutionTimes.h"

@@ -1,7 +1,7 @@
 // Shows the last picture of the page.
 #include "host/gui/window/DrawingArea.h"
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 
 #include <QPainter>
 #include <memory>

@@ -2,7 +2,7 @@
 #include "host/gui/window/FrameActions.h"
 
 #include "host/core/Application.h"
-#include "host/core/MacroWords.h"
+#include "host/core/macro/MacroWords.h"
 #include "host/gui/window/MainWindow.h"
 #include "host/gui/window/MenuActions.h"
 

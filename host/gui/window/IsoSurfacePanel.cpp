@@ -1,8 +1,8 @@
 // Surfaces of constant value.
 #include "host/gui/window/IsoSurfacePanel.h"
 
-#include "host/core/DataSet.h"
-#include "host/core/FrameStyle.h"
+#include "host/core/page/DataSet.h"
+#include "host/core/page/FrameStyle.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/Numbers.h"
 #include "host/gui/window/QuantityRange.h"

@@ -2,8 +2,8 @@
 #include "host/gui/window/MacroActions.h"
 
 #include "host/core/Application.h"
-#include "host/core/MacroFile.h"
-#include "host/core/SceneMacro.h"
+#include "host/core/macro/MacroFile.h"
+#include "host/core/macro/SceneMacro.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/MainWindow.h"
 #include "host/gui/window/MenuActions.h"

@@ -1,7 +1,7 @@
 // The host's screen: draws the page into the drawing area.
 #include "host/gui/window/PictureScreen.h"
 
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 #include "host/gui/window/DrawingArea.h"
 
 #include <QScopedValueRollback>

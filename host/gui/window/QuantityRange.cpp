@@ -1,7 +1,7 @@
 // The range of a quantity of the data.
 #include "host/gui/window/QuantityRange.h"
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 namespace corvane::gui {
 

@@ -1,8 +1,8 @@
 // Planes cut through the data.
 #include "host/gui/window/SlicePanel.h"
 
-#include "host/core/DataSet.h"
-#include "host/core/FrameStyle.h"
+#include "host/core/page/DataSet.h"
+#include "host/core/page/FrameStyle.h"
 #include "host/gui/window/Numbers.h"
 #include "host/gui/window/ValueSlider.h"
 

@@ -1,7 +1,7 @@
 // The times at which data can be shown.
 #include "host/gui/window/SolutionTimes.h"
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include "host/gui/window/StyleEditor.h"
 
 #include "host/core/Application.h"
-#include "host/core/MacroWords.h"
+#include "host/core/macro/MacroWords.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/ColorButton.h"
 #include "host/gui/window/NumberEdit.h"

@@ -1,7 +1,7 @@
 // Binds controls to style values.
 #pragma once
 
-#include "host/core/StyleTree.h"
+#include "host/core/page/StyleTree.h"
 #include "host/gui/window/Commands.h"
 
 #include <QColor>

@@ -1,7 +1,7 @@
 // The blocks of the data as surfaces.
 #include "host/gui/window/SurfacePanel.h"
 
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 #include "host/gui/QtText.h"
 
 namespace corvane::gui {

@@ -2,7 +2,7 @@
 #include "host/gui/window/TimePlayer.h"
 
 #include "host/core/Application.h"
-#include "host/core/MacroWords.h"
+#include "host/core/macro/MacroWords.h"
 #include "host/gui/window/SolutionTimes.h"
 
 #include <algorithm>

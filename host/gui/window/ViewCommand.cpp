@@ -2,7 +2,7 @@
 #include "host/gui/window/ViewCommand.h"
 
 #include "host/core/Application.h"
-#include "host/core/SceneMacro.h"
+#include "host/core/macro/SceneMacro.h"
 
 namespace corvane::gui {
 

@@ -1,7 +1,7 @@
 // How a pointer moves a view: arithmetic alone.
 #pragma once
 
-#include "host/core/View3D.h"
+#include "host/core/page/View3D.h"
 
 namespace corvane::gui {
 

@@ -1,6 +1,6 @@
 // The add-on's commands in the host's macros.
 #include "addon/macro/MacroManager.h"
-#include "host/core/MacroText.h"
+#include "host/core/macro/MacroText.h"
 #include "tests/unit/addon_lists/DialogMainTest.h"
 
 #include <gmock/gmock.h>

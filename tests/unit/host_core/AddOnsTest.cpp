@@ -1,8 +1,8 @@
 // Tests of add-ons and of loading their libraries.
-#include "host/core/AddOns.h"
+#include "host/core/addons/AddOns.h"
 
+#include "tests/support/TempFolder.h"
 #include "tests/unit/host_core/Fakes.h"
-#include "tests/unit/host_core/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -95,8 +95,8 @@ TEST_F(AddOnsTest, AnEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
 }
 
 TEST_F(AddOnsTest, FilesThatAreNoLibrariesAreNamed) {
-    const fakes::TemporaryFolder folder;
-    EXPECT_THAT(failureOf(folder.path("missing.so")), HasSubstr(folder.path("missing.so")));
+    const test::TempFolder folder;
+    EXPECT_THAT(failureOf(folder.file("missing.so")), HasSubstr(folder.file("missing.so")));
     const std::string text = folder.write("text.so", "not a library");
     EXPECT_THAT(failureOf(text), HasSubstr("Cannot load the add-on " + text));
 }

@@ -1,8 +1,8 @@
 // Tests of the rules that tie the host's parts together.
 #include "host/core/Application.h"
 
+#include "tests/support/TempFolder.h"
 #include "tests/unit/host_core/Fakes.h"
-#include "tests/unit/host_core/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -238,9 +238,9 @@ TEST_F(ApplicationTest, SetsThePlotType) {
 }
 
 TEST_F(ApplicationTest, AFailedMovieStopsTheAnimationUntilItIsCancelled) {
-    const fakes::TemporaryFolder folder;
+    const test::TempFolder folder;
     open();
-    app.exportSetup().fileName = folder.path("movie.avi");
+    app.exportSetup().fileName = folder.file("movie.avi");
     app.exportSetup().imageWidth = 8;
     host.movies.failAdd = 2;
     app.status().start("Exporting", true, true);
@@ -256,9 +256,9 @@ TEST_F(ApplicationTest, AFailedMovieStopsTheAnimationUntilItIsCancelled) {
 }
 
 TEST_F(ApplicationTest, TheExportSetupIsClosedWhileAMovieIsRecorded) {
-    const fakes::TemporaryFolder folder;
+    const test::TempFolder folder;
     open();
-    app.exportSetup().fileName = folder.path("movie.avi");
+    app.exportSetup().fileName = folder.file("movie.avi");
     app.exportSetup().imageWidth = 8;
     ASSERT_TRUE(app.exporter().start());
     EXPECT_EQ(app.setStyle({"ExportSetup", "ImageWidth"}, 16L), StyleSet_NotAllowed);

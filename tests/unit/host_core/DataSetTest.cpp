@@ -1,5 +1,5 @@
 // Tests of variables by name and of the zones of a solution time.
-#include "host/core/DataSet.h"
+#include "host/core/page/DataSet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

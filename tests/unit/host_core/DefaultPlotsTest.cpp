@@ -1,5 +1,5 @@
 // Tests of the first picture of data.
-#include "host/core/Frame.h"
+#include "host/core/page/Frame.h"
 
 #include "tests/unit/host_core/Fakes.h"
 

@@ -1,5 +1,5 @@
 // Tests of the export settings, their ranges and their words in macros.
-#include "host/core/ExportSetup.h"
+#include "host/core/picture/ExportSetup.h"
 
 #include <gtest/gtest.h>
 

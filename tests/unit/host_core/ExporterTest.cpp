@@ -1,8 +1,8 @@
 // Tests of recording: what is refused, what is written, and what a failure leaves behind.
-#include "host/core/Exporter.h"
+#include "host/core/picture/Exporter.h"
 
+#include "tests/support/TempFolder.h"
 #include "tests/unit/host_core/Fakes.h"
-#include "tests/unit/host_core/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ protected:
     ExporterTest() {
         renderer.log = &movies.log;
         page.createFrame({0, 0, 4, 3});
-        setup.fileName = folder.path("movie.avi");
+        setup.fileName = folder.file("movie.avi");
         setup.imageWidth = 40;
         folder.write("movie.avi", "older");
     }
@@ -39,7 +39,7 @@ protected:
         expectNothingWritten();
     }
 
-    fakes::TemporaryFolder folder;
+    test::TempFolder folder;
     Page page;
     Locks locks;
     ExportSetup setup;
@@ -73,7 +73,7 @@ TEST_F(ExporterTest, HandsTheSetupToTheWriter) {
     setup.flashCompressionType = FlashCompressionType_SmallestSize;
     ASSERT_TRUE(exporter.start());
     const MovieRequest& request = movies.requests.at(0);
-    EXPECT_EQ(request.path, folder.path("movie.avi.part"));
+    EXPECT_EQ(request.path, folder.file("movie.avi.part"));
     EXPECT_EQ(request.format, ExportFormat_FlashSWF);
     EXPECT_EQ(request.width, 40);
     EXPECT_EQ(request.height, 30);
@@ -164,7 +164,7 @@ TEST_F(ExporterTest, RefusesPicturesTooHighToDraw) {
 }
 
 TEST_F(ExporterTest, RefusesAFolderThatIsMissing) {
-    setup.fileName = folder.path("missing/movie.avi");
+    setup.fileName = folder.file("missing/movie.avi");
     expectRefused("there is no folder");
 }
 
@@ -177,9 +177,9 @@ TEST_F(ExporterTest, AWriterThatCannotBeOpenedLeavesNothing) {
 }
 
 TEST_F(ExporterTest, AWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
-    movies.failOpen = "The movie \"" + folder.path("movie.avi.part") + "\" has no encoder.";
+    movies.failOpen = "The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.";
     EXPECT_FALSE(exporter.start());
-    EXPECT_EQ(exporter.failure(), "The movie \"" + folder.path("movie.avi") + "\" has no encoder.");
+    EXPECT_EQ(exporter.failure(), "The movie \"" + folder.file("movie.avi") + "\" has no encoder.");
 }
 
 TEST_F(ExporterTest, AFirstPictureThatCannotBeDrawnLeavesNothing) {
@@ -240,10 +240,10 @@ TEST_F(ExporterTest, AFinishThatFailsLeavesNothing) {
 
 TEST_F(ExporterTest, AMovieThatCannotTakeItsPlaceLeavesNothing) {
     ASSERT_TRUE(exporter.start());
-    std::filesystem::remove(folder.path("movie.avi"));
-    std::filesystem::create_directory(folder.path("movie.avi"));
+    std::filesystem::remove(folder.file("movie.avi"));
+    std::filesystem::create_directory(folder.file("movie.avi"));
     EXPECT_FALSE(exporter.finish());
-    EXPECT_THAT(exporter.failure(), HasSubstr(folder.path("movie.avi")));
+    EXPECT_THAT(exporter.failure(), HasSubstr(folder.file("movie.avi")));
     EXPECT_FALSE(exporter.isRecording());
     EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
 }

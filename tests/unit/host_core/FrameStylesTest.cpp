@@ -1,6 +1,6 @@
 // Tests of the paths of a frame and what they reach.
-#include "host/core/Frame.h"
-#include "host/core/PointList.h"
+#include "host/core/page/Frame.h"
+#include "host/core/page/PointList.h"
 
 #include "tests/unit/host_core/Fakes.h"
 

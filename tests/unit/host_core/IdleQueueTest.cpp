@@ -1,5 +1,5 @@
 // Tests of work that waits for idle time.
-#include "host/core/IdleQueue.h"
+#include "host/core/addons/IdleQueue.h"
 
 #include "tests/unit/host_core/Fakes.h"
 

@@ -1,7 +1,7 @@
 // Tests of the count of locks.
-#include "host/core/Locks.h"
+#include "host/core/addons/Locks.h"
 
-#include "host/core/AddOns.h"
+#include "host/core/addons/AddOns.h"
 
 #include <gtest/gtest.h>
 

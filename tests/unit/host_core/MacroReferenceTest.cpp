@@ -1,7 +1,7 @@
 // The reference page says what the program does.
-#include "host/core/MacroReference.h"
+#include "host/core/macro/MacroReference.h"
 
-#include "host/core/MacroCommands.h"
+#include "host/core/macro/MacroCommands.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // Tests of lines, words and quotes of macros.
-#include "host/core/MacroText.h"
+#include "host/core/macro/MacroText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

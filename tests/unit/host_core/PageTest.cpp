@@ -1,5 +1,5 @@
 // Tests of the stack of frames and the scale of the paper.
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "host/core/PartFile.h"
 
 #include "host/core/HostError.h"
-#include "tests/unit/host_core/TemporaryFolder.h"
+#include "tests/support/TempFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -29,18 +29,18 @@ protected:
         return {};
     }
 
-    fakes::TemporaryFolder folder;
+    test::TempFolder folder;
 };
 
 TEST_F(PartFileTest, StandsBesideItsDestination) {
-    const PartFile file(folder.path("movie.mp4"));
-    EXPECT_EQ(file.destination(), folder.path("movie.mp4"));
-    EXPECT_EQ(file.path(), folder.path("movie.mp4.part"));
+    const PartFile file(folder.file("movie.mp4"));
+    EXPECT_EQ(file.destination(), folder.file("movie.mp4"));
+    EXPECT_EQ(file.path(), folder.file("movie.mp4.part"));
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4.part"));
 }
 
 TEST_F(PartFileTest, NamesItsDestinationInMessagesAboutItsPath) {
-    const PartFile file(folder.path("a.part"));
+    const PartFile file(folder.file("a.part"));
     EXPECT_EQ(file.namingDestination("No room for " + file.path() + " (" + file.path() + ")."),
               "No room for " + file.destination() + " (" + file.destination() + ").");
     EXPECT_EQ(file.namingDestination("The disk is full."), "The disk is full.");
@@ -49,7 +49,7 @@ TEST_F(PartFileTest, NamesItsDestinationInMessagesAboutItsPath) {
 TEST_F(PartFileTest, DisappearsUnlessItIsCommitted) {
     folder.write("movie.mp4", "older");
     {
-        const PartFile file(folder.path("movie.mp4"));
+        const PartFile file(folder.file("movie.mp4"));
         folder.write("movie.mp4.part", "half");
     }
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));
@@ -59,7 +59,7 @@ TEST_F(PartFileTest, DisappearsUnlessItIsCommitted) {
 TEST_F(PartFileTest, TakesThePlaceOfTheOlderFileWhenItIsCommitted) {
     folder.write("movie.mp4", "older");
     {
-        PartFile file(folder.path("movie.mp4"));
+        PartFile file(folder.file("movie.mp4"));
         folder.write("movie.mp4.part", "newer");
         EXPECT_EQ(folder.read("movie.mp4"), "older");
         file.commit();
@@ -70,7 +70,7 @@ TEST_F(PartFileTest, TakesThePlaceOfTheOlderFileWhenItIsCommitted) {
 
 TEST_F(PartFileTest, OverwritesThePartOfAnEarlierCrash) {
     folder.write("movie.mp4.part", "left by a crash");
-    PartFile file(folder.path("movie.mp4"));
+    PartFile file(folder.file("movie.mp4"));
     EXPECT_EQ(folder.read("movie.mp4.part"), "");
 }
 
@@ -84,31 +84,31 @@ TEST_F(PartFileTest, WorksInTheCurrentFolder) {
 }
 
 TEST_F(PartFileTest, RefusesAMissingFolder) {
-    const std::string failure = failureOf(folder.path("missing/movie.mp4"));
-    EXPECT_THAT(failure, HasSubstr(folder.path("missing/movie.mp4")));
-    EXPECT_THAT(failure, HasSubstr("there is no folder " + folder.path("missing")));
+    const std::string failure = failureOf(folder.file("missing/movie.mp4"));
+    EXPECT_THAT(failure, HasSubstr(folder.file("missing/movie.mp4")));
+    EXPECT_THAT(failure, HasSubstr("there is no folder " + folder.file("missing")));
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
 TEST_F(PartFileTest, RefusesAFileInPlaceOfTheFolder) {
     folder.write("file", "");
-    EXPECT_THAT(failureOf(folder.path("file/movie.mp4")), HasSubstr("there is no folder"));
+    EXPECT_THAT(failureOf(folder.file("file/movie.mp4")), HasSubstr("there is no folder"));
 }
 
 TEST_F(PartFileTest, RefusesAFolderAsDestination) {
-    std::filesystem::create_directory(folder.path("movie.mp4"));
-    EXPECT_THAT(failureOf(folder.path("movie.mp4")), HasSubstr("it is a folder"));
+    std::filesystem::create_directory(folder.file("movie.mp4"));
+    EXPECT_THAT(failureOf(folder.file("movie.mp4")), HasSubstr("it is a folder"));
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));
 }
 
 TEST_F(PartFileTest, RefusesToReplaceWhatIsNoRegularFile) {
-    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
-    EXPECT_THAT(failureOf(folder.path("pipe")), HasSubstr("it is not a regular file"));
+    ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
+    EXPECT_THAT(failureOf(folder.file("pipe")), HasSubstr("it is not a regular file"));
     EXPECT_THAT(folder.names(), ElementsAre("pipe"));
 }
 
 TEST_F(PartFileTest, RefusesANameThatTheDiskCannotHold) {
-    EXPECT_THAT(failureOf(folder.path(std::string(255, 'm'))), HasSubstr("Cannot write"));
+    EXPECT_THAT(failureOf(folder.file(std::string(255, 'm'))), HasSubstr("Cannot write"));
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
@@ -119,16 +119,16 @@ TEST_F(PartFileTest, RefusesAFolderThatCannotBeWrittenTo) {
 
 TEST_F(PartFileTest, ACommitThatFailsLeavesTheOlderFileAlone) {
     folder.write("movie.mp4", "older");
-    PartFile file(folder.path("movie.mp4"));
-    std::filesystem::remove(folder.path("movie.mp4.part"));
+    PartFile file(folder.file("movie.mp4"));
+    std::filesystem::remove(folder.file("movie.mp4.part"));
     EXPECT_THROW(file.commit(), HostError);
     EXPECT_EQ(folder.read("movie.mp4"), "older");
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));
 }
 
 TEST_F(PartFileTest, ACommitThatCannotRenameRemovesThePart) {
-    PartFile file(folder.path("movie.mp4"));
-    std::filesystem::create_directory(folder.path("movie.mp4")); // meanwhile, by somebody else
+    PartFile file(folder.file("movie.mp4"));
+    std::filesystem::create_directory(folder.file("movie.mp4")); // meanwhile, by somebody else
     EXPECT_THROW(file.commit(), HostError);
     EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));
 }

@@ -1,5 +1,5 @@
 // A scene that was written as a macro comes back as it was.
-#include "host/core/SceneMacro.h"
+#include "host/core/macro/SceneMacro.h"
 
 #include "tests/unit/host_core/Fakes.h"
 

@@ -1,5 +1,5 @@
 // Tests of the delivery of state changes.
-#include "host/core/StateChanges.h"
+#include "host/core/addons/StateChanges.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // Tests of style values by path.
-#include "host/core/StyleTree.h"
+#include "host/core/page/StyleTree.h"
 
 #include <gtest/gtest.h>
 

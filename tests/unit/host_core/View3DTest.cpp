@@ -1,5 +1,5 @@
 // Tests of the view's arithmetic against closed forms.
-#include "host/core/View3D.h"
+#include "host/core/page/View3D.h"
 
 #include <gtest/gtest.h>
 

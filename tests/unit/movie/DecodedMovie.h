@@ -1,7 +1,7 @@
 // A movie file as the ffmpeg programs, which know nothing of our writer, see it.
 #pragma once
 
-#include "host/core/Picture.h"
+#include "host/core/picture/Picture.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // The formats that an extension stands for.
 #include "host/app/MovieFormats.h"
 
-#include "host/core/ExportSetup.h"
+#include "host/core/picture/ExportSetup.h"
 #include "hostapi/CorEnums.h"
 
 #include <gtest/gtest.h>

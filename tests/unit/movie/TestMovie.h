@@ -1,8 +1,8 @@
 // Pictures made for movies, and movies made of them.
 #pragma once
 
-#include "host/core/Picture.h"
 #include "host/core/Ports.h"
+#include "host/core/picture/Picture.h"
 
 #include <array>
 #include <cstdint>

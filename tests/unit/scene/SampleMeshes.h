@@ -1,7 +1,7 @@
 // Small meshes whose values are known everywhere.
 #pragma once
 
-#include "host/core/Vec3.h"
+#include "host/core/page/Vec3.h"
 
 #include <vtkImageData.h>
 #include <vtkPolyData.h>

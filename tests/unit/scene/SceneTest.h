@@ -1,7 +1,7 @@
 // A page that is drawn, for tests that look at its pixels.
 #pragma once
 
-#include "host/core/Page.h"
+#include "host/core/page/Page.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 #include "host/scene/SceneStatistics.h"

@@ -1,7 +1,7 @@
 // OpenFOAM cases, written as text.
 #pragma once
 
-#include "host/core/Vec3.h"
+#include "host/core/page/Vec3.h"
 
 #include <filesystem>
 #include <functional>

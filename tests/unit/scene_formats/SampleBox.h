@@ -1,7 +1,7 @@
 // The mesh that the samples of all formats hold.
 #pragma once
 
-#include "host/core/Vec3.h"
+#include "host/core/page/Vec3.h"
 
 #include <array>
 #include <vector>

@@ -1,0 +1,17 @@
+// Keeps add-on commands.
+#include "host/core/addons/AddOnCommands.h"
+
+#include <utility>
+
+namespace corvane::host {
+
+bool AddOnCommands::add(const std::string& macroName, AddOnCommand command) {
+    return !macroName.empty() && m_commands.try_emplace(macroName, std::move(command)).second;
+}
+
+const AddOnCommand* AddOnCommands::find(const std::string& macroName) const {
+    const auto found = m_commands.find(macroName);
+    return found == m_commands.end() ? nullptr : &found->second;
+}
+
+} // namespace corvane::host

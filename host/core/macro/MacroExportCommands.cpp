@@ -1,0 +1,87 @@
+// Macro commands about pictures, add-ons and other macros.
+#include "host/core/Application.h"
+#include "host/core/HostError.h"
+#include "host/core/macro/MacroCommands.h"
+
+namespace corvane::host {
+
+namespace {
+
+std::string withoutTrailingBlanks(std::string text) {
+    text.erase(text.find_last_not_of(" \t") + 1);
+    return text;
+}
+
+int rangedFrom(const std::string& name, const std::string& text, int minimum, int maximum) {
+    const int value = integerFrom(text);
+    if (value < minimum || value > maximum) {
+        reject(name + " cannot be \"" + text + "\".");
+    }
+    return value;
+}
+
+ExportRegion_e regionFrom(const std::string& text) {
+    const std::optional<StyleInput> value = exportSettingFromText("ExportRegion", text);
+    if (!value) {
+        reject("Region cannot be \"" + text + "\".");
+    }
+    return static_cast<ExportRegion_e>(std::get<long>(*value));
+}
+
+} // namespace
+
+void exportPicture(const MacroCall& call) {
+    constexpr const char* form = "\"file\" and settings, name = value";
+    expect(!call.words.empty(), form);
+    ExportRegion_e region = ExportRegion_WorkArea;
+    int width = call.application.page().workArea.width;
+    int supersample = 1;
+    for (const auto& [name, text] : settingsOf(call.words, 1, form)) {
+        if (equalIgnoringCase(name, "Region")) {
+            region = regionFrom(text);
+        } else if (equalIgnoringCase(name, "Width")) {
+            width = rangedFrom(name, text, 4, 32766);
+        } else if (equalIgnoringCase(name, "Supersample")) {
+            supersample = rangedFrom(name, text, 1, 16);
+        } else {
+            reject("A picture has no value \"" + name + "\".");
+        }
+    }
+    call.application.exportPicture(call.path(call.words[0]), region, width, supersample);
+}
+
+void runAddOnCommand(const MacroCall& call) {
+    expect(call.words.size() == 2, "\"add-on\" \"command\"");
+    Application& application = call.application;
+    if (application.status().isActive() || application.exporter().isRecording()) {
+        reject("An animation is running.");
+    }
+    const AddOnCommand* found = application.addOnCommands().find(call.words[0]);
+    if (found == nullptr) {
+        reject("There is no add-on \"" + call.words[0] + "\" that has macro commands.");
+    }
+    const AddOnCommand command = *found;
+    Exporter& exporter = application.exporter();
+    exporter.forgetFailure();
+    const std::optional<std::string> error = command(withoutTrailingBlanks(call.words[1]));
+    // The add-on knows only that it was stopped; the exporter knows why.
+    if (exporter.hasFailed()) {
+        throw HostError(exporter.failure());
+    }
+    if (error) {
+        throw HostError(*error);
+    }
+}
+
+void includeMacro(const MacroCall& call) {
+    expect(call.words.size() == 1, "\"file\"");
+    call.application.macros().playFile(call.path(call.words[0]));
+}
+
+void setVariable(const MacroCall& call) {
+    const std::vector<std::string>& words = call.words;
+    expect(words.size() == 3 && words[1] == "=", "name = value");
+    call.application.macros().variables().setDefault(words[0], words[2]);
+}
+
+} // namespace corvane::host

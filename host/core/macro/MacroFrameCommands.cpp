@@ -1,0 +1,116 @@
+// Macro commands about the frames of the page.
+#include "host/core/Application.h"
+#include "host/core/macro/MacroCommands.h"
+
+namespace corvane::host {
+
+namespace {
+
+constexpr const char* placementForm = "X = inches, Y = inches, Width = inches, Height = inches";
+
+Frame& activeFrame(Application& application) {
+    Frame* const frame = application.page().active();
+    if (frame == nullptr) {
+        reject("There is no frame.");
+    }
+    return *frame;
+}
+
+/// An add-on that acts on the active frame would lose it.
+void expectNoAnimation(Application& application) {
+    if (application.status().isActive() || application.exporter().isRecording()) {
+        reject("An animation is running.");
+    }
+}
+
+double lengthFrom(const std::string& name, const std::string& text, double minimum) {
+    constexpr double largest = 1000.0;
+    const double length = numberFrom(text);
+    if (!(length >= minimum && length <= largest)) {
+        reject(name + " cannot be \"" + text + "\".");
+    }
+    return length;
+}
+
+Placement changed(Placement placement, const std::vector<std::string>& words) {
+    constexpr double smallest = 0.01;
+    constexpr double leftmost = -1000.0;
+    for (const auto& [name, text] : settingsOf(words, 1, placementForm)) {
+        if (equalIgnoringCase(name, "X")) {
+            placement.x = lengthFrom(name, text, leftmost);
+        } else if (equalIgnoringCase(name, "Y")) {
+            placement.y = lengthFrom(name, text, leftmost);
+        } else if (equalIgnoringCase(name, "Width")) {
+            placement.width = lengthFrom(name, text, smallest);
+        } else if (equalIgnoringCase(name, "Height")) {
+            placement.height = lengthFrom(name, text, smallest);
+        } else {
+            reject("A frame has no value \"" + name + "\".");
+        }
+    }
+    return placement;
+}
+
+void createFrame(const MacroCall& call) {
+    Application& application = call.application;
+    const Placement whole = application.page().regionOf(ExportRegion_WorkArea);
+    application.page().createFrame(changed(whole, call.words));
+    application.pageChanged(StateChange_FrameCreated);
+    application.pageChanged(StateChange_FrameActivated);
+}
+
+void placeFrame(const MacroCall& call) {
+    Frame& frame = activeFrame(call.application);
+    frame.placement = changed(frame.placement, call.words);
+    call.application.pageChanged(StateChange_StyleChanged);
+}
+
+void activateFrame(const MacroCall& call) {
+    const std::vector<std::string>& words = call.words;
+    expect(words.size() == 3 && words[1] == "=", "ACTIVATE = number");
+    if (!call.application.activateFrame(longFrom(words[2]))) {
+        reject("There is no frame " + words[2] + ".");
+    }
+}
+
+void deleteFrame(const MacroCall& call) {
+    call.application.deleteFrame(activeFrame(call.application).id());
+}
+
+void popFrame(const MacroCall& call) {
+    call.application.page().raise(activeFrame(call.application).id());
+    call.application.drawing().mark();
+}
+
+void pushFrame(const MacroCall& call) {
+    call.application.page().lower(activeFrame(call.application).id());
+    call.application.drawing().mark();
+}
+
+struct FrameAction {
+    const char* name;
+    bool takesWords;
+    void (*run)(const MacroCall& call);
+};
+
+constexpr FrameAction actions[] = {
+    {"CREATE", true, createFrame},  {"PLACE", true, placeFrame}, {"ACTIVATE", true, activateFrame},
+    {"DELETE", false, deleteFrame}, {"POP", false, popFrame},    {"PUSH", false, pushFrame}};
+
+} // namespace
+
+void changeFrames(const MacroCall& call) {
+    constexpr const char* form = "CREATE, PLACE, ACTIVATE, DELETE, POP or PUSH";
+    expect(!call.words.empty(), form);
+    expectNoAnimation(call.application);
+    for (const FrameAction& action : actions) {
+        if (equalIgnoringCase(action.name, call.words[0])) {
+            expect(action.takesWords || call.words.size() == 1, "nothing behind the word");
+            action.run(call);
+            return;
+        }
+    }
+    expect(false, form);
+}
+
+} // namespace corvane::host

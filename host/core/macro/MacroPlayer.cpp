@@ -1,0 +1,107 @@
+// Plays macros line by line.
+#include "host/core/macro/MacroPlayer.h"
+
+#include "host/core/Application.h"
+#include "host/core/HostError.h"
+#include "host/core/macro/MacroCommands.h"
+
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+namespace corvane::host {
+
+namespace {
+
+/// Macros that include each other must end before the stack does.
+constexpr int deepest = 16;
+
+/// Counts plays that are under way, also when one ends by an exception.
+class Counted {
+public:
+    explicit Counted(int& count) : m_count(count) { ++m_count; }
+    ~Counted() { --m_count; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+
+private:
+    int& m_count;
+};
+
+/// Lets macros name files beside them, to add-ons too.
+class FolderVariable {
+public:
+    FolderVariable(MacroVariables& variables, std::string& current, const std::string& folder)
+        : m_variables(variables), m_current(current), m_outer(std::exchange(current, folder)) {
+        publish();
+    }
+    ~FolderVariable() {
+        m_current = m_outer;
+        publish();
+    }
+    FolderVariable(const FolderVariable&) = delete;
+    FolderVariable& operator=(const FolderVariable&) = delete;
+
+private:
+    void publish() { m_variables.set("MACRO_FOLDER", m_current.empty() ? "." : m_current); }
+
+    MacroVariables& m_variables;
+    std::string& m_current;
+    std::string m_outer;
+};
+
+} // namespace
+
+void MacroPlayer::playFile(const std::string& fileName) {
+    const std::filesystem::path path(fileName);
+    std::error_code error;
+    std::ifstream file(path, std::ios::binary);
+    if (!file || std::filesystem::is_directory(path, error)) {
+        throw HostError("Cannot open the macro file " + fileName + ".");
+    }
+    play(file, fileName, path.parent_path().string());
+}
+
+void MacroPlayer::play(std::istream& macro, const std::string& name, const std::string& folder) {
+    const Counted playing(m_depth);
+    if (m_depth > deepest) {
+        throw HostError("Macros include each other more than " + std::to_string(deepest) +
+                        " deep; does one include itself?");
+    }
+    const FolderVariable here(m_variables, m_folder, folder);
+    MacroReader reader(macro, name);
+    MacroLine line;
+    while (reader.next(line)) {
+        runLine(line, name, folder);
+    }
+}
+
+void MacroPlayer::run(const std::string& name, const std::vector<std::string>& words,
+                      const std::string& folder) {
+    const MacroCommand* const command = findMacroCommand(name);
+    if (command == nullptr) {
+        reject("There is no command " + name + ".");
+    }
+    const MacroCall call{m_application, words, folder};
+    command->run(call);
+    if (const std::string line = recordedLine(*command, call); !line.empty()) {
+        m_application.recorder().recordRaw(line);
+    }
+}
+
+void MacroPlayer::runLine(const MacroLine& line, const std::string& name,
+                          const std::string& folder) {
+    try {
+        std::vector<std::string> words;
+        for (const std::string& word : line.words) {
+            words.push_back(m_variables.expand(word));
+        }
+        run(line.name, words, folder);
+    } catch (const MacroError&) {
+        throw; // it names the line of an included macro
+    } catch (const std::exception& error) {
+        throw MacroError(name, line.number, line.text, error.what());
+    }
+}
+
+} // namespace corvane::host

@@ -1,0 +1,41 @@
+// Carries out macros: a scene, an export set-up, a flight, line by line.
+#pragma once
+
+#include "host/core/macro/MacroText.h"
+#include "host/core/macro/MacroVariables.h"
+
+#include <string>
+#include <vector>
+
+namespace corvane::host {
+
+class Application;
+
+class MacroPlayer {
+public:
+    explicit MacroPlayer(Application& application) : m_application(application) {}
+
+    bool isPlaying() const { return m_depth > 0; }
+    MacroVariables& variables() { return m_variables; }
+
+    /// Throws MacroError at the first line that fails; the lines before it have taken effect.
+    void playFile(const std::string& fileName);
+    /// name and folder stand for the file in messages and for relative file names.
+    void play(std::istream& macro, const std::string& name, const std::string& folder);
+
+    /// One command, as if it stood in a macro of that folder, but without variables. Throws
+    /// std::invalid_argument for words that make no sense, HostError for what cannot be done. What
+    /// was done is recorded while a macro is being recorded.
+    void run(const std::string& name, const std::vector<std::string>& words,
+             const std::string& folder = ".");
+
+private:
+    void runLine(const MacroLine& line, const std::string& name, const std::string& folder);
+
+    Application& m_application;
+    MacroVariables m_variables;
+    std::string m_folder; ///< of the macro that plays
+    int m_depth = 0;
+};
+
+} // namespace corvane::host

@@ -1,0 +1,234 @@
+// Splits macros into lines and words.
+#include "host/core/macro/MacroText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane::host {
+
+namespace {
+
+constexpr std::size_t longestLine = std::size_t{1} << 20U;
+constexpr std::size_t longestShown = 200;
+
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
+
+bool isAlphanumeric(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+std::string trimmed(const std::string& text) {
+    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
+    const auto last = std::find_if_not(text.rbegin(), text.rend(), isBlank).base();
+    return first < last ? std::string(first, last) : std::string();
+}
+
+/// Whether a byte belongs to a UTF-8 character that began before it.
+bool isContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xc0U) == 0x80U;
+}
+
+/// Part of a line that does no harm in a terminal, whatever file it comes from.
+std::string shown(const std::string& text) {
+    std::size_t size = std::min(text.size(), longestShown);
+    while (size > 0 && size < text.size() && isContinuation(text[size])) {
+        --size;
+    }
+    std::string result = text.substr(0, size);
+    std::replace_if(
+        result.begin(), result.end(),
+        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }, '?');
+    return text.size() > longestShown ? result + "…" : result;
+}
+
+/// Takes words from a line, one by one.
+class Splitter {
+public:
+    explicit Splitter(const std::string& text) : m_text(text) {}
+
+    std::vector<std::string> words() {
+        std::vector<std::string> all;
+        while (skipBlanks()) {
+            all.push_back(word());
+        }
+        return all;
+    }
+
+private:
+    bool skipBlanks() {
+        while (!atEnd() && isBlank(m_text[m_at])) {
+            ++m_at;
+        }
+        return !atEnd();
+    }
+
+    std::string word() {
+        switch (m_text[m_at]) {
+        case '=':
+            ++m_at;
+            return "=";
+        case '"':
+            return quotedWord();
+        default:
+            return plainWord();
+        }
+    }
+
+    std::string plainWord() {
+        const std::size_t begin = m_at;
+        while (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
+            if (m_text[m_at] == '"') {
+                throw std::invalid_argument("A quote stands within a word.");
+            }
+            ++m_at;
+        }
+        return m_text.substr(begin, m_at - begin);
+    }
+
+    std::string quotedWord() {
+        std::string result;
+        for (++m_at; !atEnd() && m_text[m_at] != '"'; ++m_at) {
+            result += m_text[m_at] == '\\' ? escaped() : m_text[m_at];
+        }
+        if (atEnd()) {
+            throw std::invalid_argument("A closing quote is missing.");
+        }
+        ++m_at;
+        if (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
+            throw std::invalid_argument("A blank is missing behind a quoted word.");
+        }
+        return result;
+    }
+
+    /// Stands on the last character of the escape afterwards.
+    char escaped() {
+        ++m_at;
+        switch (atEnd() ? '\0' : m_text[m_at]) {
+        case '"':
+            return '"';
+        case '\\':
+            return '\\';
+        case 'n':
+            return '\n';
+        default:
+            throw std::invalid_argument(
+                "A backslash within quotes must be followed by \\, \" or n.");
+        }
+    }
+
+    bool atEnd() const { return m_at >= m_text.size(); }
+
+    const std::string& m_text;
+    std::size_t m_at = 0;
+};
+
+} // namespace
+
+MacroError::MacroError(const std::string& file, unsigned long line, const std::string& text,
+                       const std::string& cause)
+    : std::runtime_error(file + ":" + std::to_string(line) + ": " + shown(text) + "\n" + cause) {}
+
+std::string quoted(const std::string& text) {
+    std::string result = "\"";
+    for (const char c : text) {
+        switch (c) {
+        case '"':
+        case '\\':
+            result += '\\';
+            result += c;
+            break;
+        case '\n':
+            result += "\\n";
+            break;
+        default:
+            result += c;
+        }
+    }
+    return result + '"';
+}
+
+std::string macroLine(const std::string& name, const std::vector<std::string>& words) {
+    std::string line = "$!" + name;
+    for (const std::string& word : words) {
+        const bool isPlain = word == "=" || (!word.empty() && word.find_first_of(" \t\n\r\"\\=") ==
+                                                                  std::string::npos);
+        line += ' ' + (isPlain ? word : quoted(word));
+    }
+    return line;
+}
+
+std::vector<std::string> splitWords(const std::string& text) {
+    return Splitter(text).words();
+}
+
+MacroReader::MacroReader(std::istream& stream, std::string fileName)
+    : m_stream(stream), m_fileName(std::move(fileName)) {}
+
+bool MacroReader::next(MacroLine& line) {
+    std::string text;
+    while (readLine(text)) {
+        text = trimmed(text);
+        if (!text.empty() && text.front() != '#') {
+            parse(text, line);
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Straight from the buffer, since a stream makes much of each byte.
+int MacroReader::nextByte() {
+    try {
+        return m_stream.rdbuf()->sbumpc();
+    } catch (const std::exception&) {
+        fail({}, "The file cannot be read.");
+    }
+}
+
+/// Byte by byte, so that a line without end is given up before it fills the memory.
+bool MacroReader::readLine(std::string& text) {
+    text.clear();
+    ++m_number;
+    int byte = nextByte();
+    const bool isAtEnd = byte == std::istream::traits_type::eof();
+    while (byte != '\n' && byte != std::istream::traits_type::eof()) {
+        text += static_cast<char>(byte);
+        if (text.size() > longestLine) {
+            fail(text, "The line is longer than 1 MiB. Is this a macro?");
+        }
+        byte = nextByte();
+    }
+    return !isAtEnd;
+}
+
+void MacroReader::parse(const std::string& text, MacroLine& line) const {
+    if (text.compare(0, 2, "$!") != 0) {
+        fail(text, "A command begins with $!, a comment with #.");
+    }
+    const auto nameBegin = text.begin() + 2;
+    const auto nameEnd = std::find_if_not(nameBegin, text.end(), isAlphanumeric);
+    if (nameBegin == nameEnd) {
+        fail(text, "The name of a command is missing behind $!.");
+    }
+    line.name.assign(nameBegin, nameEnd);
+    std::transform(line.name.begin(), line.name.end(), line.name.begin(), upper);
+    line.number = m_number;
+    line.text = text;
+    try {
+        line.words = splitWords(std::string(nameEnd, text.end()));
+    } catch (const std::invalid_argument& error) {
+        fail(text, error.what());
+    }
+}
+
+void MacroReader::fail(const std::string& text, const std::string& cause) const {
+    throw MacroError(m_fileName, m_number, text, cause);
+}
+
+} // namespace corvane::host

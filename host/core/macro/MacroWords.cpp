@@ -1,0 +1,84 @@
+// Reads values from the words of macros, the same way in every country.
+#include "host/core/macro/MacroWords.h"
+
+#include "host/core/page/StyleTree.h"
+
+#include <array>
+#include <charconv>
+#include <filesystem>
+
+namespace corvane::host {
+
+namespace {
+
+template <typename T>
+T parsed(const std::string& text) {
+    T value{};
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc() || stop != end) {
+        reject("\"" + text + "\" is not a number that fits here.");
+    }
+    return value;
+}
+
+} // namespace
+
+std::string MacroCall::path(const std::string& fileName) const {
+    return (std::filesystem::path(folder) / fileName).string();
+}
+
+void reject(const std::string& cause) {
+    throw std::invalid_argument(cause);
+}
+
+void expect(bool isSo, const char* form) {
+    if (!isSo) {
+        reject(std::string("Expected ") + form + ".");
+    }
+}
+
+double numberFrom(const std::string& text) {
+    return parsed<double>(text);
+}
+
+int integerFrom(const std::string& text) {
+    return parsed<int>(text);
+}
+
+long longFrom(const std::string& text) {
+    return parsed<long>(text);
+}
+
+std::string exactText(double number) {
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return {buffer.data(), end};
+}
+
+bool booleanFrom(const std::string& text) {
+    if (equalIgnoringCase(text, "true")) {
+        return true;
+    }
+    if (!equalIgnoringCase(text, "false")) {
+        reject("\"" + text + "\" is neither true nor false.");
+    }
+    return false;
+}
+
+const std::string& valueOf(const std::vector<std::string>& words, const char* form) {
+    expect(words.size() == 2 && words[0] == "=", form);
+    return words[1];
+}
+
+std::vector<std::pair<std::string, std::string>> settingsOf(const std::vector<std::string>& words,
+                                                            std::size_t first, const char* form) {
+    std::vector<std::pair<std::string, std::string>> settings;
+    for (std::size_t i = first; i < words.size(); i += 3) {
+        expect(i + 2 < words.size() && words[i + 1] == "=", form);
+        settings.emplace_back(words[i], words[i + 2]);
+    }
+    return settings;
+}
+
+} // namespace corvane::host

@@ -1,0 +1,157 @@
+// The export settings, their paths and their words in macros.
+#include "host/core/picture/ExportSetup.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+#include <utility>
+
+namespace corvane::host {
+
+namespace {
+
+struct Keyword {
+    const char* text;
+    int value;
+};
+
+enum class Kind { Integer, Boolean, Number, Text };
+
+/// How a macro writes one setting.
+struct Setting {
+    const char* name;
+    Kind kind;
+    std::vector<Keyword> keywords;
+};
+
+const std::vector<Setting>& settings() {
+    static const std::vector<Setting> all{
+        {"ExportFormat",
+         Kind::Integer,
+         {{"AVI", ExportFormat_AVI},
+          {"FLV", ExportFormat_FlashFLV},
+          {"FLASH", ExportFormat_FlashSWF},
+          {"MPEG4", ExportFormat_MPEG4},
+          {"RASTERMETAFILE", ExportFormat_RasterMetafile},
+          {"WMV", ExportFormat_WMV}}},
+        {"ExportRegion",
+         Kind::Integer,
+         {{"CURRENTFRAME", ExportRegion_CurrentFrame},
+          {"ALLFRAMES", ExportRegion_AllFrames},
+          {"WORKAREA", ExportRegion_WorkArea}}},
+        {"AVICompression",
+         Kind::Integer,
+         {{"COLORPRESERVING", AVICompression_ColorPreserving},
+          {"LINEPRESERVING", AVICompression_LinePreserving},
+          {"LOSSLESSUNCOMPRESSED", AVICompression_LosslessUncompressed}}},
+        {"FlashImageType",
+         Kind::Integer,
+         {{"LOSSLESS", FlashImageType_Lossless},
+          {"JPEG", FlashImageType_JPEG},
+          {"256COLOR", FlashImageType_256Color}}},
+        {"FlashCompressionType",
+         Kind::Integer,
+         {{"BESTSPEED", FlashCompressionType_BestSpeed},
+          {"SMALLESTSIZE", FlashCompressionType_SmallestSize}}},
+        {"ImageWidth", Kind::Integer, {}},
+        {"SuperSampleFactor", Kind::Integer, {}},
+        {"UseSuperSampleAntiAliasing", Kind::Boolean, {{"true", 1}, {"false", 0}}},
+        {"AnimationSpeed", Kind::Number, {}},
+        {"ExportFName", Kind::Text, {}}};
+    return all;
+}
+
+template <typename T>
+std::optional<T> numberFromText(const std::string& text) {
+    T value{};
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc() || stop != end) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// Null without such a setting.
+const Setting* findSetting(const std::string& name) {
+    const auto found =
+        std::find_if(settings().begin(), settings().end(),
+                     [&name](const Setting& s) { return equalIgnoringCase(s.name, name); });
+    return found == settings().end() ? nullptr : &*found;
+}
+
+std::optional<StyleInput> keywordFromText(const Setting& setting, const std::string& text) {
+    for (const Keyword& keyword : setting.keywords) {
+        if (equalIgnoringCase(keyword.text, text)) {
+            return static_cast<long>(keyword.value);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+bool ExportSetup::isAnimationFormat() const {
+    constexpr std::array<int, 6> formats{ExportFormat_RasterMetafile, ExportFormat_AVI,
+                                         ExportFormat_FlashSWF,       ExportFormat_FlashFLV,
+                                         ExportFormat_MPEG4,          ExportFormat_WMV};
+    return std::find(formats.begin(), formats.end(), format) != formats.end();
+}
+
+void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> isAllowed) {
+    const auto bind = [&](const char* name, auto* target, double minimum, double maximum) {
+        StyleLeaf leaf;
+        leaf.path = {"ExportSetup", name};
+        leaf.target = target;
+        leaf.minimum = minimum;
+        leaf.maximum = maximum;
+        leaf.effect = StyleEffect::None;
+        leaf.isAllowed = isAllowed;
+        leaf.needs = "A movie is being recorded.";
+        tree.bind(std::move(leaf));
+    };
+    bind("ExportFormat", &setup.format, 0, std::numeric_limits<int>::max());
+    bind("ExportRegion", &setup.region, 0, ExportRegion_WorkArea);
+    bind("AVICompression", &setup.aviCompression, 0, AVICompression_LosslessUncompressed);
+    bind("FlashImageType", &setup.flashImageType, 0, FlashImageType_256Color);
+    bind("FlashCompressionType", &setup.flashCompressionType, 0, FlashCompressionType_SmallestSize);
+    bind("ImageWidth", &setup.imageWidth, 4, 32766);
+    bind("AnimationSpeed", &setup.animationSpeed, 0.001, 200);
+    bind("UseSuperSampleAntiAliasing", &setup.useSuperSampleAntiAliasing, 0, 1);
+    bind("SuperSampleFactor", &setup.superSampleFactor, 2, 16);
+    bind("ExportFName", &setup.fileName, 0, 0);
+}
+
+std::vector<std::string> exportSettingKeywords(const std::string& name) {
+    std::vector<std::string> keywords;
+    if (const Setting* const setting = findSetting(name)) {
+        for (const Keyword& keyword : setting->keywords) {
+            keywords.emplace_back(keyword.text);
+        }
+    }
+    return keywords;
+}
+
+std::optional<StyleInput> exportSettingFromText(const std::string& name, const std::string& text) {
+    const Setting* const setting = findSetting(name);
+    if (setting == nullptr) {
+        return std::nullopt;
+    }
+    if (const auto keyword = keywordFromText(*setting, text)) {
+        return keyword;
+    }
+    switch (setting->kind) {
+    case Kind::Integer:
+        return numberFromText<long>(text);
+    case Kind::Number:
+        return numberFromText<double>(text);
+    case Kind::Text:
+        return text;
+    case Kind::Boolean:
+        break;
+    }
+    return std::nullopt;
+}
+
+} // namespace corvane::host

@@ -1,0 +1,101 @@
+// Tests of the commands that add-ons offer to macros, and of the movies that they make.
+#include "tests/support/TempFolder.h"
+#include "tests/unit/host_core/MacroTest.h"
+
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <string>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+using MacroAddOnCommandsTest = MacroTest;
+
+TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOnsWithoutTrailingBlanks) {
+    std::vector<std::string> commands;
+    app.addOnCommands().add("Key Frames", [&commands](const std::string& command) {
+        commands.push_back(command);
+        return std::nullopt;
+    });
+    play("$!EXTCOMMAND \"Key Frames\" \"LOAD \\\"a b\\\" \t \"\n"
+         "$!EXTCOMMAND \"Key Frames\" \"  \"\n");
+    EXPECT_THAT(commands, ElementsAre("LOAD \"a b\"", ""));
+}
+
+TEST_F(MacroAddOnCommandsTest, CommandsThatFailTellTheirCause) {
+    app.addOnCommands().add("A", [](const std::string& text) { return "No " + text + "."; });
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A \"key frames\""), "No key frames.");
+    EXPECT_THAT(causeOf("$!EXTCOMMAND B go"), HasSubstr("There is no add-on \"B\""));
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A"), "Expected \"add-on\" \"command\".");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A b c"), "Expected \"add-on\" \"command\".");
+}
+
+TEST_F(MacroAddOnCommandsTest, NoCommandRunsDuringAnAnimation) {
+    int runs = 0;
+    app.addOnCommands().add("A", [&runs](const std::string&) {
+        ++runs;
+        return std::nullopt;
+    });
+    app.status().start("Playing", true, true);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    app.status().finish();
+    EXPECT_EQ(runs, 0);
+    play("$!EXTCOMMAND A go");
+    EXPECT_EQ(runs, 1);
+}
+
+/// An add-on that records a movie of one picture more than can be written.
+class MacroMovieTest : public MacroTest {
+protected:
+    MacroMovieTest() {
+        play("$!READDATA x\n$!EXPORTSETUP ImageWidth = 8\n");
+        app.exportSetup().fileName = folder.file("movie.avi");
+        host.movies.failAdd = 2;
+    }
+    void addCommand(const std::optional<std::string>& reported) {
+        app.addOnCommands().add("A", [this, reported](const std::string&) {
+            app.exporter().start();
+            app.exporter().nextFrame();
+            app.exporter().cancel();
+            return reported;
+        });
+    }
+
+    test::TempFolder folder;
+};
+
+TEST_F(MacroMovieTest, TheCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
+    addCommand("Animation canceled.");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroMovieTest, AFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
+    addCommand(std::nullopt);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroMovieTest, AnOlderFailureIsForgotten) {
+    app.exporter().start();
+    app.exporter().nextFrame();
+    app.exporter().cancel();
+    ASSERT_TRUE(app.exporter().hasFailed());
+    app.addOnCommands().add("Idle", [](const std::string&) { return std::nullopt; });
+    play("$!EXTCOMMAND Idle go");
+    EXPECT_FALSE(app.exporter().hasFailed());
+}
+
+TEST_F(MacroMovieTest, NoCommandRunsWhileAMovieIsRecorded) {
+    addCommand(std::nullopt);
+    ASSERT_TRUE(app.exporter().start());
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 9"),
+              "ImageWidth cannot be set now. A movie is being recorded.");
+    EXPECT_TRUE(app.exporter().isRecording());
+}
+
+} // namespace
+} // namespace corvane::host

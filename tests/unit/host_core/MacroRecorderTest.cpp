@@ -1,0 +1,43 @@
+// Tests of recording macros.
+#include "host/core/macro/MacroRecorder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(MacroRecorderTest, KeepsLinesInOrderWhileItIsOn) {
+    MacroRecorder recorder;
+    recorder.start();
+    EXPECT_TRUE(recorder.isRecording());
+    EXPECT_TRUE(recorder.recordRaw("$!EXPORTSETUP AnimationSpeed = 30"));
+    EXPECT_TRUE(recorder.recordAddOnCommand("Key \"Frames\"", "LOAD \"a b\\c\""));
+    EXPECT_THAT(recorder.stop(), ElementsAre("$!EXPORTSETUP AnimationSpeed = 30",
+                                             R"($!EXTCOMMAND "Key \"Frames\"" "LOAD \"a b\\c\"")"));
+    EXPECT_FALSE(recorder.isRecording());
+    EXPECT_THAT(recorder.lines(), IsEmpty());
+}
+
+TEST(MacroRecorderTest, KeepsNothingWhileItIsOff) {
+    MacroRecorder recorder;
+    EXPECT_FALSE(recorder.recordRaw("$!REDRAW"));
+    EXPECT_FALSE(recorder.recordAddOnCommand("A", "B"));
+    EXPECT_THAT(recorder.lines(), IsEmpty());
+    EXPECT_THAT(recorder.stop(), IsEmpty());
+}
+
+TEST(MacroRecorderTest, StartsWithAnEmptyPage) {
+    MacroRecorder recorder;
+    recorder.start();
+    recorder.recordRaw("old");
+    recorder.start();
+    recorder.recordRaw("new");
+    EXPECT_THAT(recorder.lines(), ElementsAre("new"));
+}
+
+} // namespace
+} // namespace corvane::host
