@@ -2,6 +2,7 @@
 #include "host/gui/widgets/DialogWindow.h"
 
 #include "host/gui/QtText.h"
+#include "host/gui/widgets/ScrolledArea.h"
 
 #include <QCloseEvent>
 #include <QDialogButtonBox>
@@ -25,7 +26,7 @@ DialogWindow::DialogWindow(const host::Dialog& dialog, host::ControlActions& act
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    column->addWidget(m_area);
+    column->addWidget(new ScrolledArea(m_area, this));
     addButtons();
 }
 

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 namespace corvane::test {
 namespace {
@@ -114,6 +115,27 @@ TEST_F(ControlAreaTest, nothingIsCutOffAtAnySizeOfTheFont) {
             keepPicture(dialog, QStringLiteral("%1-%2").arg(dialog).arg(size));
         }
     }
+}
+
+TEST_F(ControlAreaTest, whatIsTooLargeForTheScreenScrolls) {
+    const int top = CorGUIButtonAdd(kites, 100, 100, 1000, 150, "Top", &press);
+    const int bottom = CorGUIButtonAdd(kites, 100, 1800, 1000, 150, "Bottom", &press);
+    launch(kites);
+    QWidget* const window = widgets.widget(kites);
+    EXPECT_FALSE(widgets.widget(bottom)->visibleRegion().isEmpty());
+    QFont huge = window->font();
+    huge.setPointSize(60);
+    window->setFont(huge);
+    settle();
+    EXPECT_LE(window->height(), window->screen()->availableSize().height());
+    EXPECT_LE(window->width(), window->screen()->availableSize().width());
+    EXPECT_TRUE(widgets.widget(bottom)->visibleRegion().isEmpty());
+
+    widgets.widget(top)->setFocus();
+    QTest::keyClick(widgets.widget(top), Qt::Key_Tab);
+    settle();
+    EXPECT_TRUE(widgets.widget(bottom)->hasFocus());
+    EXPECT_FALSE(widgets.widget(bottom)->visibleRegion().isEmpty());
 }
 
 TEST_F(ControlAreaTest, controlsDoNotCoverEachOther) {
