@@ -11,8 +11,9 @@
  *      add-on may be destroyed together with the process.
  *
  * An exception may leave a callback of an add-on: the host catches it, shows its what() in one
- * error box, brings the lock depth and the suspension of drawing back to what they were at the
- * call, and goes on. No operation throws one at the add-on. */
+ * error box, and goes on. Whether it ends in that way or returns, the depth of locks and the
+ * suspension of drawing are brought back to what they were at the call. No operation throws
+ * an exception at the add-on. */
 #ifndef HOSTAPI_COR_ADD_ON_H
 #define HOSTAPI_COR_ADD_ON_H
 

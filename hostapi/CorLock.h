@@ -6,7 +6,8 @@
  * drawing meanwhile is drawn once after the last release.
  *
  * A callback leaves the depth as it found it, with one exception: one that launches a modal dialog
- * may return one deeper, if the dialog's OK and Cancel callbacks return one less deep.
+ * may return one deeper, if the dialog's OK and Cancel callbacks return one less deep. Any other
+ * difference is noted in the trace and put back.
  *
  * Rationale: a lock may be held for the whole life of a modal dialog, and error boxes are shown
  * under locks. A lock that stopped widgets or callbacks would stop the program. */

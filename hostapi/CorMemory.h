@@ -1,7 +1,8 @@
 /* Strings and arrays that host and add-on hand to each other.
  *
  * Rationale: host and add-on may use different allocators, so what crosses the boundary is made and
- * freed by the host alone. */
+ * freed by the host alone. What is freed a second time, or never came from the host, is left alone
+ * and noted in the trace. */
 #ifndef HOSTAPI_COR_MEMORY_H
 #define HOSTAPI_COR_MEMORY_H
 

@@ -4,7 +4,8 @@
 
 /* Each operation and each callback ends its comment with a tag in square brackets. It says from
  * where the call may come, and joins with & and ! the states in which it does its work:
- *   main-thread      the one thread of the user interface; nothing may be called from another one
+ *   main-thread      the one thread of the user interface; from another one a call does nothing,
+ *                    returns its failure, and is noted in the trace
  *   entry            InitCorAddOn113 is running
  *   popping          from CorUtilFrameLightweightPopStart to CorUtilFrameLightweightPopEnd
  *   progress         from CorUtilStatusStartPercentDone to CorUtilStatusFinishPercentDone

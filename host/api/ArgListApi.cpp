@@ -2,21 +2,26 @@
 #include "hostapi/CorArgList.h"
 
 #include "host/api/ArgumentList.h"
+#include "host/api/GivenAway.h"
 #include "host/api/TracedCall.h"
 
-#include <new>
+#include <utility>
 
 using namespace corvane::host;
 
 namespace {
 
 template <class T>
-CorBool append(const char* operation, CorArgList l, const char* name, T value) {
+CorBool append(const Operation& operation, CorArgList l, const char* name, T value) {
     if (!mayProceedUntraced(operation, true)) {
         return FALSE;
     }
     if (!l || !name) {
         reportMisuse(operation, "an argument is NULL");
+        return FALSE;
+    }
+    if (!known(l)) {
+        reportMisuse(operation, "the list was freed before, or is not from the host");
         return FALSE;
     }
     try {
@@ -31,8 +36,7 @@ CorBool append(const char* operation, CorArgList l, const char* name, T value) {
 } // namespace
 
 CorArgList CorUtilArgListAlloc(void) {
-    return mayProceedUntraced("CorUtilArgListAlloc", true) ? new (std::nothrow) CorArgList_s
-                                                           : nullptr;
+    return mayProceedUntraced("CorUtilArgListAlloc", true) ? newArgumentList() : nullptr;
 }
 
 CorBool CorUtilArgListAppendFunction(CorArgList l, const char* name, CorGenericFunc f) {
@@ -60,8 +64,12 @@ CorBool CorUtilArgListAppendDoublePtr(CorArgList l, const char* name, double* re
 }
 
 void CorUtilArgListDealloc(CorArgList* l) {
-    if (l && mayProceedUntraced("CorUtilArgListDealloc", false)) {
-        delete *l;
-        *l = nullptr;
+    const Operation operation("CorUtilArgListDealloc");
+    if (!l || !mayProceedUntraced(operation, false)) {
+        return;
+    }
+    const CorArgList list = std::exchange(*l, nullptr);
+    if (list && !freeArgumentList(list)) {
+        reportMisuse(operation, notGivenAway);
     }
 }

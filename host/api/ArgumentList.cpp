@@ -1,6 +1,10 @@
 // What a CorArgList points to: named values of several types.
 #include "host/api/ArgumentList.h"
 
+#include "host/api/GivenAway.h"
+
+#include <memory>
+#include <new>
 #include <utility>
 
 void CorArgList_s::set(std::string_view name, Value value) {
@@ -12,3 +16,37 @@ void CorArgList_s::set(std::string_view name, Value value) {
     }
     entries.push_back({std::string(name), std::move(value)});
 }
+
+namespace corvane::host {
+
+namespace {
+
+/// Never destroyed: add-ons free what they have when the process ends, too.
+GivenAway<CorArgList_s>& lists() {
+    static auto* given = new GivenAway<CorArgList_s>;
+    return *given;
+}
+
+} // namespace
+
+CorArgList newArgumentList() {
+    std::unique_ptr<CorArgList_s> list(new (std::nothrow) CorArgList_s);
+    if (list) {
+        lists().add(list.get());
+    }
+    return list.release();
+}
+
+CorArgList known(CorArgList list) {
+    return lists().has(list) ? list : nullptr;
+}
+
+bool freeArgumentList(CorArgList list) {
+    const bool isKnown = lists().remove(list);
+    if (isKnown) {
+        delete list;
+    }
+    return isKnown;
+}
+
+} // namespace corvane::host

@@ -31,3 +31,14 @@ struct CorArgList_s {
         return nullptr;
     }
 };
+
+namespace corvane::host {
+
+/// Makes an empty list, to be given back by freeArgumentList. Null without memory.
+CorArgList newArgumentList();
+/// The list; null for one that was freed, or never came from here.
+CorArgList known(CorArgList list);
+/// False: there is no such list.
+bool freeArgumentList(CorArgList list);
+
+} // namespace corvane::host

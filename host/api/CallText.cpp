@@ -58,8 +58,8 @@ void appendAddOn(std::string& text, CorAddOnID value) {
 }
 
 void appendArgumentList(std::string& text, CorArgList value) {
-    if (!value) {
-        text += "NULL";
+    if (!known(value)) {
+        text += value ? "unknown" : "NULL";
         return;
     }
     bool previousIsPath = false;

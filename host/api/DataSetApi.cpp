@@ -1,10 +1,12 @@
 // Zones and solution time.
 #include "hostapi/CorDataSet.h"
 
+#include "host/api/GivenAway.h"
 #include "host/api/TracedCall.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 struct CorSet_s {
@@ -25,6 +27,12 @@ const Zone* find(Application& app, long zone) {
     const DataSet* const data = currentData(app);
     const bool exists = data && zone >= 1 && static_cast<std::size_t>(zone) <= data->zones.size();
     return exists ? &data->zones[static_cast<std::size_t>(zone - 1)] : nullptr;
+}
+
+/// Never destroyed: add-ons free what they have when the process ends, too.
+GivenAway<CorSet_s>& sets() {
+    static auto* given = new GivenAway<CorSet_s>;
+    return *given;
 }
 
 std::unique_ptr<CorSet_s> enabledZones(const DataSet& data) {
@@ -55,15 +63,22 @@ CorBool CorUtilZoneGetEnabled(CorSet* enabled) {
             return call.misuse("enabled is NULL");
         }
         if (const DataSet* const data = currentData(app)) {
-            *enabled = enabledZones(*data).release();
+            std::unique_ptr<CorSet_s> set = enabledZones(*data);
+            sets().add(set.get());
+            *enabled = set.release();
         }
         return *enabled != nullptr;
     });
 }
 
 long CorUtilSetGetNextMember(CorSet set, long member) {
-    return TracedCall("CorUtilSetGetNextMember", set, member).answer(0L, [&](Application&) {
+    const TracedCall call("CorUtilSetGetNextMember", set, member);
+    return call.answer(0L, [&](Application&) {
         if (!set) {
+            return 0L;
+        }
+        if (!sets().has(set)) {
+            call.misuse("the set was freed before, or is not from the host");
             return 0L;
         }
         const auto next = std::upper_bound(set->members.begin(), set->members.end(), member);
@@ -72,10 +87,16 @@ long CorUtilSetGetNextMember(CorSet set, long member) {
 }
 
 void CorUtilSetDealloc(CorSet* set) {
-    TracedCall("CorUtilSetDealloc", set).perform([](Application&) {});
-    if (set) {
-        delete *set;
-        *set = nullptr;
+    const TracedCall call("CorUtilSetDealloc", set);
+    call.perform([](Application&) {});
+    CorSet const old = set ? std::exchange(*set, nullptr) : nullptr;
+    if (!old) {
+        return;
+    }
+    if (sets().remove(old)) {
+        delete old;
+    } else {
+        call.misuse(notGivenAway);
     }
 }
 

@@ -24,7 +24,7 @@ bool isKnown(CoordSys_e system) {
     return system == CoordSys_Paper || system == CoordSys_Screen;
 }
 
-double converted(const char* operation, double v, CoordSys_e from, CoordSys_e to) {
+double converted(const Operation& operation, double v, CoordSys_e from, CoordSys_e to) {
     const TracedCall call(operation, v, from, to);
     return call.answer(0.0, [&](Application& app) {
         if (!isKnown(from) || !isKnown(to)) {

@@ -1,11 +1,11 @@
 // Dialogs and controls: finds what a handle means, and turns C callbacks into functions.
 #include "hostapi/CorGui.h"
 
+#include "host/api/AddOnMemory.h"
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -114,6 +114,7 @@ int CorGUIDialogCreateModeless(int parent, int width, int height, const char* ti
                           help);
     Dialog dialog;
     dialog.label = textOf(title);
+    dialog.owner = call.library();
     dialog.width = width;
     dialog.height = height;
     dialog.init = told(init);
@@ -129,6 +130,7 @@ int CorGUIDialogCreateModal(int parent, int width, int height, const char* title
                           cancel, help);
     Dialog dialog;
     dialog.label = textOf(title);
+    dialog.owner = call.library();
     dialog.width = width;
     dialog.height = height;
     dialog.isModal = true;
@@ -271,7 +273,8 @@ void CorGUIListGetSelectedItems(int list, long** positions, long* count) {
         if (selection.empty() || !positions || !count) {
             return;
         }
-        if (auto* const copy = static_cast<long*>(std::calloc(selection.size(), sizeof(long)))) {
+        if (auto* const copy =
+                static_cast<long*>(allocateForAddOn(selection.size(), sizeof(long)))) {
             std::copy(selection.begin(), selection.end(), copy);
             *positions = copy;
             *count = static_cast<long>(selection.size());

@@ -11,7 +11,7 @@ CorBool CorUtilOnIdleQueueAddCallback(CorOnIdleCallback f, long clientData) {
         if (!f) {
             return call.misuse("f is NULL");
         }
-        app.idle().add([f, clientData] { f(clientData); });
+        app.idle().add([f, clientData] { f(clientData); }, libraryOf(f));
         // A queue that was closed drops what it is given.
         return !app.idle().isEmpty();
     });

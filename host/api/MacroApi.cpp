@@ -3,6 +3,7 @@
 
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
+#include "host/core/macro/MacroText.h"
 #include "hostapi/CorMemory.h"
 
 #include <optional>
@@ -22,8 +23,9 @@ std::optional<std::string> runCommand(Application& app, const std::string& macro
     std::string copy = withoutTrailingBlanks(command);
     char* message = nullptr;
     bool succeeded = false;
-    const std::string thrown = app.callAddOn(
-        "command of " + macroName, [&] { succeeded = callback(copy.data(), &message) != FALSE; });
+    const std::string thrown =
+        app.callAddOn(ofOwner("the command " + quoted(macroName), libraryOf(callback)),
+                      [&] { succeeded = callback(copy.data(), &message) != FALSE; });
     const std::string reported = textOf(message);
     CorUtilStringDealloc(&message);
     if (thrown.empty() && succeeded) {

@@ -2,9 +2,10 @@
 // application, since add-ons do so when the process ends too.
 #include "hostapi/CorMemory.h"
 
+#include "host/api/AddOnMemory.h"
 #include "host/api/TracedCall.h"
 
-#include <cstdlib>
+#include <utility>
 
 using namespace corvane::host;
 
@@ -16,26 +17,27 @@ constexpr long longestString = 1L << 30;
 } // namespace
 
 char* CorUtilStringAlloc(long maxLength) {
-    if (!mayProceedUntraced("CorUtilStringAlloc", true)) {
+    const Operation operation("CorUtilStringAlloc");
+    if (!mayProceedUntraced(operation, true)) {
         return nullptr;
     }
     if (maxLength < 0 || maxLength > longestString) {
-        reportMisuse("CorUtilStringAlloc", "the length is out of range");
+        reportMisuse(operation, "the length is out of range");
         return nullptr;
     }
-    return static_cast<char*>(std::calloc(static_cast<std::size_t>(maxLength) + 1, 1));
+    return static_cast<char*>(allocateForAddOn(static_cast<std::size_t>(maxLength) + 1, 1));
 }
 
 void CorUtilStringDealloc(char** s) {
-    if (s && mayProceedUntraced("CorUtilStringDealloc", false)) {
-        std::free(*s);
-        *s = nullptr;
+    const Operation operation("CorUtilStringDealloc");
+    if (s && mayProceedUntraced(operation, false)) {
+        freeForAddOn(operation, std::exchange(*s, nullptr));
     }
 }
 
 void CorUtilArrayDealloc(void** a) {
-    if (a && mayProceedUntraced("CorUtilArrayDealloc", false)) {
-        std::free(*a);
-        *a = nullptr;
+    const Operation operation("CorUtilArrayDealloc");
+    if (a && mayProceedUntraced(operation, false)) {
+        freeForAddOn(operation, std::exchange(*a, nullptr));
     }
 }

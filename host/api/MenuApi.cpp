@@ -8,8 +8,9 @@ using namespace corvane::host;
 CorBool CorUtilMenuAddOption(const char* menu, const char* label, int one, void (*callback)(void)) {
     const TracedCall call("CorUtilMenuAddOption", menu, label, one, callback);
     return call.answer(false, [&](Application& app) {
-        return menu && label && callback ? app.menuOptions().add(menu, label, callback)
-                                         : call.misuse("an argument is NULL");
+        return menu && label && callback
+                   ? app.menuOptions().add(menu, label, callback, libraryOf(callback))
+                   : call.misuse("an argument is NULL");
     });
 }
 

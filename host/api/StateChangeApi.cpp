@@ -21,18 +21,20 @@ void checkMode(const auto& call, int mode) {
 CorBool CorUtilStateChangeAddCallbackX(CorArgList args) {
     const TracedCall call("CorUtilStateChangeAddCallbackX", args);
     return call.answer(false, [&](Application& app) {
-        const auto* callback = args ? args->find<CorGenericFunc>("CallbackFunction") : nullptr;
+        const CorArgList_s* const list = known(args);
+        const auto* callback = list ? list->find<CorGenericFunc>("CallbackFunction") : nullptr;
         if (!callback || !*callback) {
             return call.misuse("no CallbackFunction");
         }
-        const int* const api = args->find<int>("StateChangeCallbackAPI");
+        const int* const api = list->find<int>("StateChangeCallbackAPI");
         if (api && *api != callbackTakesCodeAlone) {
             return call.misuse("unknown StateChangeCallbackAPI");
         }
-        if (const int* const mode = args->find<int>("StateChangeMode")) {
+        if (const int* const mode = list->find<int>("StateChangeMode")) {
             checkMode(call, *mode);
         }
-        app.stateChanges().addCallback(reinterpret_cast<CorStateChangeCallback>(*callback));
+        app.stateChanges().addCallback(reinterpret_cast<CorStateChangeCallback>(*callback),
+                                       libraryOf(*callback));
         return true;
     });
 }
@@ -45,7 +47,7 @@ CorBool CorUtilStateChangeAddListener(StateChangeMode_e mode, CorStateChangeList
             return call.misuse("f is NULL");
         }
         checkMode(call, mode);
-        app.stateChanges().addListener(f, clientData);
+        app.stateChanges().addListener(f, clientData, libraryOf(f));
         return true;
     });
 }

@@ -76,8 +76,8 @@ bool deliver(const StyleInput& value, const CorArgList_s& args) {
 int CorUtilStyleSet(CorArgList args) {
     const TracedCall call("CorUtilStyleSet", args);
     return call.answer(int(StyleSet_NotAllowed), [&](Application& app) -> int {
-        if (!args) {
-            call.misuse("args is NULL");
+        if (!known(args)) {
+            call.misuse("args is no list of arguments");
             return StyleSet_BadPath;
         }
         return setByPath(app, *args);
@@ -87,8 +87,8 @@ int CorUtilStyleSet(CorArgList args) {
 int CorUtilStyleGet(CorArgList args) {
     const TracedCall call("CorUtilStyleGet", args);
     return call.answer(int(StyleGet_NotAvailable), [&](Application& app) -> int {
-        if (!args) {
-            call.misuse("args is NULL");
+        if (!known(args)) {
+            call.misuse("args is no list of arguments");
             return StyleGet_BadPath;
         }
         StyleInput value;

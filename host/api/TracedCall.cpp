@@ -6,18 +6,27 @@
 
 namespace corvane::host {
 
-bool mayProceedUntraced(const char* operation, bool hasResult) {
-    Application* const application = Application::current();
-    return !application || mayProceed(application->trace(), operation, hasResult);
-}
-
-void reportMisuse(const char* operation, const std::string& what) {
-    if (Application* const application = Application::current()) {
-        application->trace().misuse(std::string(operation) + ": " + what);
+bool mayProceedUntraced(const Operation& operation, bool hasResult) {
+    if (isOnWrongThread(operation)) {
+        return false;
     }
+    Application* const application = Application::current();
+    return !application || mayProceed(application->trace(), operation.name, hasResult);
 }
 
-void reportException(const char* operation) {
+void reportMisuse(const Operation& operation, const std::string& what) {
+    Application::tellMisuse(complaint(operation, what));
+}
+
+bool isOnWrongThread(const Operation& operation) {
+    if (Application::isHomeThread()) {
+        return false;
+    }
+    reportMisuse(operation, "called on another thread than the user interface's; ignored");
+    return true;
+}
+
+void reportException(const Operation& operation) {
     try {
         throw;
     } catch (const std::exception& error) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/api/CallText.h"
+#include "host/api/Operation.h"
 #include "host/core/Application.h"
 
 #include <string>
@@ -10,13 +11,13 @@
 
 namespace corvane::host {
 
-/// One call of a C operation. It answers the failure without an application, records the call and
-/// its result in the trace, and keeps exceptions of the host inside. While nobody listens to the
-/// trace, no text is made.
+/// One call of a C operation. It answers the failure without an application and on other threads
+/// than its own, records the call and its result in the trace, and keeps exceptions of the host
+/// inside. While nobody listens to the trace, no text is made.
 template <class... Arguments>
 class TracedCall {
 public:
-    explicit TracedCall(const char* operation, Arguments... arguments)
+    explicit TracedCall(Operation operation, Arguments... arguments)
         : m_operation(operation), m_arguments(arguments...) {}
 
     /// The result of work(application); failure when that is not possible.
@@ -30,6 +31,9 @@ public:
     /// Tells the trace what the caller did wrong. Answers false, which often is the result then.
     bool misuse(const std::string& what) const;
 
+    /// The library that made the call; empty when it is not known.
+    std::string library() const { return libraryAt(m_operation.calledFrom); }
+
 private:
     template <class Work, class AppendResult>
     void run(bool hasResult, const Work& work, const AppendResult& appendResult) const;
@@ -37,7 +41,7 @@ private:
     void guarded(const Step& step) const;
     std::string text() const;
 
-    const char* m_operation;
+    Operation m_operation;
     std::tuple<Arguments...> m_arguments;
 };
 
@@ -48,16 +52,19 @@ inline bool mayProceed(const CallTrace& trace, const char* operation, bool hasRe
 
 /// For the operations that build lists and strings: they are needed with or without an
 /// application, and would drown all others in the trace.
-bool mayProceedUntraced(const char* operation, bool hasResult);
-void reportMisuse(const char* operation, const std::string& what);
+bool mayProceedUntraced(const Operation& operation, bool hasResult);
+void reportMisuse(const Operation& operation, const std::string& what);
+
+/// True, and told to the trace, on any thread but that of the application.
+bool isOnWrongThread(const Operation& operation);
 
 /// To be called in a catch block: tells the trace about the exception.
-void reportException(const char* operation);
+void reportException(const Operation& operation);
 void record(Application& application, std::string call, std::string result);
 
 template <class... Arguments>
 std::string TracedCall<Arguments...>::text() const {
-    std::string text = m_operation;
+    std::string text = m_operation.name;
     text += '(';
     const char* separator = "";
     const auto append = [&](auto argument) {
@@ -84,11 +91,12 @@ template <class... Arguments>
 template <class Work, class AppendResult>
 void TracedCall<Arguments...>::run(bool hasResult, const Work& work,
                                    const AppendResult& appendResult) const {
-    Application* const application = Application::current();
+    Application* const application =
+        isOnWrongThread(m_operation) ? nullptr : Application::current();
     if (!application) {
         return;
     }
-    const bool proceeds = mayProceed(application->trace(), m_operation, hasResult);
+    const bool proceeds = mayProceed(application->trace(), m_operation.name, hasResult);
     const bool isTraced = application->trace().isOn();
     std::string call;
     guarded([&] {

@@ -6,7 +6,10 @@
 #include "host/core/picture/PictureRequests.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 namespace corvane::host {
@@ -19,15 +22,19 @@ std::vector<Application*>& alive() {
     return *applications;
 }
 
+/// Only the home thread changes the list, and may read it without; others must not see it change.
+std::mutex& aliveMutex() {
+    static auto* mutex = new std::mutex;
+    return *mutex;
+}
+
+/// Of the current application; no thread at all without one.
+std::atomic<std::thread::id> homeThread{};
+
 /// A page that is not shown yet has no work area; a frame needs an extent all the same.
 Placement firstPlacement(const Page& page) {
     const Placement area = page.regionOf(ExportRegion_WorkArea);
     return area.width > 0.0 && area.height > 0.0 ? area : Placement{};
-}
-
-std::string textOf(const std::exception& error) {
-    const std::string text = error.what();
-    return text.empty() ? "The add-on failed without telling why." : text;
 }
 
 } // namespace
@@ -41,22 +48,46 @@ Application::Application(Ports ports)
       m_macros(*this),
       m_controls(ports.widgets),
       m_controlActions(m_controls),
-      m_menuOptions(ports.mainMenu) {
+      m_menuOptions(ports.mainMenu),
+      m_wall(m_locks, m_drawing, m_controls, m_trace) {
     bindApplicationStyles();
-    m_idle.caller = [this](const auto& work) { callAndReport("idle work", work); };
-    m_stateChanges.caller = [this](const auto& work) { callAndReport("state change", work); };
-    bindWindows();
+    bindAddOns();
     m_status.hasFailed = [this] { return m_exporter.isRecording() && m_exporter.hasFailed(); };
-    alive().push_back(this);
+    becomeCurrent();
 }
 
 Application::~Application() {
+    const std::lock_guard<std::mutex> lock(aliveMutex());
     std::erase(alive(), this);
+    homeThread = alive().empty() ? std::thread::id() : std::this_thread::get_id();
 }
 
-void Application::bindWindows() {
-    m_controls.caller = [this](const auto& what, const auto& work) { callAndReport(what, work); };
-    m_menuOptions.caller = m_controls.caller;
+void Application::becomeCurrent() {
+    const std::lock_guard<std::mutex> lock(aliveMutex());
+    alive().push_back(this);
+    homeThread = std::this_thread::get_id();
+}
+
+bool Application::isHomeThread() {
+    const std::thread::id home = homeThread;
+    return home == std::thread::id() || home == std::this_thread::get_id();
+}
+
+void Application::tellMisuse(const std::string& what) {
+    const std::lock_guard<std::mutex> lock(aliveMutex());
+    if (const Application* const application = current()) {
+        application->m_trace.misuse(what);
+    }
+}
+
+void Application::bindAddOns() {
+    const AddOnCaller caller = [this](const auto& what, const auto& call) {
+        callAndReport(what, call);
+    };
+    m_idle.caller = caller;
+    m_stateChanges.caller = caller;
+    m_controls.caller = caller;
+    m_menuOptions.caller = caller;
     if (m_ports.widgets != nullptr) {
         m_ports.widgets->attach(m_controlActions);
     }
@@ -255,36 +286,7 @@ void Application::pageChanged(StateChange_e change) {
 }
 
 std::string Application::callAddOn(const std::string& what, const std::function<void()>& call) {
-    const Locks::Snapshot locks = m_locks.snapshot();
-    const int suspensions = m_drawing.suspensions();
-    const int depth = m_locks.depth();
-    const int launches = m_controls.modalLaunches();
-    const int drops = m_controls.modalDrops();
-    const auto wasGivenBackByDialog = [&] {
-        return m_locks.depth() < depth &&
-               m_locks.depth() >= depth - (m_controls.modalDrops() - drops);
-    };
-    const auto wasTakenByDialog = [&] {
-        return m_locks.depth() > depth &&
-               m_locks.depth() <= depth + (m_controls.modalLaunches() - launches);
-    };
-    std::string error;
-    try {
-        call();
-        if (m_locks.snapshot() != locks && !wasTakenByDialog() && !wasGivenBackByDialog()) {
-            m_trace.misuse("The number of locks held is not the same before and after: " + what);
-        }
-        return error;
-    } catch (const std::exception& thrown) {
-        error = textOf(thrown);
-    } catch (...) {
-        error = "The add-on failed for an unknown reason.";
-    }
-    if (!wasGivenBackByDialog()) { // nobody is left to give it back a second time
-        m_locks.restore(locks);
-    }
-    m_drawing.restoreSuspensions(suspensions);
-    return error;
+    return m_wall.call(what, call);
 }
 
 void Application::callAndReport(const std::string& what, const std::function<void()>& call) {

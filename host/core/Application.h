@@ -3,6 +3,8 @@
 
 #include "host/core/Ports.h"
 #include "host/core/StatusLine.h"
+#include "host/core/addons/AddOnCommands.h"
+#include "host/core/addons/AddOnWall.h"
 #include "host/core/addons/AddOns.h"
 #include "host/core/addons/CallTrace.h"
 #include "host/core/addons/IdleQueue.h"
@@ -12,7 +14,6 @@
 #include "host/core/controls/Controls.h"
 #include "host/core/controls/MenuOptions.h"
 #include "host/core/macro/MacroPlayer.h"
-#include "host/core/addons/AddOnCommands.h"
 #include "host/core/macro/MacroRecorder.h"
 #include "host/core/page/Page.h"
 #include "host/core/page/StyleTree.h"
@@ -40,7 +41,8 @@ struct Ports {
     MainMenu* mainMenu = nullptr;   ///< null: add-ons can add no menu options
 };
 
-/// Everything here belongs to the one user-interface thread.
+/// Everything here belongs to the one user-interface thread, the one that made it, but for what is
+/// said of any thread.
 class Application {
 public:
     explicit Application(Ports ports);
@@ -51,6 +53,12 @@ public:
     /// The one that the C operations work on: the youngest one alive, null without one. Add-ons may
     /// still call when the process ends.
     static Application* current();
+    /// Whether this is the thread of the current application; true without one. May be asked on any
+    /// thread.
+    static bool isHomeThread();
+    /// Tells the trace of the current application what an add-on did wrong. May be called on any
+    /// thread.
+    static void tellMisuse(const std::string& what);
 
     Page& page() { return m_page; }
     Locks& locks() { return m_locks; }
@@ -104,11 +112,8 @@ public:
     /// Announces a change made to the page, and marks it for drawing.
     void pageChanged(StateChange_e change);
 
-    /// Calls into an add-on, behind a wall: whatever it throws is caught, locks and suspended
-    /// drawing are put back to what they were, and the text of the error is returned (empty
-    /// without one). Locks that are left behind or taken away without an error are left alone, and
-    /// told to the trace unless they belong to a modal dialog that came up or went meanwhile: it
-    /// may hold one for its whole life.
+    /// Calls into an add-on, behind the wall. Answers the text of what it threw, empty when
+    /// nothing.
     std::string callAddOn(const std::string& what, const std::function<void()>& call);
 
     /// To be called by the event loop when nothing else is to be done.
@@ -121,7 +126,8 @@ private:
     const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
     void announceIfMoved(const Frame& frame, const View3D& before);
-    void bindWindows();
+    void becomeCurrent();
+    void bindAddOns();
     void callAndReport(const std::string& what, const std::function<void()>& call);
     Frame* spatialFrame() const; ///< the frame in question when it shows 3D
 
@@ -145,6 +151,7 @@ private:
     Controls m_controls;
     ControlActions m_controlActions;
     MenuOptions m_menuOptions;
+    AddOnWall m_wall;
 };
 
 } // namespace corvane::host

@@ -20,8 +20,12 @@ class CallTrace {
 public:
     /// Either may be empty; records are made only while there is somebody to take them.
     std::function<void(const TraceRecord&)> onCall;
-    /// What an add-on did wrong and the host ignored, as a sentence.
+    /// What an add-on did wrong and the host put right or ignored: the library, the operation, the
+    /// rule. Called on whatever
+    /// thread the add-on chose.
     std::function<void(const std::string&)> onMisuse;
+    /// Which callback let an exception out, and its text. The host has caught it.
+    std::function<void(const std::string&)> onException;
     /// Asked before each call, for tests of what an add-on does when its host fails. False: the
     /// call answers its failure and does nothing else. An exception of it leaves the operation,
     /// which no other one does. hasResult: the operation can answer a failure at all.
@@ -31,6 +35,11 @@ public:
     void misuse(const std::string& what) const {
         if (onMisuse) {
             onMisuse(what);
+        }
+    }
+    void exception(const std::string& what) const {
+        if (onException) {
+            onException(what);
         }
     }
 };

@@ -7,11 +7,11 @@
 
 namespace corvane::host {
 
-void IdleQueue::add(std::function<void()> work) {
+void IdleQueue::add(std::function<void()> work, std::string owner) {
     if (m_closed) {
         return;
     }
-    m_work.push_back(std::move(work));
+    m_work.push_back({std::move(work), std::move(owner)});
     if (m_timer != nullptr) {
         m_timer->requestIdle();
     }
@@ -20,12 +20,12 @@ void IdleQueue::add(std::function<void()> work) {
 void IdleQueue::run() {
     // An entry may add entries, close the queue, or run a nested event loop that empties it.
     for (std::size_t left = m_work.size(); left > 0 && !m_work.empty(); --left) {
-        const std::function<void()> work = std::move(m_work.front());
+        const Entry entry = std::move(m_work.front());
         m_work.pop_front();
         if (caller) {
-            caller(work);
+            caller(ofOwner("idle work", entry.owner), entry.work);
         } else {
-            work();
+            entry.work();
         }
     }
 }

@@ -1,9 +1,11 @@
 // Tells listeners, at once, that the host's state has changed.
 #pragma once
 
+#include "host/core/addons/AddOnCaller.h"
 #include "hostapi/CorEnums.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace corvane::host {
@@ -14,27 +16,34 @@ public:
     using Callback = void (*)(StateChange_e);
     using Listener = void (*)(StateChange_e, void*);
 
-    void addCallback(Callback callback);
+    /// owner names the add-on for the trace.
+    void addCallback(Callback callback, std::string owner = {});
     /// A pair of function and data counts once.
-    void addListener(Listener listener, void* clientData);
+    void addListener(Listener listener, void* clientData, std::string owner = {});
     /// False: no such pair. A listener may remove itself while it is told.
     bool removeListener(Listener listener, void* clientData);
 
     void notify(StateChange_e change);
 
-    /// How a call to the outside is made; the application puts its exception wall here.
-    std::function<void(const std::function<void()>&)> caller;
+    AddOnCaller caller; ///< of callbacks and listeners
 
 private:
-    struct Entry {
+    struct CallbackEntry {
+        Callback callback;
+        std::string owner;
+    };
+    struct ListenerEntry {
         Listener listener;
         void* clientData;
-        friend bool operator==(const Entry&, const Entry&) = default;
+        std::string owner;
+        friend bool operator==(const ListenerEntry& a, const ListenerEntry& b) {
+            return a.listener == b.listener && a.clientData == b.clientData;
+        }
     };
-    void call(const std::function<void()>& work) const;
+    void call(const std::string& owner, const std::function<void()>& work) const;
 
-    std::vector<Callback> m_callbacks;
-    std::vector<Entry> m_listeners;
+    std::vector<CallbackEntry> m_callbacks;
+    std::vector<ListenerEntry> m_listeners;
 };
 
 } // namespace corvane::host

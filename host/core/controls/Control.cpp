@@ -1,6 +1,8 @@
 // What is known of the dialogs and controls of add-ons.
 #include "host/core/controls/Control.h"
 
+#include "host/core/addons/AddOnCaller.h"
+
 namespace corvane::host {
 
 namespace {
@@ -15,6 +17,10 @@ const Control* container(const Control& control) {
     return control.dialog != &control ? control.dialog : nullptr;
 }
 
+std::string inQuotes(const std::string& text) {
+    return '"' + text + '"';
+}
+
 } // namespace
 
 bool isDimmed(const Control& control) {
@@ -24,6 +30,17 @@ bool isDimmed(const Control& control) {
         }
     }
     return false;
+}
+
+std::string nameInTrace(const Control& control) {
+    const Dialog& dialog = *control.dialog;
+    const std::string name = ofOwner("the dialog " + inQuotes(dialog.label), dialog.owner);
+    if (&control == &dialog) {
+        return name;
+    }
+    const bool isNameless = control.label.empty();
+    return (isNameless ? "control " + std::to_string(control.handle) : inQuotes(control.label)) +
+           " of " + name;
 }
 
 } // namespace corvane::host

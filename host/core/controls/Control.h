@@ -46,6 +46,7 @@ struct PlacedControl : Control {
 };
 
 struct Dialog : Control {
+    std::string owner;              ///< the add-on, for the trace; empty when it is not known
     const Dialog* parent = nullptr; ///< null: the main window
     int width = 0;                  ///< of the area of the controls, in dialog units
     int height = 0;
@@ -136,5 +137,8 @@ struct MenuToggle : MenuEntry {
 
 /// Whether it, or what it is in, was made insensitive.
 bool isDimmed(const Control& control);
+
+/// For the trace: "OK" of the dialog "Options" of libFlight.so.
+std::string nameInTrace(const Control& control);
 
 } // namespace corvane::host

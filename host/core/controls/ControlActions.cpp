@@ -8,16 +8,6 @@
 
 namespace corvane::host {
 
-namespace {
-
-std::string nameOf(const Control& control) {
-    return '"' +
-           (control.label.empty() ? "control " + std::to_string(control.handle) : control.label) +
-           "\" of the dialog \"" + control.dialog->label + '"';
-}
-
-} // namespace
-
 bool ControlActions::isReachable(const Control& control) const {
     return control.dialog->isUp && !m_controls.isBlocked(*control.dialog) && !isDimmed(control);
 }
@@ -30,13 +20,13 @@ T* ControlActions::reachable(int handle) const {
 
 void ControlActions::tell(const Control& control, const Told& told) {
     if (told) {
-        m_controls.caller(nameOf(control), told);
+        m_controls.caller(nameInTrace(control), told);
     }
 }
 
 void ControlActions::tellPosition(const Control& control, const ToldPosition& told, long position) {
     if (told) {
-        m_controls.caller(nameOf(control), [&] { told(position); });
+        m_controls.caller(nameInTrace(control), [&] { told(position); });
     }
 }
 
@@ -51,7 +41,7 @@ bool ControlActions::commit(TextField& field) {
     }
     const std::string text = field.committed;
     bool isAccepted = false;
-    m_controls.caller(nameOf(field), [&] { isAccepted = field.told(text); });
+    m_controls.caller(nameInTrace(field), [&] { isAccepted = field.told(text); });
     return isAccepted;
 }
 
@@ -91,7 +81,7 @@ void ControlActions::switchOne(T& toggle, bool isOn) {
     }
     m_controls.setState(toggle, isOn);
     if (toggle.told) {
-        m_controls.caller(nameOf(toggle), [&] { toggle.told(isOn); });
+        m_controls.caller(nameInTrace(toggle), [&] { toggle.told(isOn); });
     }
 }
 

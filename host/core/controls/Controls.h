@@ -1,6 +1,7 @@
 // The dialogs and controls of add-ons, by handle, and what add-ons do with them.
 #pragma once
 
+#include "host/core/addons/AddOnCaller.h"
 #include "host/core/controls/Control.h"
 #include "host/core/controls/Widgets.h"
 
@@ -78,7 +79,7 @@ public:
     void show(const Control& control, ControlChange change) const;
 
     /// Calls an add-on; the application puts its exception wall here.
-    std::function<void(const std::string& what, const std::function<void()>& call)> caller;
+    AddOnCaller caller;
 
     /// Takes all windows away, for good. Nothing can be made afterwards.
     void close();

@@ -24,16 +24,17 @@ void MenuOptions::close() {
     }
 }
 
-bool MenuOptions::add(const std::string& menu, std::string label, std::function<void()> callback) {
+bool MenuOptions::add(const std::string& menu, std::string label, std::function<void()> callback,
+                      const std::string& owner) {
     if (m_menu == nullptr) {
         return false;
     }
     auto option = std::make_unique<MenuOption>();
     option->menu = withoutMnemonic(menu);
     option->label = std::move(label);
-    option->chosen = [this, &added = *option, told = std::move(callback)] {
+    option->chosen = [this, &added = *option, told = std::move(callback), owner] {
         if (added.isSensitive) {
-            caller("the menu option \"" + added.label + '"', told);
+            caller(ofOwner("the menu option \"" + added.label + '"', owner), told);
         }
     };
     m_options.push_back(std::move(option));

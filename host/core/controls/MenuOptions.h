@@ -1,6 +1,7 @@
 // The options that add-ons put into the menus of the main window.
 #pragma once
 
+#include "host/core/addons/AddOnCaller.h"
 #include "host/core/controls/MainMenu.h"
 
 #include <functional>
@@ -17,14 +18,15 @@ public:
     MenuOptions(const MenuOptions&) = delete;
     MenuOptions& operator=(const MenuOptions&) = delete;
 
-    /// False without a main window.
-    bool add(const std::string& menu, std::string label, std::function<void()> callback);
+    /// owner names the add-on for the trace. False without a main window.
+    bool add(const std::string& menu, std::string label, std::function<void()> callback,
+             const std::string& owner = {});
     /// menu is compared without '&', label exactly. False when there is no such option.
     bool setSensitivity(const std::string& menu, const std::string& label, bool isSensitive);
     const std::vector<std::unique_ptr<MenuOption>>& all() const { return m_options; }
 
     /// Calls an add-on; the application puts its exception wall here.
-    std::function<void(const std::string& what, const std::function<void()>& call)> caller;
+    AddOnCaller caller;
 
     void close(); ///< takes the options away, for good
 

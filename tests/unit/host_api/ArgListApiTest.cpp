@@ -6,6 +6,7 @@
 namespace corvane::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::Each;
 using ::testing::EndsWith;
 using ::testing::IsEmpty;
@@ -88,6 +89,22 @@ TEST_F(ArgListApiTest, deallocSetsTheHandleToNullAndToleratesNull) {
     EXPECT_EQ(list, nullptr);
     CorUtilArgListDealloc(&list);
     CorUtilArgListDealloc(nullptr);
+}
+
+TEST_F(ArgListApiTest, aFreedListIsMisuseAndHarmsNothing) {
+    host.expectMisuse("the list was freed before, or is not from the host");
+    host.expectMisuse("CorUtilStyleSet: args is no list of arguments");
+    host.expectMisuse("CorUtilStateChangeAddCallbackX: no CallbackFunction");
+    host.expectMisuse("CorUtilArgListDealloc: freed before, or not from the host");
+    CorArgList freed = list;
+    CorUtilArgListDealloc(&list);
+    EXPECT_EQ(CorUtilArgListAppendInt(freed, "a", 1), FALSE);
+    EXPECT_EQ(CorUtilStyleSet(freed), StyleSet_BadPath);
+    EXPECT_EQ(CorUtilStateChangeAddCallbackX(freed), FALSE);
+    EXPECT_THAT(host.calls(), Contains("CorUtilStyleSet(unknown)"));
+    CorUtilArgListDealloc(&freed);
+    EXPECT_EQ(freed, nullptr);
+    EXPECT_THAT(host.misuse(), SizeIs(4));
 }
 
 TEST_F(ArgListApiTest, buildingAListIsNotTraced) {

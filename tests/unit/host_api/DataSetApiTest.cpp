@@ -88,6 +88,19 @@ TEST_F(DataSetApiTest, nowhereToPutTheSetIsMisuse) {
     EXPECT_EQ(CorUtilZoneGetEnabled(nullptr), FALSE);
 }
 
+TEST_F(DataSetApiTest, aFreedSetIsMisuseAndHarmsNothing) {
+    host.expectMisuse("CorUtilSetGetNextMember: the set was freed before, or is not from the host");
+    host.expectMisuse("CorUtilSetDealloc: freed before, or not from the host");
+    CorSet set = nullptr;
+    ASSERT_EQ(CorUtilZoneGetEnabled(&set), TRUE);
+    CorSet freed = set;
+    CorUtilSetDealloc(&set);
+    EXPECT_EQ(CorUtilSetGetNextMember(freed, 0), 0);
+    CorUtilSetDealloc(&freed);
+    EXPECT_EQ(freed, nullptr);
+    EXPECT_EQ(host.misuse().size(), 2U);
+}
+
 TEST_F(DataSetApiTest, zonesTellTimeAndStrand) {
     EXPECT_EQ(CorUtilZoneGetSolutionTime(1), 0.0);
     EXPECT_EQ(CorUtilZoneGetSolutionTime(3), 2.0);

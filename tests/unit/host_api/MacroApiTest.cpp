@@ -108,13 +108,13 @@ TEST_F(MacroApiTest, anExceptionIsAFailureAndLeavesNoLocks) {
     EXPECT_EQ(host.app().drawing().suspensions(), 0);
 }
 
-TEST_F(MacroApiTest, locksLeftWithoutAnExceptionAreMisuseAndStay) {
-    host.expectMisuse("number of locks");
+TEST_F(MacroApiTest, locksLeftWithoutAnExceptionAreMisuseAndPutBack) {
+    host.expectMisuse("the command \"Kites\" of unit_host_api: locks are not balanced");
+    host.expectMisuse("the command \"Kites\" of unit_host_api: suspended drawing is not balanced");
     script.locks = true;
     EXPECT_EQ(run("fly"), std::nullopt);
-    EXPECT_EQ(host.app().locks().depth(), 1);
-    CorUtilLockFinish(nullptr);
-    CorUtilDrawGraphics(TRUE);
+    EXPECT_EQ(host.app().locks().depth(), 0);
+    EXPECT_EQ(host.app().drawing().suspensions(), 0);
 }
 
 TEST_F(MacroApiTest, aReplayReachesTheCallbackAndTellsWhereItFailed) {

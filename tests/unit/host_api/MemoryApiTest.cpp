@@ -2,7 +2,6 @@
 #include "hostapi/CorHost.h"
 #include "tests/support/HostTest.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <limits>
 
@@ -45,11 +44,26 @@ TEST_F(MemoryApiTest, freeingNothingIsFine) {
     CorUtilArrayDealloc(nullptr);
 }
 
-TEST_F(MemoryApiTest, anArrayIsFreedOnce) {
-    void* array = std::calloc(4, sizeof(long));
+TEST_F(MemoryApiTest, whatIsFreedTwiceIsMisuseAndHarmsNothing) {
+    host.expectMisuse("CorUtilStringDealloc: freed before, or not from the host");
+    char* text = CorUtilStringAlloc(5);
+    char* copy = text;
+    CorUtilStringDealloc(&text);
+    CorUtilStringDealloc(&copy);
+    EXPECT_EQ(copy, nullptr);
+    EXPECT_EQ(host.misuse().size(), 1U);
+}
+
+TEST_F(MemoryApiTest, whatIsNotFromTheHostIsLeftAlone) {
+    host.expectMisuse("CorUtilStringDealloc: freed before, or not from the host");
+    host.expectMisuse("CorUtilArrayDealloc: freed before, or not from the host");
+    char own[] = "mine";
+    char* text = own;
+    void* array = own;
+    CorUtilStringDealloc(&text);
     CorUtilArrayDealloc(&array);
+    EXPECT_STREQ(own, "mine");
     EXPECT_EQ(array, nullptr);
-    CorUtilArrayDealloc(&array);
 }
 
 TEST_F(MemoryApiTest, memoryIsNotTracedAndCanBeMadeToRunOut) {

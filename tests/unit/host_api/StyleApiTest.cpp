@@ -206,8 +206,8 @@ TEST_F(StyleApiTest, aFrameThatIsNot3DHasNoValues) {
 }
 
 TEST_F(StyleApiTest, noListIsMisuse) {
-    host.expectMisuse("CorUtilStyleSet: args is NULL");
-    host.expectMisuse("CorUtilStyleGet: args is NULL");
+    host.expectMisuse("CorUtilStyleSet: args is no list");
+    host.expectMisuse("CorUtilStyleGet: args is no list");
     EXPECT_EQ(CorUtilStyleSet(nullptr), StyleSet_BadPath);
     EXPECT_EQ(CorUtilStyleGet(nullptr), StyleGet_BadPath);
 }

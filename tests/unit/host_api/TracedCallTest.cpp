@@ -7,6 +7,7 @@
 #include <limits>
 #include <new>
 #include <stdexcept>
+#include <thread>
 
 namespace corvane::test {
 namespace {
@@ -93,9 +94,30 @@ TEST_F(TracedCallTest, aListenerThatTakesItselfAwayDuringACallGetsNoRecord) {
     EXPECT_THAT(host.calls(), IsEmpty());
 }
 
-TEST_F(TracedCallTest, misuseAnswersFalse) {
-    host.expectMisuse("Operation: wrong");
+TEST_F(TracedCallTest, misuseAnswersFalseAndNamesTheLibraryThatCalled) {
+    host.expectMisuse("unit_host_api: Operation: wrong");
     EXPECT_FALSE(host::TracedCall("Operation").misuse("wrong"));
+}
+
+TEST_F(TracedCallTest, otherThreadsAreRefused) {
+    host.expectMisuse("unit_host_api: CorUtilLockStart: called on another thread");
+    host.expectMisuse("unit_host_api: CorUtilFrameGetCount: called on another thread");
+    host.expectMisuse("unit_host_api: CorUtilStringAlloc: called on another thread");
+    host.expectMisuse("unit_host_api: CorUtilArgListAlloc: called on another thread");
+    std::thread([] {
+        CorUtilLockStart(nullptr);
+        EXPECT_EQ(CorUtilFrameGetCount(), 0);
+        EXPECT_EQ(CorUtilStringAlloc(5), nullptr);
+        EXPECT_EQ(CorUtilArgListAlloc(), nullptr);
+    }).join();
+    EXPECT_EQ(host.app().locks().depth(), 0);
+    EXPECT_EQ(host.misuse().size(), 4U);
+    EXPECT_THAT(host.calls(), IsEmpty());
+}
+
+TEST_F(TracedCallTest, codeOfTheHostHasNoName) {
+    EXPECT_EQ(host::libraryAt(reinterpret_cast<const void*>(&CorUtilLockOn)), "");
+    EXPECT_EQ(host::libraryAt(nullptr), "");
 }
 
 } // namespace

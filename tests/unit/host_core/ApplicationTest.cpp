@@ -318,13 +318,39 @@ TEST_F(AddOnWall, AsksForThePictureThatTheLeftLocksHeldBack) {
     EXPECT_FALSE(app.drawing().isMarked());
 }
 
-TEST_F(AddOnWall, LeavesLocksOfAnOrderlyCallAloneAndTellsTheTrace) {
-    EXPECT_EQ(app.callAddOn("launch", [this] { app.locks().start(addOn); }), "");
+TEST_F(AddOnWall, PutsBackWhatAnOrderlyCallLeftAndTellsTheTrace) {
+    open();
+    app.locks().start(nullptr);
+    EXPECT_EQ(app.callAddOn("taking", [this] { app.locks().start(addOn); }), "");
     EXPECT_EQ(app.locks().depth(), 1);
-    EXPECT_EQ(misuses.size(), 1U);
-    EXPECT_EQ(app.callAddOn("cancel", [this] { app.locks().finish(addOn); }), "");
-    EXPECT_EQ(app.locks().depth(), 0);
-    EXPECT_EQ(misuses.size(), 2U);
+    EXPECT_EQ(app.callAddOn("giving", [this] { app.locks().finish(nullptr); }), "");
+    EXPECT_EQ(app.locks().depth(), 1);
+    EXPECT_EQ(app.callAddOn("suspending", [this] { app.drawing().suspend(); }), "");
+    EXPECT_EQ(app.drawing().suspensions(), 0);
+    EXPECT_THAT(misuses,
+                ElementsAre("taking: locks are not balanced (1 before, 2 after)",
+                            "giving: locks are not balanced (1 before, 0 after)",
+                            "suspending: suspended drawing is not balanced (0 before, 1 after)"));
+}
+
+TEST_F(AddOnWall, DrawsWhatAForgottenLockHeldBack) {
+    open();
+    app.onIdle();
+    const auto renders = app.drawing().renders();
+    app.callAddOn("call", [this] {
+        app.locks().start(addOn);
+        app.setStyle({"ThreeDView", "PSIAngle"}, 1.0);
+    });
+    app.onIdle();
+    EXPECT_EQ(app.drawing().renders(), renders + 1);
+}
+
+TEST_F(AddOnWall, TellsTheTraceWhatWasThrown) {
+    std::vector<std::string> exceptions;
+    app.trace().onException = [&](const std::string& what) { exceptions.push_back(what); };
+    app.callAddOn("idle work of libBad.so", [] { throw std::out_of_range("row 7"); });
+    EXPECT_THAT(exceptions, ElementsAre("idle work of libBad.so: row 7"));
+    EXPECT_THAT(misuses, IsEmpty());
 }
 
 TEST_F(AddOnWall, ListenersThatThrowAreShownAndTheOthersAreTold) {

@@ -86,7 +86,7 @@ TEST_F(IdleQueueTest, CloseWhileRunningDropsTheRest) {
 
 TEST_F(IdleQueueTest, CallsEntriesThroughTheCaller) {
     int calls = 0;
-    queue.caller = [&calls](const std::function<void()>& work) {
+    queue.caller = [&calls](const std::string&, const std::function<void()>& work) {
         ++calls;
         work();
     };

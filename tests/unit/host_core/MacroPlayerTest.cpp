@@ -156,7 +156,7 @@ TEST_F(MacroPlayerTest, AFileOfTheCurrentFolderNeedsNoPath) {
 
 TEST_F(MacroPlayerTest, FilesThatCannotBeOpenedAreNamed) {
     const test::TempFolder folder;
-    for (const std::string& file : {folder.file("missing.macro"), folder.path()}) {
+    for (const std::string& file : {folder.file("missing.macro"), folder.path().string()}) {
         try {
             app.macros().playFile(file);
             FAIL() << file;

@@ -91,7 +91,7 @@ TEST_F(StateChangesTest, AListenerThatWasRemovedMeanwhileIsNotTold) {
 
 TEST_F(StateChangesTest, CallsThroughTheCaller) {
     int calls = 0;
-    changes.caller = [&calls](const std::function<void()>& work) {
+    changes.caller = [&calls](const std::string&, const std::function<void()>& work) {
         ++calls;
         work();
     };

@@ -1,0 +1,41 @@
+// Allocates for add-ons, and remembers what they have.
+#include "host/api/AddOnMemory.h"
+
+#include "host/api/GivenAway.h"
+#include "host/api/TracedCall.h"
+
+#include <cstdlib>
+#include <memory>
+
+namespace corvane::host {
+
+namespace {
+
+/// Never destroyed: add-ons free what they have when the process ends, too.
+GivenAway<void>& blocks() {
+    static auto* given = new GivenAway<void>;
+    return *given;
+}
+
+} // namespace
+
+void* allocateForAddOn(std::size_t count, std::size_t size) {
+    std::unique_ptr<void, decltype(&std::free)> block(std::calloc(count, size), &std::free);
+    if (block) {
+        blocks().add(block.get());
+    }
+    return block.release();
+}
+
+void freeForAddOn(const Operation& operation, void* block) {
+    if (!block) {
+        return;
+    }
+    if (blocks().remove(block)) {
+        std::free(block);
+    } else {
+        reportMisuse(operation, notGivenAway);
+    }
+}
+
+} // namespace corvane::host
