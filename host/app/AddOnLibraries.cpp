@@ -1,21 +1,45 @@
-// Where the add-on lies.
-#include "host/app/AddOnLibrary.h"
+// Loads add-ons.
+#include "host/app/AddOnLibraries.h"
 
 #include "host/app/Options.h"
+#include "host/core/Application.h"
+#include "host/core/HostError.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace corvane::app {
 
 namespace fs = std::filesystem;
 
-std::string addOnLibrary(const Options& options) {
-    if (!options.addOn.empty()) {
-        return options.addOn;
-    }
-    // Beside the program, in the build tree as well as where it is installed.
+namespace {
+
+constexpr const char* ownAddOn = "libKeyFrameAnimation.so";
+
+/// Beside the program, in the build tree as well as where it is installed.
+std::string ownLibrary() {
     const fs::path program = fs::read_symlink("/proc/self/exe");
-    return (program.parent_path().parent_path() / "lib" / "libKeyFrameAnimation.so").string();
+    return (program.parent_path().parent_path() / "lib" / ownAddOn).string();
+}
+
+bool isOwn(const std::string& library) {
+    return fs::path(library).filename() == ownAddOn;
+}
+
+} // namespace
+
+void loadAddOns(host::Application& application, const Options& options,
+                const std::function<void(const std::string&)>& tell) {
+    if (std::none_of(options.addOns.begin(), options.addOns.end(), isOwn)) {
+        try {
+            host::loadAddOn(application, ownLibrary());
+        } catch (const host::HostError& error) {
+            tell(error.what());
+        }
+    }
+    for (const std::string& library : options.addOns) {
+        host::loadAddOn(application, library);
+    }
 }
 
 } // namespace corvane::app

@@ -1,13 +1,21 @@
-// Where the add-on lies.
+// Which add-ons a run loads.
 #pragma once
 
+#include <functional>
 #include <string>
+
+namespace corvane::host {
+class Application;
+}
 
 namespace corvane::app {
 
 struct Options;
 
-/// The library of the options, else the one that comes with the program.
-std::string addOnLibrary(const Options& options);
+/// Loads Key Frame Animation, which comes with the program, and the libraries of the options beside
+/// it; one of the same file name takes its place. Throws HostError for a library that was asked
+/// for. The program works without the one that comes with it, so that failing is only told.
+void loadAddOns(host::Application& application, const Options& options,
+                const std::function<void(const std::string&)>& tell);
 
 } // namespace corvane::app

@@ -1,7 +1,7 @@
 // A run without a window, from the options to the exit code.
 #include "host/app/BatchRun.h"
 
-#include "host/app/AddOnLibrary.h"
+#include "host/app/AddOnLibraries.h"
 #include "host/app/BatchDialogs.h"
 #include "host/app/Flight.h"
 #include "host/app/MemoryLimits.h"
@@ -77,7 +77,7 @@ void BatchRun::work() {
     traceCalls();
     setUpPage();
     m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
-    host::loadAddOn(m_application, addOnLibrary(m_options));
+    loadAddOns(m_application, m_options, say);
     if (!m_options.record.empty()) {
         m_application.recorder().start();
     }

@@ -108,8 +108,11 @@ Options parseCommandLine(int argc, const char* const* argv) {
     app.add_option("--supersample", options.supersample,
                    "draw 2 to 16 times larger and filter down; 1 does not")
         ->check(CLI::Range(1, 16));
-    app.add_option("--add-on", options.addOn, "the add-on library (Key Frame Animation)");
-    app.add_option("--trace", options.trace, "write every call of the add-on to this file");
+    app.add_option("--add-on", options.addOns,
+                   "load this library beside Key Frame Animation; may be given several times")
+        ->type_name("LIBRARY")
+        ->allow_extra_args(false);
+    app.add_option("--trace", options.trace, "write every call of the add-ons to this file");
     app.add_option("--record", options.record, "write a macro of all that is done to this file");
     app.add_option("--memory", options.memory,
                    "MiB for time steps that are kept (a quarter of the machine's memory); what is "

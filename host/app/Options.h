@@ -22,7 +22,7 @@ struct Options {
     bool isSizeGiven = false;
     std::optional<double> framesPerSecond;
     std::optional<int> supersample;
-    std::string addOn;
+    std::vector<std::string> addOns; ///< libraries beside the one that comes with the program
     std::string trace;
     std::string record;                ///< a macro of what is done goes here
     std::optional<std::size_t> memory; ///< MiB for data that are kept

@@ -16,10 +16,12 @@ TraceFile::TraceFile(const std::string& fileName) : m_file(fileName) {
 void TraceFile::attachTo(host::CallTrace& trace) {
     trace.onCall = [this](const host::TraceRecord& record) { writeLine(toString(record)); };
     trace.onMisuse = [this](const std::string& what) { writeLine("misuse: " + what); };
+    trace.onException = [this](const std::string& what) { writeLine("exception: " + what); };
 }
 
 // Flushed at once, since the trace is looked at when an add-on has brought the process down.
 void TraceFile::writeLine(const std::string& line) {
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_file << line << std::endl;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <fstream>
+#include <mutex>
 #include <string>
 
 namespace corvane::host {
@@ -21,6 +22,7 @@ public:
 private:
     void writeLine(const std::string& line);
 
+    std::mutex m_mutex; ///< add-ons may break the rules on any thread
     std::ofstream m_file;
 };
 

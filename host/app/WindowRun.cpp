@@ -1,11 +1,10 @@
 // A run with a window, from the options to the exit code.
 #include "host/app/WindowRun.h"
 
-#include "host/app/AddOnLibrary.h"
+#include "host/app/AddOnLibraries.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/TraceFile.h"
-#include "host/core/addons/AddOns.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/Desktop.h"
 #include "host/gui/window/Icons.h"
@@ -101,7 +100,6 @@ public:
 
 private:
     void traceCalls();
-    void loadAddOn();
     void openWhatWasAsked();
 
     const Options& m_options;
@@ -119,7 +117,7 @@ void WindowRun::start() {
         m_desktop.tell(warning);
     };
     traceCalls();
-    loadAddOn();
+    loadAddOns(m_desktop.application(), m_options, say);
     if (!m_options.record.empty()) {
         m_desktop.workbench().macros().recordTo(gui::toQt(m_options.record));
     }
@@ -136,17 +134,6 @@ void WindowRun::traceCalls() {
     if (!m_options.trace.empty()) {
         m_trace = std::make_unique<TraceFile>(m_options.trace);
         m_trace->attachTo(m_desktop.application().trace());
-    }
-}
-
-void WindowRun::loadAddOn() {
-    try {
-        host::loadAddOn(m_desktop.application(), addOnLibrary(m_options));
-    } catch (const std::exception& error) {
-        if (!m_options.addOn.empty()) {
-            throw; // somebody asked for this very one
-        }
-        say(error.what());
     }
 }
 

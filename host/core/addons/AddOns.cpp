@@ -3,6 +3,7 @@
 
 #include "host/core/Application.h"
 #include "host/core/HostError.h"
+#include "host/core/addons/AddOnCaller.h"
 
 #include <dlfcn.h>
 
@@ -77,7 +78,8 @@ void loadAddOn(Application& application, const std::string& library) {
         throw cannotLoad(library, "it is loaded already.");
     }
     handle.release();
-    const std::string error = application.callAddOn(entryPoint, start);
+    const std::string error = application.callAddOn(
+        ofOwner(entryPoint, std::filesystem::path(library).filename().string()), start);
     if (!error.empty()) {
         throw cannotLoad(library, "it failed when it started: " + error);
     }
