@@ -23,23 +23,38 @@ void addBounds(host::Bounds& bounds, vtkDataSet& mesh) {
     bounds.add({box[1], box[3], box[5]});
 }
 
+/// What stands for the whole series when it is opened, since reading all of it may take minutes:
+/// the first, the middle and the last time. One source stands for all times that it holds.
+std::vector<int> samplesOf(const MeshSeries& series) {
+    const auto& sources = series.sourceOfTime;
+    std::vector<int> samples{sources.front()};
+    for (const int source : {sources[sources.size() / 2], sources.back()}) {
+        if (std::find(samples.begin(), samples.end(), source) == samples.end())
+            samples.push_back(source);
+    }
+    return samples;
+}
+
+/// Blocks may come late: particles, say, that enter the flow.
 void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
-    const auto first = cache.get(series.sourceOfTime.front());
-    for (const MeshPart& part : *first) {
-        const std::string name = part.name.empty() ? series.name : series.name + "/" + part.name;
-        data.addBlock({name, meshDimension(*part.mesh)}, series.times,
-                      {part.name, series.sourceOfTime});
-        addBounds(data.bounds, *part.mesh);
+    std::set<std::string> known;
+    for (const int source : samplesOf(series)) {
+        for (const MeshPart& part : *cache.get(source)) {
+            if (!known.insert(part.name).second)
+                continue;
+            const std::string name =
+                part.name.empty() ? series.name : series.name + "/" + part.name;
+            data.addBlock({name, meshDimension(*part.mesh)}, series.times,
+                          {part.name, series.sourceOfTime});
+            addBounds(data.bounds, *part.mesh);
+        }
     }
 }
 
-/// Of the first, the middle and the last time.
 std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, MeshCache& cache) {
     VariableRanges ranges;
     for (const MeshSeries& series : allSeries) {
-        const auto& sources = series.sourceOfTime;
-        const std::set<int> looked{sources.front(), sources[sources.size() / 2], sources.back()};
-        for (const int source : looked)
+        for (const int source : samplesOf(series))
             for (const MeshPart& part : *cache.get(source))
                 ranges.add(*part.mesh);
     }

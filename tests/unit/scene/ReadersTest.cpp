@@ -135,6 +135,28 @@ TEST(Readers, blocksOfATreeAreNamedAfterTheirBranches) {
     EXPECT_EQ(meshOf(*data, 2)->GetNumberOfCells(), 6);
 }
 
+TEST(Readers, blocksMayComeLate) {
+    const TempFolder folder;
+    const vtkNew<vtkMultiBlockDataSet> early;
+    early->SetBlock(0, sampleGrid(0.0));
+    early->GetMetaData(0U)->Set(vtkCompositeDataSet::NAME(), "flow");
+    const vtkNew<vtkMultiBlockDataSet> late;
+    late->SetBlock(0, sampleGrid(0.0));
+    late->GetMetaData(0U)->Set(vtkCompositeDataSet::NAME(), "flow");
+    late->SetBlock(1, sampleCube({0.5, 0.5, 0.5}, 0.1));
+    late->GetMetaData(1U)->Set(vtkCompositeDataSet::NAME(), "spray");
+    writeMesh(folder, "early.vtm", early);
+    writeMesh(folder, "late.vtm", late);
+    const auto data =
+        read(writePvd(folder, "series.pvd", {{0.0, 0, "early.vtm"}, {1.0, 0, "late.vtm"}}));
+    ASSERT_EQ(data->blocks.size(), 2U);
+    ASSERT_EQ(data->zones.size(), 4U);
+    EXPECT_NE(meshOf(*data, 0), nullptr);
+    EXPECT_EQ(meshOf(*data, 2), nullptr) << "the spray at the first time";
+    ASSERT_NE(meshOf(*data, 3), nullptr);
+    EXPECT_EQ(meshOf(*data, 3)->GetNumberOfCells(), 6);
+}
+
 TEST(Readers, severalFilesMakeBlocksOfOneDataSet) {
     const TempFolder folder;
     const std::string flow = writeMesh(folder, "flow.vtu", sampleGrid());
