@@ -49,6 +49,19 @@ inline std::string block(std::string const& items) {
     return "%KeyFrameView\n" + place + items + "%KeyFrameView\n";
 }
 
+// A key frame with all its items.
+inline std::string const fullBlock = "%KeyFrameView\n"
+                                     " Name \"Key Frame 1\"\n"
+                                     " Position 1.5 2 30\n"
+                                     " Angle 0 45 -90\n"
+                                     " Width 12.25\n"
+                                     " FrameCount 20\n"
+                                     " SolutionTime 0.5\n"
+                                     "%KeyFrameView\n";
+
+inline KeyFrame_s const fullKeyFrame{corutiltools::View(1.5, 2, 30, 0, 45, -90, 12.25),
+                                     "Key Frame 1", 20, 0.5};
+
 inline std::string settingsBlock(std::string const& lines) {
     return "%Settings\n" + lines + "%Settings\n";
 }
