@@ -20,6 +20,17 @@ vtkStandardNewMacro(FrameRenderer);
 FrameRenderer::FrameRenderer() {
     SetMaximumNumberOfPeels(mostLayers);
     SetOcclusionRatio(0.0);
+    makePeelingPass();
+}
+
+void FrameRenderer::ReleaseGraphicsResources(vtkWindow* window) {
+    vtkOpenGLRenderer::ReleaseGraphicsResources(window);
+    // VTK's pass would draw on into the textures that it has just freed.
+    DepthPeelingPass->Delete();
+    makePeelingPass();
+}
+
+void FrameRenderer::makePeelingPass() {
     const vtkNew<vtkTranslucentPass> layer;
     // The base class deletes it.
     DepthPeelingPass = vtkDepthPeelingPass::New();

@@ -11,11 +11,15 @@ class FrameRenderer : public vtkOpenGLRenderer {
 public:
     static FrameRenderer* New();
 
+    void ReleaseGraphicsResources(vtkWindow* window) override;
+
 protected:
     FrameRenderer();
     ~FrameRenderer() override = default;
 
 private:
+    void makePeelingPass();
+
     FrameRenderer(const FrameRenderer&) = delete;
     void operator=(const FrameRenderer&) = delete;
 };

@@ -119,6 +119,15 @@ TEST_F(DrawHistoryTest, sizeOfThePicture) {
     EXPECT_EQ(draw(width, height), first);
 }
 
+// Renderers that were taken out of the window and put back have freed what they had uploaded.
+TEST_F(DrawHistoryTest, seeThroughPlotsBesideANewFrame) {
+    host::Frame& frame = addFullFrame(loadSeries(3));
+    frame.style.slices[0].opacity = 0.5;
+    draw(width, height);
+    page.createFrame({4.0, 0.0, 4.0, 4.5});
+    EXPECT_EQ(draw(width, height), drawFresh());
+}
+
 TEST_F(DrawHistoryTest, otherFrames) {
     addFullFrame(loadSeries(3)).placement = {0.0, 0.0, 4.0, 4.5};
     const host::Picture first = draw(width, height);
