@@ -53,7 +53,7 @@ MainWindow::MainWindow() : m_drawingArea(new DrawingArea), m_strip(new ProgressS
 void MainWindow::makeMenus() {
     // In this order, whoever puts something in first.
     for (const char* title :
-         {"&File", "&Edit", "&View", "&Plot", "Fra&me", "&Data", "&Animate", "&Macro", "&Help"}) {
+         {"&File", "&Edit", "&View", "&Plot", "F&rame", "&Data", "&Animate", "&Macro", "&Help"}) {
         menuBar()->addMenu(QString::fromLatin1(title));
     }
 }
