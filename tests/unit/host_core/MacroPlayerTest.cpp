@@ -186,9 +186,9 @@ TEST_F(MacroPlayerTest, TheLanguageIsDescribedInFull) {
         EXPECT_FALSE(command.arguments.empty());
         EXPECT_NE(command.run, nullptr);
     }
-    EXPECT_THAT(names,
-                ElementsAre("READDATA", "STYLE", "PLOTTYPE", "VIEW", "SOLUTIONTIME", "FRAME",
-                            "REDRAW", "EXPORTSETUP", "PICTURE", "EXTCOMMAND", "INCLUDE", "SET"));
+    EXPECT_THAT(names, ElementsAre("READDATA", "STYLE", "PLOTTYPE", "VIEW", "SOLUTIONTIME", "FRAME",
+                                   "WORKAREA", "REDRAW", "EXPORTSETUP", "PICTURE", "EXTCOMMAND",
+                                   "INCLUDE", "SET"));
 }
 
 } // namespace
