@@ -12,6 +12,7 @@
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
 #include "host/core/macro/MacroFile.h"
+#include "host/core/macro/SceneMacro.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
@@ -79,7 +80,7 @@ void BatchRun::work() {
     m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
     loadAddOns(m_application, m_options, say);
     if (!m_options.record.empty()) {
-        m_application.recorder().start();
+        host::startRecording(m_application);
     }
     openData();
     for (const auto& [name, value] : m_options.variables) {
@@ -117,9 +118,11 @@ void BatchRun::traceCalls() {
 }
 
 void BatchRun::setUpPage() {
-    constexpr double pageWidthInches = 8.0;
     m_application.page().workArea = {m_options.width, m_options.height,
-                                     m_options.width / pageWidthInches};
+                                     m_options.width / host::paperWidthInches};
+    if (m_options.isSizeGiven) {
+        m_application.macros().keepPictureSize();
+    }
 }
 
 void BatchRun::tell(const std::string& note) const {

@@ -115,7 +115,7 @@ TEST(Flight, isMadeAgainByTheMacroRecordedOfIt) {
     fs::remove(movie);
 
     const ProgramResult result =
-        runProgram({"--batch", "--macro", folder.file("flight.mcr"), "--size", "320x180"});
+        runProgram({"--batch", "--macro", folder.file("flight.mcr")});
     ASSERT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_TRUE(DecodedMovie(movie).pictures() == pictures);
 }

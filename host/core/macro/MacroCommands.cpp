@@ -53,6 +53,14 @@ const std::vector<MacroCommand>& macroCommands() {
          "top of the stack, PUSH moves it to the bottom. DELETE removes the active frame.",
          "$!FRAME CREATE X = 4 Y = 0 Width = 4 Height = 4.5",
          changeFrames},
+        {"WORKAREA",
+         {"Width = N Height = N [PixelsPerInch = N]"},
+         "Makes the part of the paper that pictures show so many pixels wide and high, from 4 to "
+         "32766. The paper is 8 inches wide in it unless PixelsPerInch is given. One frame that "
+         "fills it goes on filling it. A size from the command line (--size) stays; in a window, "
+         "the size holds while the macro plays.",
+         "$!WORKAREA Width = 1920 Height = 1080",
+         sizeWorkArea},
         {"REDRAW", {""}, "Draws all frames.", "$!REDRAW", redraw},
         {"EXPORTSETUP",
          {"NAME = VALUE"},

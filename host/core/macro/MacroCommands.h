@@ -43,6 +43,7 @@ void setStyle(const MacroCall& call);
 void setPlotType(const MacroCall& call);
 void changeView(const MacroCall& call);
 void changeFrames(const MacroCall& call);
+void sizeWorkArea(const MacroCall& call);
 void redraw(const MacroCall& call);
 void setUpExport(const MacroCall& call);
 void exportPicture(const MacroCall& call);

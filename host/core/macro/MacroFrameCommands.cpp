@@ -1,4 +1,4 @@
-// Macro commands about the frames of the page.
+// Macro commands about the page and its frames.
 #include "host/core/Application.h"
 #include "host/core/macro/MacroCommands.h"
 
@@ -77,6 +77,52 @@ void deleteFrame(const MacroCall& call) {
     call.application.deleteFrame(activeFrame(call.application).id());
 }
 
+constexpr const char* sizeForm = "Width = pixels, Height = pixels, PixelsPerInch = number";
+
+int pixelsFrom(const std::string& name, const std::string& text) {
+    constexpr int least = 4;
+    constexpr int most = 32766;
+    const int pixels = integerFrom(text);
+    if (pixels < least || pixels > most) {
+        reject(name + " cannot be \"" + text + "\".");
+    }
+    return pixels;
+}
+
+double scaleFrom(const std::string& name, const std::string& text) {
+    constexpr double most = 1e5;
+    const double scale = numberFrom(text);
+    if (!(scale > 0.0 && scale <= most)) {
+        reject(name + " cannot be \"" + text + "\".");
+    }
+    return scale;
+}
+
+WorkArea workAreaFrom(const std::vector<std::string>& words) {
+    WorkArea area{0, 0, 0.0};
+    for (const auto& [name, text] : settingsOf(words, 0, sizeForm)) {
+        if (equalIgnoringCase(name, "Width")) {
+            area.width = pixelsFrom(name, text);
+        } else if (equalIgnoringCase(name, "Height")) {
+            area.height = pixelsFrom(name, text);
+        } else if (equalIgnoringCase(name, "PixelsPerInch")) {
+            area.pixelsPerInch = scaleFrom(name, text);
+        } else {
+            reject("A work area has no value \"" + name + "\".");
+        }
+    }
+    expect(area.width > 0 && area.height > 0, sizeForm);
+    if (area.pixelsPerInch == 0.0) {
+        area.pixelsPerInch = area.width / paperWidthInches;
+    }
+    return area;
+}
+
+/// As much paper in another number of pixels.
+WorkArea scaled(const WorkArea& wanted, const WorkArea& given) {
+    return {given.width, given.height, wanted.pixelsPerInch * given.width / wanted.width};
+}
+
 void popFrame(const MacroCall& call) {
     call.application.page().raise(activeFrame(call.application).id());
     call.application.drawing().mark();
@@ -98,6 +144,16 @@ constexpr FrameAction actions[] = {
     {"DELETE", false, deleteFrame}, {"POP", false, popFrame},    {"PUSH", false, pushFrame}};
 
 } // namespace
+
+void sizeWorkArea(const MacroCall& call) {
+    Application& application = call.application;
+    expectNoAnimation(application);
+    const WorkArea wanted = workAreaFrom(call.words);
+    Page& page = application.page();
+    const bool isKept = application.macros().keepsPictureSize();
+    page.resizeWorkArea(isKept ? scaled(wanted, page.workArea) : wanted);
+    application.drawing().mark();
+}
 
 void changeFrames(const MacroCall& call) {
     constexpr const char* form = "CREATE, PLACE, ACTIVATE, DELETE, POP or PUSH";

@@ -83,7 +83,9 @@ void MacroPlayer::run(const std::string& name, const std::vector<std::string>& w
         reject("There is no command " + name + ".");
     }
     const MacroCall call{m_application, words, folder};
+    m_follower.catchUp();
     command->run(call);
+    m_follower.remember();
     if (const std::string line = recordedLine(*command, call); !line.empty()) {
         m_application.recorder().recordRaw(line);
     }

@@ -3,6 +3,7 @@
 
 #include "host/core/macro/MacroText.h"
 #include "host/core/macro/MacroVariables.h"
+#include "host/core/macro/SceneFollower.h"
 
 #include <string>
 #include <vector>
@@ -13,10 +14,16 @@ class Application;
 
 class MacroPlayer {
 public:
-    explicit MacroPlayer(Application& application) : m_application(application) {}
+    explicit MacroPlayer(Application& application)
+        : m_application(application), m_follower(application) {}
 
     bool isPlaying() const { return m_depth > 0; }
     MacroVariables& variables() { return m_variables; }
+    SceneFollower& follower() { return m_follower; }
+
+    /// The size of pictures is the user's choice: from now on macros do not change it.
+    void keepPictureSize() { m_keepsPictureSize = true; }
+    bool keepsPictureSize() const { return m_keepsPictureSize; }
 
     /// Throws MacroError at the first line that fails; the lines before it have taken effect.
     void playFile(const std::string& fileName);
@@ -33,7 +40,9 @@ private:
     void runLine(const MacroLine& line, const std::string& name, const std::string& folder);
 
     Application& m_application;
+    SceneFollower m_follower;
     MacroVariables m_variables;
+    bool m_keepsPictureSize = false;
     std::string m_folder; ///< of the macro that plays
     int m_depth = 0;
 };

@@ -10,24 +10,58 @@ namespace corvane::host {
 
 void MacroRecorder::start() {
     m_lines.clear();
+    m_endsWithState = false;
     m_recording = true;
+    if (onStart) {
+        onStart();
+    }
 }
 
 std::vector<std::string> MacroRecorder::stop() {
+    catchUp();
     m_recording = false;
     return std::exchange(m_lines, {});
 }
 
+const std::vector<std::string>& MacroRecorder::lines() {
+    catchUp();
+    return m_lines;
+}
+
+void MacroRecorder::catchUp() {
+    if (m_recording && onCatchUp) {
+        onCatchUp();
+    }
+}
+
 bool MacroRecorder::recordRaw(const std::string& line) {
+    catchUp();
     if (m_recording) {
         m_lines.push_back(line);
+        m_endsWithState = false;
     }
     return m_recording;
 }
 
+void MacroRecorder::recordState(const std::string& line) {
+    if (!m_recording) {
+        return;
+    }
+    const std::string command = line.substr(0, line.find(' ') + 1);
+    if (m_endsWithState && m_lines.back().starts_with(command)) {
+        m_lines.pop_back();
+    }
+    m_lines.push_back(line);
+    m_endsWithState = true;
+}
+
 bool MacroRecorder::recordAddOnCommand(const std::string& macroName, const std::string& command) {
-    return recordRaw("$!EXTCOMMAND " + quoted(MacroVariables::escaped(macroName)) + " " +
-                     quoted(MacroVariables::escaped(command)));
+    const bool isKept = recordRaw("$!EXTCOMMAND " + quoted(MacroVariables::escaped(macroName)) +
+                                  " " + quoted(MacroVariables::escaped(command)));
+    if (isKept && onAddOnCommand) {
+        onAddOnCommand();
+    }
+    return isKept;
 }
 
 } // namespace corvane::host

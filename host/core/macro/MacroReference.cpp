@@ -26,6 +26,11 @@ started.
 
 The first line that fails stops the macro; the message names file and line and tells the cause.
 
+**Macro > Record Macro** in the window, and `--record FILE` with or without one, write down what is done. The recording begins
+with what is there: the size of the pictures, frames, data, styles, views. Played without a window it makes the same pictures
+and movies again. Key frames are not part of it, only the file that they were opened from: save a flight that was captured by
+hand, and open the file again before **Animate All**.
+
 )";
 
 std::string number(double value) {

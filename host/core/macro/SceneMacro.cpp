@@ -81,8 +81,10 @@ void addStyles(Lines& lines, Frame& frame) {
     }
 }
 
-void addFrame(Lines& lines, Frame& frame) {
-    lines.add("FRAME", placementWords(frame.placement));
+void addFrame(Lines& lines, Frame& frame, const Page& page) {
+    // Without a place a new frame fills the work area, of whatever size.
+    const bool isFilling = frame.placement == page.regionOf(ExportRegion_WorkArea);
+    lines.add("FRAME", isFilling ? Words{"CREATE"} : placementWords(frame.placement));
     if (frame.data()) {
         addData(lines, *frame.data());
     }
@@ -93,6 +95,34 @@ void addFrame(Lines& lines, Frame& frame) {
     }
     if (frame.plotType == PlotType_Cartesian2D) {
         lines.add("PLOTTYPE", {"=", "CARTESIAN2D"});
+    }
+}
+
+/// A number is never used again, so that those of deleted frames must be used up, too.
+void skipNumber(Lines& lines) {
+    lines.add("FRAME", {"CREATE"});
+    lines.add("FRAME", {"DELETE"});
+}
+
+bool isStackedByNumber(const Page& page) {
+    return std::is_sorted(page.frames().begin(), page.frames().end(),
+                          [](const auto& a, const auto& b) { return a->id() > b->id(); });
+}
+
+void activate(Lines& lines, const Frame& frame) {
+    lines.add("FRAME", {"ACTIVATE", "=", std::to_string(frame.id())});
+}
+
+/// The frames are there, the one with the highest number on top and active.
+void addStack(Lines& lines, const Page& page) {
+    const auto& frames = page.frames();
+    const bool isRestacked = !isStackedByNumber(page);
+    for (auto frame = frames.rbegin(); isRestacked && frame != frames.rend(); ++frame) {
+        activate(lines, **frame);
+        lines.add("FRAME", {"POP"});
+    }
+    if (page.active() != nullptr && page.active() != frames.front().get()) {
+        activate(lines, *page.active());
     }
 }
 
@@ -110,6 +140,15 @@ void addExportSetup(Lines& lines, ExportSetup setup) {
 }
 
 } // namespace
+
+std::vector<std::string> workAreaWords(const WorkArea& area) {
+    Words words{"Width",  "=", std::to_string(area.width),
+                "Height", "=", std::to_string(area.height)};
+    if (area.pixelsPerInch != area.width / paperWidthInches) {
+        words.insert(words.end(), {"PixelsPerInch", "=", exactText(area.pixelsPerInch)});
+    }
+    return words;
+}
 
 std::vector<std::string> viewWords(const View3D& view) {
     Words words{"SET"};
@@ -138,20 +177,26 @@ std::vector<std::string> viewWords(const View3D& view) {
 std::vector<std::string> sceneMacro(Application& application) {
     Lines lines;
     const Page& page = application.page();
-    long number = 0;
-    long active = 0;
-    for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame) {
-        addFrame(lines, **frame);
-        ++number;
-        if (frame->get() == page.active()) {
-            active = number;
+    if (page.workArea != WorkArea{}) {
+        lines.add("WORKAREA", workAreaWords(page.workArea));
+    }
+    for (long id = 1; id <= page.lastId(); ++id) {
+        if (Frame* const frame = page.find(id)) {
+            addFrame(lines, *frame, page);
+        } else {
+            skipNumber(lines);
         }
     }
-    if (active != number) {
-        lines.add("FRAME", {"ACTIVATE", "=", std::to_string(active)});
-    }
+    addStack(lines, page);
     addExportSetup(lines, application.exportSetup());
     return lines.take();
+}
+
+void startRecording(Application& application) {
+    application.recorder().start();
+    for (const std::string& line : sceneMacro(application)) {
+        application.recorder().recordRaw(line);
+    }
 }
 
 } // namespace corvane::host

@@ -22,6 +22,12 @@ Placement united(const Placement& a, const Placement& b) {
     return {left, top, right - left, bottom - top};
 }
 
+bool isSame(const Placement& a, const Placement& b) {
+    constexpr double tolerance = 1e-6; // inches
+    return std::abs(a.x - b.x) < tolerance && std::abs(a.y - b.y) < tolerance &&
+           std::abs(a.width - b.width) < tolerance && std::abs(a.height - b.height) < tolerance;
+}
+
 template <typename Frames>
 auto findById(Frames& frames, long id) {
     return std::find_if(frames.begin(), frames.end(),
@@ -29,6 +35,19 @@ auto findById(Frames& frames, long id) {
 }
 
 } // namespace
+
+void Page::resizeWorkArea(const WorkArea& area) {
+    const bool isFilled = isFilledByOneFrame();
+    workArea = area;
+    if (isFilled && !m_frames.empty()) {
+        m_frames.front()->placement = regionOf(ExportRegion_WorkArea);
+    }
+}
+
+bool Page::isFilledByOneFrame() const {
+    return m_frames.empty() || (m_frames.size() == 1 && isSame(m_frames.front()->placement,
+                                                               regionOf(ExportRegion_WorkArea)));
+}
 
 Frame& Page::createFrame(Placement placement) {
     endWalk();

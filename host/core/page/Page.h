@@ -9,11 +9,15 @@
 
 namespace corvane::host {
 
+/// The paper is as wide as a work area that one frame fills, so that texts and frames look the same
+/// in windows and batch runs of any size.
+inline constexpr double paperWidthInches = 8.0;
+
 /// What the window, or the picture of a batch run, shows of the paper.
 struct WorkArea {
     int width = 1280; ///< pixels
     int height = 720;
-    double pixelsPerInch = 160.0;
+    double pixelsPerInch = 1280 / paperWidthInches;
 
     friend bool operator==(const WorkArea&, const WorkArea&) = default;
 };
@@ -26,6 +30,11 @@ public:
 
     WorkArea workArea;
 
+    /// Frames keep their places on the paper, but one that fills the work area goes on filling it.
+    void resizeWorkArea(const WorkArea& area);
+    /// Also without a frame: the first one will fill it.
+    bool isFilledByOneFrame() const;
+
     /// Adds a frame on top of the stack and makes it active.
     Frame& createFrame(Placement placement);
     /// The frame below on the stack becomes active. False: no such frame.
@@ -35,6 +44,8 @@ public:
     const std::vector<std::unique_ptr<Frame>>& frames() const { return m_frames; }
     Frame* active() const { return m_active; } ///< null without frames
     Frame* find(long id) const;
+    /// The highest number that a frame had so far; 0 without one.
+    long lastId() const { return m_lastId; }
 
     /// None of these draws. False: no such frame, or no frame at all.
     bool activate(long id); ///< keeps the order of the stack

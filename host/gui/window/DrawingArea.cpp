@@ -4,6 +4,7 @@
 #include "host/core/picture/Picture.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <memory>
 
 namespace corvane::gui {
@@ -57,9 +58,21 @@ void DrawingArea::paintEvent(QPaintEvent* /*event*/) {
         paintHint(painter);
         return;
     }
-    // After a resize the old picture is stretched until the new one is there.
+    // After a resize the old picture is there until the new one is, and one of another shape while
+    // a macro plays that has chosen it.
+    const QRect place = placeOf(m_image.size());
+    if (place != rect()) {
+        painter.fillRect(rect(), palette().window());
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_image.size() != pixels());
-    painter.drawImage(QRectF(rect()), m_image, QRectF(m_image.rect()));
+    painter.drawImage(QRectF(place), m_image, QRectF(m_image.rect()));
+}
+
+/// As large as fits, in the middle. Rounding leaves no gap at the sides.
+QRect DrawingArea::placeOf(QSize picture) const {
+    const QSize fitting = picture.scaled(size(), Qt::KeepAspectRatio);
+    const bool fills = (size() - fitting).width() <= 1 && (size() - fitting).height() <= 1;
+    return fills ? rect() : QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, fitting, rect());
 }
 
 void DrawingArea::paintHint(QPainter& painter) const {

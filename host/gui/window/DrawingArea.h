@@ -41,6 +41,7 @@ protected:
 
 private:
     void paintHint(QPainter& painter) const;
+    QRect placeOf(QSize picture) const;
 
     QImage m_image;
     QString m_hintTitle;

@@ -37,14 +37,10 @@ MacroActions::MacroActions(const Commands& commands, MainWindow& window)
     refresh();
 }
 
-/// A macro recorded in the middle of the work begins with all that is there by then.
 void MacroActions::record() {
-    host::Application& application = m_commands.application();
-    application.recorder().start();
-    for (const std::string& line : host::sceneMacro(application)) {
-        application.recorder().recordRaw(line);
-    }
+    host::startRecording(m_commands.application());
     refresh();
+    Q_EMIT recordingChanged();
 }
 
 bool MacroActions::play(const QString& fileName) {
@@ -54,8 +50,7 @@ bool MacroActions::play(const QString& fileName) {
 
 void MacroActions::recordTo(const QString& fileName) {
     m_file = QFileInfo(fileName).absoluteFilePath();
-    m_commands.application().recorder().start();
-    refresh();
+    record();
 }
 
 void MacroActions::askAndPlay() {
@@ -97,12 +92,13 @@ bool MacroActions::stopRecording(const QString& fileName) {
         recorder.stop();
         m_file.clear();
         refresh();
+        Q_EMIT recordingChanged();
     }
     return isWritten;
 }
 
 bool MacroActions::mayQuit() {
-    const host::MacroRecorder& recorder = m_commands.application().recorder();
+    host::MacroRecorder& recorder = m_commands.application().recorder();
     if (recorder.isRecording() && !m_file.isEmpty() && stopRecording(m_file)) {
         return true;
     }

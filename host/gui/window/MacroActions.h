@@ -23,9 +23,14 @@ public:
     /// Ends the recording and writes it to the file, or, when that fails, goes on with nothing
     /// lost. False: the user was told why.
     bool stopRecording(const QString& fileName);
+    /// Of the recording that is under way, when it is known; else empty.
+    const QString& file() const { return m_file; }
     /// Writes a recording whose file is known; asks when one would be lost.
     bool mayQuit();
     void refresh();
+
+Q_SIGNALS:
+    void recordingChanged(); ///< begun or ended
 
 private:
     void record();
@@ -38,7 +43,7 @@ private:
     QAction* m_play;
     QAction* m_record;
     QAction* m_stop;
-    QString m_file; ///< of the recording, when it is known; else empty
+    QString m_file;
 };
 
 } // namespace corvane::gui

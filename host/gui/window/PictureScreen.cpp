@@ -5,6 +5,7 @@
 #include "host/gui/window/DrawingArea.h"
 
 #include <QScopedValueRollback>
+#include <algorithm>
 
 namespace corvane::gui {
 
@@ -15,7 +16,10 @@ void PictureScreen::present(const host::Page& page, bool /*allFrames*/) {
         return;
     }
     const QScopedValueRollback drawing(m_isDrawing, true);
-    m_area.show(m_renderer.draw(page, {ExportRegion_WorkArea, area.width, area.height, 1}));
+    // While a macro plays that has chosen a size, the area shows all of it as large as it can.
+    const QSize size = QSize(area.width, area.height).scaled(m_area.pixels(), Qt::KeepAspectRatio);
+    m_area.show(m_renderer.draw(
+        page, {ExportRegion_WorkArea, std::max(size.width(), 1), std::max(size.height(), 1), 1}));
     m_pacer.pictureShown();
 }
 

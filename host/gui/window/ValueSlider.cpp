@@ -38,13 +38,22 @@ ValueSlider::ValueSlider(QWidget* parent)
     m_slider->setSingleStep(positions / 100);
     m_slider->setTracking(false);
     m_slider->setMinimumWidth(60);
+    connect(m_slider, &QSlider::sliderPressed, this, [this] { m_isDragged = false; });
     connect(m_slider, &QSlider::sliderMoved, this, [this](int position) {
+        m_isDragged = true;
         m_edit->setValue(valueAt(position));
         Q_EMIT dragged(valueAt(position));
     });
     connect(m_slider, &QSlider::valueChanged, this, [this](int position) {
         m_edit->setValue(valueAt(position));
         Q_EMIT committed(valueAt(position));
+    });
+    connect(m_slider, &QSlider::sliderReleased, this, [this] {
+        // A slider that comes back to where it was tells of no change, but was seen to make one.
+        const int position = m_slider->sliderPosition();
+        if (m_isDragged && position == m_slider->value()) {
+            Q_EMIT committed(valueAt(position));
+        }
     });
     connect(m_edit, &NumberEdit::committed, this, [this](double value) {
         moveSlider();

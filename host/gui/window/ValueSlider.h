@@ -35,6 +35,7 @@ private:
     NumberEdit* m_edit;
     double m_minimum = 0.0;
     double m_maximum = 1.0;
+    bool m_isDragged = false;
 };
 
 } // namespace corvane::gui

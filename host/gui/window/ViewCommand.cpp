@@ -17,11 +17,4 @@ void setView(const Commands& commands, const host::View3D& view) {
     commands.perform("VIEW", host::viewWords(view));
 }
 
-void recordView(const Commands& commands) {
-    const host::Frame* const frame = spatialFrameWithData(commands.application());
-    if (frame != nullptr && commands.application().recorder().isRecording()) {
-        setView(commands, frame->view);
-    }
-}
-
 } // namespace corvane::gui

@@ -17,7 +17,4 @@ host::Frame* spatialFrameWithData(host::Application& application);
 /// Sets the view as a whole.
 void setView(const Commands& commands, const host::View3D& view);
 
-/// Notes in the macro that is being recorded what a movement has led to.
-void recordView(const Commands& commands);
-
 } // namespace corvane::gui

@@ -13,9 +13,6 @@ namespace corvane::gui {
 
 namespace {
 
-/// A wheel has no end of its own; after this pause the next turn counts as another movement.
-constexpr int wheelPauseMs = 400;
-
 constexpr double factorPerNotch = 1.15;
 constexpr double anglePerNotch = 120.0; // of QWheelEvent
 constexpr double factorPerPixel = 1.008;
@@ -24,9 +21,6 @@ constexpr double factorPerPixel = 1.008;
 
 ViewMouse::ViewMouse(const Commands& commands, DrawingArea& area)
     : m_commands(commands), m_area(area) {
-    m_wheelEnd.setSingleShot(true);
-    m_wheelEnd.setInterval(wheelPauseMs);
-    connect(&m_wheelEnd, &QTimer::timeout, this, [this] { recordView(m_commands); });
     area.installEventFilter(this);
 }
 
@@ -77,7 +71,6 @@ void ViewMouse::press(const QMouseEvent& event) {
     m_drag = dragFor(event);
     m_start = event.position();
     m_last = m_start;
-    m_hasMoved = false;
     m_area.setCursor(m_drag == Drag::Pan ? Qt::ClosedHandCursor : Qt::ArrowCursor);
 }
 
@@ -92,7 +85,6 @@ void ViewMouse::move(const QMouseEvent& event) {
     const PictureSize size = sizeOf(*frame);
     const PictureOffset start = fromCenter(*frame, m_start);
     m_last = event.position();
-    m_hasMoved = true;
     changeView([&](host::View3D& view) {
         switch (m_drag) {
         case Drag::Turn:
@@ -110,12 +102,8 @@ void ViewMouse::move(const QMouseEvent& event) {
 }
 
 void ViewMouse::release() {
-    const bool hasMoved = m_drag != Drag::None && m_hasMoved;
     m_drag = Drag::None;
     m_area.unsetCursor();
-    if (hasMoved) {
-        recordView(m_commands);
-    }
 }
 
 void ViewMouse::wheel(const QWheelEvent& event) {
@@ -128,7 +116,6 @@ void ViewMouse::wheel(const QWheelEvent& event) {
     changeView([&](host::View3D& view) {
         zoom(view, factor, fromCenter(*frame, event.position()), sizeOf(*frame));
     });
-    m_wheelEnd.start();
 }
 
 void ViewMouse::activateFrameAt(QPointF point) const {

@@ -6,7 +6,6 @@
 
 #include <QObject>
 #include <QPointF>
-#include <QTimer>
 
 class QMouseEvent;
 class QWheelEvent;
@@ -20,8 +19,7 @@ namespace corvane::gui {
 class DrawingArea;
 
 /// Left: turn. Middle or Shift + left: pan. Right and wheel: zoom toward the pointer. Ctrl + left:
-/// twist. Each event changes the view and draws nothing; when a movement ends, the view is recorded
-/// with one command.
+/// twist. Each event changes the view and draws nothing.
 class ViewMouse : public QObject {
     Q_OBJECT
 
@@ -53,8 +51,6 @@ private:
     Drag m_drag = Drag::None;
     QPointF m_start;
     QPointF m_last;
-    bool m_hasMoved = false;
-    QTimer m_wheelEnd;
 };
 
 } // namespace corvane::gui

@@ -11,18 +11,18 @@ namespace corvane::gui {
 
 namespace {
 
-constexpr double paperWidth = 8.0; // inches
-
-bool isSame(const host::Placement& a, const host::Placement& b) {
-    constexpr double tolerance = 1e-6;
-    return std::abs(a.x - b.x) < tolerance && std::abs(a.y - b.y) < tolerance &&
-           std::abs(a.width - b.width) < tolerance && std::abs(a.height - b.height) < tolerance;
+/// Rounding alone is no reason to draw all again.
+bool isSame(const host::WorkArea& a, const host::WorkArea& b) {
+    constexpr double tolerance = 1e-9;
+    return a.width == b.width && a.height == b.height &&
+           std::abs(a.pixelsPerInch - b.pixelsPerInch) <= tolerance * b.pixelsPerInch;
 }
 
 } // namespace
 
 void WorkAreaFitter::fit() {
-    if (m_application.status().isActive() || m_application.exporter().isRecording()) {
+    if (m_application.status().isActive() || m_application.exporter().isRecording() ||
+        m_application.macros().isPlaying()) {
         return;
     }
     const QSize size = m_area.pixels();
@@ -30,30 +30,18 @@ void WorkAreaFitter::fit() {
         return;
     }
     host::Page& page = m_application.page();
-    const bool fills = isFilledByOneFrame();
-    const double scale =
-        fills ? size.width() / paperWidth : pixelsPerInch(size.width(), size.height());
+    const double scale = page.isFilledByOneFrame() ? size.width() / host::paperWidthInches
+                                                   : pixelsPerInch(size.width(), size.height());
     const host::WorkArea wanted{size.width(), size.height(), scale};
-    if (page.workArea == wanted) {
-        return;
+    if (!isSame(page.workArea, wanted)) {
+        page.resizeWorkArea(wanted);
+        m_application.drawing().mark();
     }
-    page.workArea = wanted;
-    if (fills && !page.frames().empty()) {
-        page.frames().front()->placement = page.regionOf(ExportRegion_WorkArea);
-    }
-    m_application.drawing().mark();
-}
-
-bool WorkAreaFitter::isFilledByOneFrame() const {
-    const host::Page& page = m_application.page();
-    return page.frames().empty() ||
-           (page.frames().size() == 1 &&
-            isSame(page.frames().front()->placement, page.regionOf(ExportRegion_WorkArea)));
 }
 
 double WorkAreaFitter::pixelsPerInch(double width, double height) const {
     const host::Placement all = m_application.page().regionOf(ExportRegion_AllFrames);
-    const double right = std::max(paperWidth, all.x + all.width);
+    const double right = std::max(host::paperWidthInches, all.x + all.width);
     const double bottom = all.y + all.height;
     return bottom > 0.0 ? std::min(width / right, height / bottom) : width / right;
 }

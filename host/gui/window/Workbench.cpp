@@ -56,9 +56,11 @@ Workbench::Workbench(host::Application& application, MainWindow& window, IdleDri
     addToolBar();
     m_refresh.setSingleShot(true);
     connect(&m_refresh, &QTimer::timeout, this, &Workbench::refresh);
+    connect(&m_macros, &MacroActions::recordingChanged, this, &Workbench::refreshStatus);
     idle.setApplication(&application);
     idle.onIdle = [this] {
         m_workArea.fit();
+        m_commands.application().macros().follower().catchUp();
         showExportFailure();
     };
     window.drawingArea().onResized = [this] {

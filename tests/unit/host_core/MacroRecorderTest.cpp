@@ -39,5 +39,28 @@ TEST(MacroRecorderTest, StartsWithAnEmptyPage) {
     EXPECT_THAT(recorder.lines(), ElementsAre("new"));
 }
 
+TEST(MacroRecorderTest, KeepsTheLastOfSeveralStatesOfOneThing) {
+    MacroRecorder recorder;
+    recorder.start();
+    recorder.recordState("$!VIEW SET Psi = 1");
+    recorder.recordState("$!VIEW SET Psi = 2");
+    recorder.recordState("$!SOLUTIONTIME = 3");
+    recorder.recordState("$!VIEW SET Psi = 4");
+    EXPECT_THAT(recorder.lines(),
+                ElementsAre("$!VIEW SET Psi = 2", "$!SOLUTIONTIME = 3", "$!VIEW SET Psi = 4"));
+}
+
+TEST(MacroRecorderTest, AStateTakesNoCommandsPlace) {
+    MacroRecorder recorder;
+    recorder.recordState("$!VIEW SET Psi = 0"); // nothing is being recorded
+    recorder.start();
+    recorder.recordRaw("$!VIEW FIT");
+    recorder.recordState("$!VIEW SET Psi = 1");
+    recorder.recordRaw("$!VIEW SET Psi = 2");
+    recorder.recordState("$!VIEW SET Psi = 3");
+    EXPECT_THAT(recorder.lines(), ElementsAre("$!VIEW FIT", "$!VIEW SET Psi = 1",
+                                              "$!VIEW SET Psi = 2", "$!VIEW SET Psi = 3"));
+}
+
 } // namespace
 } // namespace corvane::host

@@ -15,6 +15,38 @@ using testing::HasSubstr;
 
 using MacroSceneCommandsTest = MacroTest;
 
+TEST_F(MacroSceneCommandsTest, SizesTheWorkArea) {
+    play("$!READDATA x\n$!WORKAREA Width = 1000 Height = 500\n");
+    EXPECT_EQ(app.page().workArea, (WorkArea{1000, 500, 125.0}));
+    EXPECT_EQ(frame().placement, (Placement{0, 0, 8, 4}));
+    play("$!WORKAREA height = 500 width = 1000 pixelsperinch = 50.5\n");
+    EXPECT_EQ(app.page().workArea, (WorkArea{1000, 500, 50.5}));
+    EXPECT_TRUE(app.drawing().isMarked());
+}
+
+TEST_F(MacroSceneCommandsTest, ASizeThatTheUserGaveShowsAsMuchPaper) {
+    app.page().workArea = {320, 200, 40.0};
+    app.macros().keepPictureSize();
+    play("$!WORKAREA Width = 1000 Height = 500 PixelsPerInch = 50\n");
+    EXPECT_EQ(app.page().workArea, (WorkArea{320, 200, 16.0}));
+}
+
+TEST_F(MacroSceneCommandsTest, RefusesWorkAreasThatCannotBe) {
+    const WorkArea before = app.page().workArea;
+    for (const char* line : {"$!WORKAREA", "$!WORKAREA Width = 100", "$!WORKAREA Height = 100",
+                             "$!WORKAREA 100 x 100"}) {
+        EXPECT_THAT(causeOf(line), HasSubstr("Expected Width = pixels, Height = pixels")) << line;
+    }
+    EXPECT_EQ(causeOf("$!WORKAREA Width = 3 Height = 9"), "Width cannot be \"3\".");
+    EXPECT_EQ(causeOf("$!WORKAREA Width = 9 Height = 32767"), "Height cannot be \"32767\".");
+    EXPECT_EQ(causeOf("$!WORKAREA Width = 9 Height = 9 PixelsPerInch = 0"),
+              "PixelsPerInch cannot be \"0\".");
+    EXPECT_EQ(causeOf("$!WORKAREA Depth = 9"), "A work area has no value \"Depth\".");
+    app.status().start("Flying", true, true);
+    EXPECT_EQ(causeOf("$!WORKAREA Width = 100 Height = 100"), "An animation is running.");
+    EXPECT_EQ(app.page().workArea, before);
+}
+
 TEST_F(MacroSceneCommandsTest, ReadsDataRelativeToTheMacro) {
     play("$!READDATA \"wake.pvd\" \"/other/hull.vtp\" \"sub/a b.vtu\"");
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake.pvd", "/other/hull.vtp",

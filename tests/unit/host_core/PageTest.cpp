@@ -140,6 +140,24 @@ TEST_F(PageTest, KeepsFractionsOfPixels) {
     EXPECT_DOUBLE_EQ(page.toPixels(1e-15), 1e-13);
 }
 
+TEST_F(PageTest, OneFrameThatFillsTheWorkAreaGoesOnFillingIt) {
+    EXPECT_TRUE(page.isFilledByOneFrame());
+    page.createFrame(page.regionOf(ExportRegion_WorkArea));
+    page.resizeWorkArea({1000, 1000, 125.0});
+    EXPECT_EQ(page.active()->placement, (Placement{0, 0, 8, 8}));
+    EXPECT_TRUE(page.isFilledByOneFrame());
+}
+
+TEST_F(PageTest, OtherFramesKeepTheirPlaces) {
+    page.createFrame({0, 0, 4, 4.5});
+    page.resizeWorkArea({1000, 1000, 125.0});
+    EXPECT_EQ(page.active()->placement, (Placement{0, 0, 4, 4.5}));
+    page.createFrame({0, 0, 8, 8});
+    page.resizeWorkArea({1000, 500, 125.0});
+    EXPECT_EQ(page.active()->placement, (Placement{0, 0, 8, 8}));
+    EXPECT_FALSE(page.isFilledByOneFrame());
+}
+
 TEST_F(PageTest, RegionsCoverWhatTheyShow) {
     page.workArea = {1280, 720, 160.0};
     const Placement area{0, 0, 8, 4.5};

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 namespace corvane::host {
@@ -82,6 +83,45 @@ TEST_F(SceneMacroTest, BringsBackThePage) {
     EXPECT_EQ(frames[0]->plotType, PlotType_Cartesian2D);
     EXPECT_EQ(frames[1]->placement, before.app.page().frames()[1]->placement);
     EXPECT_EQ(after.app.page().active(), frames[1].get());
+}
+
+TEST_F(SceneMacroTest, BringsBackTheWorkArea) {
+    before.app.perform("WORKAREA", {"Width", "=", "900", "Height", "=", "700"});
+    before.app.perform("READDATA", {"/there/x.vtu"});
+    replay();
+    EXPECT_EQ(after.app.page().workArea, before.app.page().workArea);
+    EXPECT_TRUE(after.app.page().isFilledByOneFrame());
+}
+
+TEST_F(SceneMacroTest, AFrameThatFillsTheWorkAreaFillsAnotherOneToo) {
+    before.app.perform("WORKAREA", {"Width", "=", "900", "Height", "=", "700"});
+    before.app.perform("READDATA", {"/there/x.vtu"});
+    after.app.page().workArea = {300, 100, 300 / paperWidthInches};
+    after.app.macros().keepPictureSize();
+    replay();
+    EXPECT_EQ(after.app.page().workArea.height, 100);
+    EXPECT_TRUE(after.app.page().isFilledByOneFrame());
+}
+
+TEST_F(SceneMacroTest, BringsBackTheNumbersOfFramesAndTheirStack) {
+    for (const char* x : {"0", "1", "2", "3", "4"}) {
+        before.app.perform("FRAME", {"CREATE", "X", "=", x});
+    }
+    before.app.perform("FRAME", {"DELETE"});
+    before.app.perform("FRAME", {"ACTIVATE", "=", "2"});
+    before.app.perform("FRAME", {"DELETE"});
+    before.app.perform("FRAME", {"ACTIVATE", "=", "1"});
+    before.app.perform("FRAME", {"POP"});
+    before.app.perform("FRAME", {"ACTIVATE", "=", "3"});
+    replay();
+    Page& was = before.app.page();
+    Page& is = after.app.page();
+    EXPECT_TRUE(std::equal(is.frames().begin(), is.frames().end(), was.frames().begin(),
+                           was.frames().end(), [](const auto& a, const auto& b) {
+                               return a->id() == b->id() && a->placement == b->placement;
+                           }));
+    EXPECT_EQ(is.active()->id(), 3);
+    EXPECT_EQ(is.createFrame({}).id(), was.createFrame({}).id());
 }
 
 } // namespace
