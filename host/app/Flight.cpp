@@ -6,6 +6,8 @@
 #include "host/core/HostError.h"
 #include "host/core/macro/MacroWords.h"
 
+#include <filesystem>
+
 namespace corvane::app {
 namespace {
 
@@ -18,6 +20,11 @@ void setUp(host::Application& application, const std::string& name, const std::s
     application.macros().run("EXPORTSETUP", {name, "=", value});
 }
 
+/// As in a macro that is being recorded, which may be played from any folder.
+std::string absolute(const std::string& fileName) {
+    return std::filesystem::absolute(fileName).lexically_normal().string();
+}
+
 void openKeyFrames(host::Application& application, const std::string& fileName) {
     // The command's syntax has no escape for quotes.
     if (fileName.find('"') != std::string::npos) {
@@ -26,7 +33,7 @@ void openKeyFrames(host::Application& application, const std::string& fileName) 
                               "cannot carry; rename the file.");
     }
     try {
-        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
+        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + absolute(fileName) + "\"");
     } catch (const host::HostError& error) {
         // The add-on's texts tell what is wrong, but not with which file.
         throw host::HostError("Cannot open the key frame file " + fileName + ": " + error.what());
@@ -45,7 +52,7 @@ void setUpMovie(host::Application& application, const Options& options, double s
             setUp(application, "SuperSampleFactor", std::to_string(*options.supersample));
         }
     }
-    setUp(application, "ExportFName", options.output);
+    setUp(application, "ExportFName", absolute(options.output));
 }
 
 } // namespace
