@@ -1,15 +1,25 @@
-// Ctrl-C and the end signal of a batch system, as a wish that the flight looks at.
+// Ctrl-C and the end signal of a batch system, as a wish that the program looks at.
 #include "host/app/StopSignal.h"
 
+#include <array>
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace corvane::app {
 namespace {
 
 volatile std::sig_atomic_t signalled = 0;
+volatile std::sig_atomic_t bell = -1; // the end of a pipe at which an event loop listens
 
 extern "C" void rememberStop(int) {
+    const int error = errno;
     signalled = 1;
+    if (bell >= 0) {
+        [[maybe_unused]] const ssize_t count = write(bell, "", 1);
+    }
+    errno = error;
 }
 
 void watch(int signal) {
@@ -21,15 +31,31 @@ void watch(int signal) {
     sigaction(signal, &action, nullptr);
 }
 
+bool isIgnored(int signal) {
+    struct sigaction action {};
+    return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 } // namespace
 
 void watchStopSignals() {
     watch(SIGINT);
     watch(SIGTERM);
+    if (!isIgnored(SIGHUP)) {
+        watch(SIGHUP);
+    }
 }
 
 bool isStopSignalled() {
     return signalled != 0;
+}
+
+int stopSignalDescriptor() {
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) == 0) {
+        bell = ends[1];
+    }
+    return ends[0];
 }
 
 } // namespace corvane::app

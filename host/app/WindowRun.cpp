@@ -4,7 +4,9 @@
 #include "host/app/AddOnLibraries.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
+#include "host/app/StopSignal.h"
 #include "host/app/TraceFile.h"
+#include "host/core/macro/MacroFile.h"
 #include "host/gui/QtText.h"
 #include "host/gui/window/Desktop.h"
 #include "host/gui/window/Icons.h"
@@ -15,6 +17,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QSocketNotifier>
 #include <clocale>
 #include <cstdlib>
 #include <memory>
@@ -97,8 +100,11 @@ public:
                      .helpFolder = helpFolder()}) {}
 
     void start();
+    /// To be called when the event loop has ended.
+    ExitCode end();
 
 private:
+    void watchSignals();
     void traceCalls();
     void openWhatWasAsked();
 
@@ -109,6 +115,7 @@ private:
     movie::PngFiles m_pictures;
     std::unique_ptr<TraceFile> m_trace;
     gui::Desktop m_desktop;
+    std::unique_ptr<QSocketNotifier> m_stopSignal;
 };
 
 void WindowRun::start() {
@@ -116,10 +123,14 @@ void WindowRun::start() {
         say(warning);
         m_desktop.tell(warning);
     };
+    watchSignals();
     traceCalls();
     loadAddOns(m_desktop.application(), m_options, say);
     if (!m_options.record.empty()) {
         m_desktop.workbench().macros().recordTo(gui::toQt(m_options.record));
+    }
+    if (m_options.isSizeGiven) {
+        m_desktop.application().macros().keepPictureSize();
     }
     m_desktop.window().show();
     if (m_options.isSizeGiven) {
@@ -128,6 +139,28 @@ void WindowRun::start() {
     // Once the event loop runs, so that messages have somebody to read them.
     QMetaObject::invokeMethod(
         &m_desktop.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
+}
+
+/// A signal ends the run without questions, since nobody may be there to answer.
+void WindowRun::watchSignals() {
+    watchStopSignals();
+    m_stopSignal = std::make_unique<QSocketNotifier>(stopSignalDescriptor(), QSocketNotifier::Read);
+    QObject::connect(m_stopSignal.get(), &QSocketNotifier::activated, &m_desktop.window(), [this] {
+        m_stopSignal->setEnabled(false);
+        m_desktop.stopWork();
+        QApplication::exit();
+    });
+}
+
+ExitCode WindowRun::end() {
+    if (!isStopSignalled()) {
+        return ExitDone;
+    }
+    const QString recording = m_desktop.workbench().macros().file();
+    if (!recording.isEmpty()) {
+        host::writeMacro(m_desktop.application().recorder().lines(), gui::fromQt(recording));
+    }
+    return ExitStopped;
 }
 
 void WindowRun::traceCalls() {
@@ -170,7 +203,7 @@ ExitCode runWindow(const Options& options) {
         WindowRun run(options);
         run.start();
         QApplication::exec();
-        return ExitDone;
+        return run.end();
     } catch (const std::exception& error) {
         say(error.what());
         return ExitFailed;

@@ -38,6 +38,8 @@ public:
     MainWindow& window() { return m_window; }
     Workbench& workbench() { return m_workbench; }
 
+    /// Asks what is under way to end, as the Stop button does.
+    void stopWork() { m_status.requestStop(); }
     /// Shows a sentence in the status line for some seconds.
     void tell(const std::string& notice);
 

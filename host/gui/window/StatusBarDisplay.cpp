@@ -19,8 +19,8 @@ constexpr qint64 eventIntervalMs = 16;
 
 StatusBarDisplay::StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer)
     : m_strip(strip), m_pacer(pacer), m_shield(strip.stopButton()) {
-    m_shield.onEscape = [this] { m_isStopped = true; };
-    connect(&strip.stopButton(), &QPushButton::clicked, this, [this] { m_isStopped = true; });
+    m_shield.onEscape = [this] { requestStop(); };
+    connect(&strip.stopButton(), &QPushButton::clicked, this, &StatusBarDisplay::requestStop);
 }
 
 void StatusBarDisplay::start(const std::string& text, bool showStop, bool showProgress) {

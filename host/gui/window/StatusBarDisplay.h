@@ -25,6 +25,9 @@ public:
     void finish() override;
     bool isStopRequested() override;
 
+    /// As the Stop button does; without work nothing.
+    void requestStop() { m_isStopped = true; }
+
     /// Called when what was running has ended.
     std::function<void()> onFinished;
 
