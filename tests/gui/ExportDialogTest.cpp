@@ -19,7 +19,7 @@ struct RealMovies {
 
 class ExportDialog : private RealMovies, public KeyFrameWindowTest {
 protected:
-    ExportDialog() : KeyFrameWindowTest({.movies = &writers, .hasRealDialogs = false}) {}
+    ExportDialog() : KeyFrameWindowTest({.movies = &writers}) {}
 
     const QString exportTitle = QStringLiteral("Export Options");
 

@@ -73,9 +73,11 @@ TEST_F(FrameMenu, isRecorded) {
     app().recorder().start();
     choose("New Frame Beside");
     choose("Delete Frame");
-    EXPECT_THAT(app().recorder().stop(),
-                ElementsAre(HasSubstr("$!FRAME PLACE Width = "), HasSubstr("$!FRAME CREATE X = "),
-                            "$!FRAME DELETE"));
+    std::vector<std::string> lines = app().recorder().stop();
+    // Without data there is no time bar, which leaves more room to the picture.
+    std::erase_if(lines, [](const std::string& line) { return line.starts_with("$!WORKAREA"); });
+    EXPECT_THAT(lines, ElementsAre(HasSubstr("$!FRAME PLACE Width = "),
+                                   HasSubstr("$!FRAME CREATE X = "), "$!FRAME DELETE"));
 }
 
 } // namespace

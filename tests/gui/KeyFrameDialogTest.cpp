@@ -502,7 +502,7 @@ TEST_F(KeyFrameDialog, aHundredThousandKeyFramesAreOpenedAndUsed) {
 
 class KeyFrameDialogWithBoxes : public KeyFrameDialog {
 protected:
-    KeyFrameDialogWithBoxes() : KeyFrameDialog({.movies = nullptr, .hasRealDialogs = true}) {}
+    KeyFrameDialogWithBoxes() : KeyFrameDialog({.hasRealDialogs = true}) {}
 
     /// Looks after every message box that comes up, and closes it with Return.
     void watchBoxes() {

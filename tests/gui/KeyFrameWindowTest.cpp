@@ -13,17 +13,25 @@ KeyFrameWindowTest::KeyFrameWindowTest(const WindowSurroundings& surroundings)
     : WindowTest(surroundings) {}
 
 void KeyFrameWindowTest::SetUp() {
+    loadAddOn();
+    openData();
+}
+
+void KeyFrameWindowTest::loadAddOn() {
     // A library stays loaded, with its dialogs and key frames: each test has one of its own.
     const std::string library = folder.file("libKeyFrameAnimation.so");
     std::filesystem::copy_file(CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so", library);
     host::loadAddOn(app(), library);
-    openData();
+}
+
+void KeyFrameWindowTest::chooseByKeys(Qt::Key menu, Qt::Key entry) {
+    window().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+    DialogUser::chooseByKeys(window(), menu, entry);
 }
 
 DialogUser KeyFrameWindowTest::openDialog() {
-    window().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
-    DialogUser::chooseByKeys(window(), Qt::Key_A, Qt::Key_K);
+    chooseByKeys(Qt::Key_A, Qt::Key_K);
     return DialogUser(title);
 }
 

@@ -14,8 +14,13 @@ class KeyFrameWindowTest : public WindowTest {
 protected:
     explicit KeyFrameWindowTest(const WindowSurroundings& surroundings = {});
 
+    /// With data in the window and the add-on loaded.
     void SetUp() override;
+    void loadAddOn();
 
+    /// In a menu of the main window.
+    void chooseByKeys(Qt::Key menu, Qt::Key entry);
+    void record() { chooseByKeys(Qt::Key_M, Qt::Key_R); }
     /// By the Animate menu.
     DialogUser openDialog();
     /// Key frames one after another, the view turned between them.

@@ -13,6 +13,11 @@ namespace {
 
 constexpr int patienceMs = 10000;
 
+template <typename Port>
+Port& orElse(Port* given, Port& fromMemory) {
+    return given != nullptr ? *given : fromMemory;
+}
+
 void makeQtApplication() {
     static int count = 1;
     static std::string name = "gui_window";
@@ -34,13 +39,13 @@ WindowTest::WindowTest(const WindowSurroundings& surroundings) : m_surroundings(
 }
 
 void WindowTest::open() {
-    m_desktop = std::make_unique<gui::Desktop>(gui::DesktopParts{
-        .renderer = renderer,
-        .reader = reader,
-        .movies = m_surroundings.movies != nullptr ? *m_surroundings.movies : movies,
-        .pictures = pictures,
-        .dialogs = m_surroundings.hasRealDialogs ? nullptr : &dialogs,
-        .helpFolder = {}});
+    m_desktop = std::make_unique<gui::Desktop>(
+        gui::DesktopParts{.renderer = orElse<host::Renderer>(m_surroundings.renderer, renderer),
+                          .reader = orElse<host::DataReader>(m_surroundings.reader, reader),
+                          .movies = orElse<host::MovieWriters>(m_surroundings.movies, movies),
+                          .pictures = orElse<host::PictureFiles>(m_surroundings.pictures, pictures),
+                          .dialogs = m_surroundings.hasRealDialogs ? nullptr : &dialogs,
+                          .helpFolder = {}});
     window().show();
     if (!QTest::qWaitForWindowExposed(&window())) {
         throw std::runtime_error("The window does not come up.");

@@ -17,8 +17,11 @@ namespace corvane::test {
 
 /// What a test has instead of things made in memory.
 struct WindowSurroundings {
+    host::Renderer* renderer = nullptr;
+    host::DataReader* reader = nullptr;
     host::MovieWriters* movies = nullptr; ///< null: movies are counted
-    bool hasRealDialogs = false;          ///< message boxes and file dialogs over the window
+    host::PictureFiles* pictures = nullptr;
+    bool hasRealDialogs = false; ///< message boxes and file dialogs over the window
 };
 
 /// The tests share one QApplication, since a process has no more; it is made with the first.
