@@ -66,7 +66,8 @@ const std::vector<MacroCommand>& macroCommands() {
          {"NAME = VALUE"},
          "Sets one value of the export set-up.",
          "$!EXPORTSETUP ImageWidth = 1280",
-         setUpExport},
+         setUpExport,
+         Recorded::WithMovieName},
         {"PICTURE",
          {"\"FILE.png\" [Region = CURRENTFRAME | ALLFRAMES | WORKAREA] [Width = N] "
           "[Supersample = N]"},
@@ -107,17 +108,38 @@ const MacroCommand* findMacroCommand(const std::string& name) {
     return nullptr;
 }
 
+namespace {
+
+std::string absolute(const std::string& fileName) {
+    return std::filesystem::absolute(fileName).lexically_normal().string();
+}
+
+/// A word of the call in a form that does not depend on any folder.
+std::string recordedWord(const MacroCommand& command, const MacroCall& call, std::size_t index) {
+    const std::string& word = call.words[index];
+    switch (command.recorded) {
+    case Recorded::WithFileNames:
+        return absolute(call.path(word));
+    case Recorded::WithFileName:
+        return index == 0 ? absolute(call.path(word)) : word;
+    case Recorded::WithMovieName:
+        return index == 2 && equalIgnoringCase(call.words[0], "ExportFName") && !word.empty()
+                   ? absolute(word)
+                   : word;
+    default:
+        return word;
+    }
+}
+
+} // namespace
+
 std::string recordedLine(const MacroCommand& command, const MacroCall& call) {
     if (command.recorded == Recorded::ByOthers) {
         return {};
     }
     std::vector<std::string> words;
-    for (const std::string& word : call.words) {
-        const bool isFile = command.recorded == Recorded::WithFileNames ||
-                            (command.recorded == Recorded::WithFileName && words.empty());
-        const std::string name =
-            isFile ? std::filesystem::absolute(call.path(word)).lexically_normal().string() : word;
-        words.push_back(MacroVariables::escaped(name));
+    for (std::size_t index = 0; index < call.words.size(); ++index) {
+        words.push_back(MacroVariables::escaped(recordedWord(command, call, index)));
     }
     return macroLine(command.name, words);
 }

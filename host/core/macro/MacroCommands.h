@@ -13,6 +13,7 @@ enum class Recorded {
     AsWritten,
     WithFileNames, ///< all words are names of files, which become absolute
     WithFileName,  ///< the first word is
+    WithMovieName, ///< the value is, if it is that of ExportFName
     ByOthers,      ///< add-ons record their commands, and included macros are recorded line by line
 };
 

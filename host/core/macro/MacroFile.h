@@ -1,10 +1,16 @@
 // Macros on the disk.
 #pragma once
 
+#include <istream>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace corvane::host {
+
+/// Throws HostError with the cause. Pipes and devices are refused, since they may have no end, or
+/// nobody who writes to them.
+std::unique_ptr<std::istream> openMacro(const std::string& fileName);
 
 /// Writes the lines as a macro, whole or not at all. Throws HostError.
 void writeMacro(const std::vector<std::string>& lines, const std::string& fileName);

@@ -6,7 +6,6 @@
 #include "host/core/macro/MacroCommands.h"
 
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 namespace corvane::host {
@@ -32,7 +31,9 @@ private:
 class FolderVariable {
 public:
     FolderVariable(MacroVariables& variables, std::string& current, const std::string& folder)
-        : m_variables(variables), m_current(current), m_outer(std::exchange(current, folder)) {
+        : m_variables(variables),
+          m_current(current),
+          m_outer(std::exchange(current, absolute(folder))) {
         publish();
     }
     ~FolderVariable() {
@@ -43,6 +44,13 @@ public:
     FolderVariable& operator=(const FolderVariable&) = delete;
 
 private:
+    /// So that what add-ons record of it can be played from anywhere.
+    static std::string absolute(const std::string& folder) {
+        std::error_code error;
+        const std::filesystem::path here = std::filesystem::current_path(error);
+        const auto path = (here / folder).lexically_normal();
+        return (path.has_filename() ? path : path.parent_path()).string();
+    }
     void publish() { m_variables.set("MACRO_FOLDER", m_current.empty() ? "." : m_current); }
 
     MacroVariables& m_variables;
@@ -53,13 +61,8 @@ private:
 } // namespace
 
 void MacroPlayer::playFile(const std::string& fileName) {
-    const std::filesystem::path path(fileName);
-    std::error_code error;
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path, error)) {
-        throw HostError("Cannot open the macro file " + fileName + ".");
-    }
-    play(file, fileName, path.parent_path().string());
+    const std::unique_ptr<std::istream> file = open(fileName);
+    play(*file, fileName, std::filesystem::path(fileName).parent_path().string());
 }
 
 void MacroPlayer::play(std::istream& macro, const std::string& name, const std::string& folder) {
@@ -86,19 +89,22 @@ void MacroPlayer::run(const std::string& name, const std::vector<std::string>& w
     m_follower.catchUp();
     command->run(call);
     m_follower.remember();
+    MacroRecorder& recorder = m_application.recorder();
+    if (!recorder.isRecording()) {
+        return;
+    }
     if (const std::string line = recordedLine(*command, call); !line.empty()) {
-        m_application.recorder().recordRaw(line);
+        recorder.recordRaw(line);
     }
 }
 
 void MacroPlayer::runLine(const MacroLine& line, const std::string& name,
                           const std::string& folder) {
     try {
-        std::vector<std::string> words;
-        for (const std::string& word : line.words) {
-            words.push_back(m_variables.expand(word));
+        if (isStopRequested && isStopRequested()) {
+            throw HostError("The macro was stopped.");
         }
-        run(line.name, words, folder);
+        run(line.name, m_variables.expand(line.words), folder);
     } catch (const MacroError&) {
         throw; // it names the line of an included macro
     } catch (const std::exception& error) {

@@ -1,10 +1,13 @@
 // Carries out macros: a scene, an export set-up, a flight, line by line.
 #pragma once
 
+#include "host/core/macro/MacroFile.h"
 #include "host/core/macro/MacroText.h"
 #include "host/core/macro/MacroVariables.h"
 #include "host/core/macro/SceneFollower.h"
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,6 +27,11 @@ public:
     /// The size of pictures is the user's choice: from now on macros do not change it.
     void keepPictureSize() { m_keepsPictureSize = true; }
     bool keepsPictureSize() const { return m_keepsPictureSize; }
+
+    /// Opens the files of macros; throws HostError.
+    std::function<std::unique_ptr<std::istream>(const std::string& fileName)> open = openMacro;
+    /// Asked before each line; a macro that is to stop fails there. Empty: nobody can stop it.
+    std::function<bool()> isStopRequested;
 
     /// Throws MacroError at the first line that fails; the lines before it have taken effect.
     void playFile(const std::string& fileName);

@@ -2,6 +2,7 @@
 #include "host/core/macro/MacroText.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace corvane::host {
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::size_t longestLine = std::size_t{1} << 20U;
 constexpr std::size_t longestShown = 200;
+constexpr std::size_t longestCause = 2000;
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
@@ -29,22 +31,33 @@ std::string trimmed(const std::string& text) {
     return first < last ? std::string(first, last) : std::string();
 }
 
+/// Some editors begin their files with it.
+std::string withoutByteOrderMark(const std::string& text) {
+    constexpr std::string_view mark = "\xef\xbb\xbf";
+    return text.compare(0, mark.size(), mark) == 0 ? text.substr(mark.size()) : text;
+}
+
 /// Whether a byte belongs to a UTF-8 character that began before it.
 bool isContinuation(char c) {
     return (static_cast<unsigned char>(c) & 0xc0U) == 0x80U;
 }
 
-/// Part of a line that does no harm in a terminal, whatever file it comes from.
-std::string shown(const std::string& text) {
-    std::size_t size = std::min(text.size(), longestShown);
-    while (size > 0 && size < text.size() && isContinuation(text[size])) {
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < 0x20 || c == 0x7f;
+}
+
+/// Part of a text that does no harm in a terminal, whatever file it comes from.
+std::string shown(const std::string& text, std::size_t longest) {
+    std::size_t size = std::min(text.size(), longest);
+    // No further than a character is long: other bytes are no text, and are shown all the same.
+    for (int back = 0; back < 3 && size < text.size() && isContinuation(text[size]); ++back) {
         --size;
     }
     std::string result = text.substr(0, size);
     std::replace_if(
-        result.begin(), result.end(),
-        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }, '?');
-    return text.size() > longestShown ? result + "…" : result;
+        result.begin(), result.end(), [](char c) { return isControl(c) && c != '\n' && c != '\t'; },
+        '?');
+    return text.size() > longest ? result + "…" : result;
 }
 
 /// Takes words from a line, one by one.
@@ -132,7 +145,8 @@ private:
 
 MacroError::MacroError(const std::string& file, unsigned long line, const std::string& text,
                        const std::string& cause)
-    : std::runtime_error(file + ":" + std::to_string(line) + ": " + shown(text) + "\n" + cause) {}
+    : std::runtime_error(shown(file, longestCause) + ":" + std::to_string(line) + ": " +
+                         shown(text, longestShown) + "\n" + shown(cause, longestCause)) {}
 
 std::string quoted(const std::string& text) {
     std::string result = "\"";
@@ -173,7 +187,7 @@ MacroReader::MacroReader(std::istream& stream, std::string fileName)
 bool MacroReader::next(MacroLine& line) {
     std::string text;
     while (readLine(text)) {
-        text = trimmed(text);
+        text = trimmed(m_number == 1 ? withoutByteOrderMark(text) : text);
         if (!text.empty() && text.front() != '#') {
             parse(text, line);
             return true;
@@ -210,6 +224,9 @@ bool MacroReader::readLine(std::string& text) {
 void MacroReader::parse(const std::string& text, MacroLine& line) const {
     if (text.compare(0, 2, "$!") != 0) {
         fail(text, "A command begins with $!, a comment with #.");
+    }
+    if (text.find('\0') != std::string::npos) {
+        fail(text, "There is a zero byte in the line. Is this a macro?");
     }
     const auto nameBegin = text.begin() + 2;
     const auto nameEnd = std::find_if_not(nameBegin, text.end(), isAlphanumeric);

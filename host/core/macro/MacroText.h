@@ -9,7 +9,7 @@
 namespace corvane::host {
 
 /// A macro that cannot be read or carried out. what() names file and line, shows the line and tells
-/// the cause.
+/// the cause; none of them does harm in a terminal, however long or odd the file is.
 class MacroError : public std::runtime_error {
 public:
     MacroError(const std::string& file, unsigned long line, const std::string& text,
@@ -38,7 +38,8 @@ std::string macroLine(const std::string& name, const std::vector<std::string>& w
 std::vector<std::string> splitWords(const std::string& text);
 
 /// Reads the next line that is neither empty nor a comment (#). False at the end. Throws MacroError
-/// for a line that does not begin with "$!", cannot be split, or is longer than 1 MiB.
+/// for a line that does not begin with "$!", cannot be split, holds a zero byte, or is longer than
+/// 1 MiB. A byte order mark at the beginning of the file is skipped.
 class MacroReader {
 public:
     MacroReader(std::istream& stream, std::string fileName);

@@ -28,6 +28,13 @@ void expectName(const std::string& name) {
     }
 }
 
+void checkLength(std::size_t length) {
+    constexpr std::size_t longest = std::size_t{1} << 20U;
+    if (length > longest) {
+        reject("With the values of its variables the line is longer than 1 MiB.");
+    }
+}
+
 bool startsWith(const std::string& text, std::size_t at, std::string_view part) {
     return text.compare(at, part.size(), part) == 0;
 }
@@ -57,9 +64,21 @@ std::string MacroVariables::expand(const std::string& text) const {
             }
             result += valueOf(text.substr(at + 2, end - at - 2));
             at = end + 1;
+            checkLength(result.size());
         } else {
             result += text[at++];
         }
+    }
+    return result;
+}
+
+std::vector<std::string> MacroVariables::expand(const std::vector<std::string>& words) const {
+    std::vector<std::string> result;
+    std::size_t length = 0;
+    for (const std::string& word : words) {
+        result.push_back(expand(word));
+        length += result.back().size();
+        checkLength(length);
     }
     return result;
 }

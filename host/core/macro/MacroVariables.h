@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace corvane::host {
 
@@ -16,6 +17,9 @@ public:
 
     /// ${NAME} becomes the value of the variable, $${ becomes ${.
     std::string expand(const std::string& text) const;
+    /// All words of a line. Rejects what becomes longer than 1 MiB together: variables that hold
+    /// each other several times would fill the memory within a few lines.
+    std::vector<std::string> expand(const std::vector<std::string>& words) const;
     /// A text that expand() turns into this one.
     static std::string escaped(const std::string& text);
 

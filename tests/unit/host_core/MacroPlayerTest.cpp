@@ -105,6 +105,59 @@ TEST_F(MacroPlayerTest, AMacroFileIsWrittenWholeOrNotAtAll) {
     EXPECT_THAT(folder.names(), ElementsAre("a.mcr"));
 }
 
+TEST_F(MacroPlayerTest, FilesThatMayHaveNoEndAreRefused) {
+    for (const char* file : {"/dev/zero", "/dev/null"}) {
+        EXPECT_EQ(causeOf(std::string("$!INCLUDE ") + file),
+                  std::string("Cannot open the macro file ") + file +
+                      ": it is not a regular file.");
+    }
+}
+
+TEST_F(MacroPlayerTest, TakesMacrosFromElsewhere) {
+    app.macros().open = [](const std::string& name) {
+        return std::make_unique<std::istringstream>("$!READDATA " + name + ".vtu\n");
+    };
+    app.macros().playFile("any");
+    EXPECT_EQ(host.reader.calls.back(), std::vector<std::string>{"any.vtu"});
+}
+
+TEST_F(MacroPlayerTest, StopsBetweenLines) {
+    int asked = 0;
+    app.macros().isStopRequested = [&asked] { return ++asked == 2; };
+    EXPECT_EQ(causeOf("$!READDATA x\n$!READDATA y\n"), "The macro was stopped.");
+    EXPECT_EQ(host.reader.calls.size(), 1U);
+}
+
+TEST_F(MacroPlayerTest, VariablesThatHoldEachOtherStayWithinALine) {
+    std::string macro = "$!SET A = xxxxxxxx\n";
+    for (int i = 0; i < 16; ++i) {
+        macro += "$!SET A = ${A}${A}\n";
+    }
+    const std::string cause = "With the values of its variables the line is longer than 1 MiB.";
+    EXPECT_EQ(causeOf(macro + "$!READDATA ${A} ${A}\n"), "");
+    EXPECT_EQ(causeOf("$!READDATA ${A} ${A} x\n"), cause);
+    EXPECT_EQ(causeOf("$!READDATA ${A}${A}x\n"), cause);
+    EXPECT_EQ(host.reader.calls.size(), 1U);
+}
+
+TEST_F(MacroPlayerTest, RecordsNamesThatHoldInEveryFolder) {
+    const test::TempFolder folder;
+    folder.write("scene.mcr", "$!READDATA x\n$!EXPORTSETUP exportfname = sub/../a.mp4\n"
+                              "$!STYLE Annotations/Title = \"${MACRO_FOLDER}\"\n"
+                              "$!EXPORTSETUP ImageWidth = 64\n");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    app.recorder().start();
+    app.macros().playFile("scene.mcr");
+    std::filesystem::current_path(before);
+    EXPECT_THAT(app.recorder().stop(),
+                ElementsAre("$!READDATA " + folder.file("x"),
+                            "$!EXPORTSETUP exportfname = " + folder.file("a.mp4"),
+                            "$!STYLE Annotations/Title = " + folder.path().string(),
+                            "$!EXPORTSETUP ImageWidth = 64"));
+    EXPECT_EQ(app.exportSetup().fileName, "sub/../a.mp4");
+}
+
 TEST_F(MacroPlayerTest, UnknownCommandsAreErrors) {
     EXPECT_EQ(causeOf("$!FLY 1"), "There is no command FLY.");
 }
@@ -161,7 +214,7 @@ TEST_F(MacroPlayerTest, FilesThatCannotBeOpenedAreNamed) {
             app.macros().playFile(file);
             FAIL() << file;
         } catch (const HostError& error) {
-            EXPECT_EQ(error.what(), "Cannot open the macro file " + file + ".");
+            EXPECT_THAT(error.what(), StartsWith("Cannot open the macro file " + file + ": "));
         }
     }
 }

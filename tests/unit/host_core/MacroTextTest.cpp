@@ -142,6 +142,30 @@ TEST_F(MacroReaderTest, CutsALongLineBetweenCharacters) {
     EXPECT_THAT(errorOf(text), HasSubstr("flight.macro:1: " + std::string(199, 'x') + "…\n"));
 }
 
+TEST_F(MacroReaderTest, ShowsMuchOfALongLineThatIsNoText) {
+    EXPECT_THAT(errorOf(std::string(5000, '\x8a')),
+                StartsWith("flight.macro:1: " + std::string(197, '\x8a') + "…\n"));
+}
+
+TEST_F(MacroReaderTest, SkipsAByteOrderMarkAtTheBeginningAlone) {
+    EXPECT_EQ(read("\xef\xbb\xbf$!REDRAW\n").size(), 1U);
+    EXPECT_THAT(read("\xef\xbb\xbf# nothing\n"), IsEmpty());
+    EXPECT_THAT(errorOf("$!REDRAW\n\xef\xbb\xbf$!REDRAW\n"), HasSubstr("begins with $!"));
+    EXPECT_THAT(errorOf("\xef\xbb$!REDRAW\n"), HasSubstr("begins with $!"));
+}
+
+TEST_F(MacroReaderTest, RefusesZeroBytesThatWouldEndNames) {
+    EXPECT_EQ(errorOf(std::string("$!READDATA \"a\0b\"\n", 17)),
+              "flight.macro:1: $!READDATA \"a?b\"\nThere is a zero byte in the line. Is this a "
+              "macro?");
+}
+
+TEST(MacroErrorText, IsShortAndHarmless) {
+    const MacroError error("a\x1b.mcr", 7, "$!X", "A\tcause\x1b\nin " + std::string(9000, 'x'));
+    EXPECT_THAT(error.what(), StartsWith("a?.mcr:7: $!X\nA\tcause?\nin xxx"));
+    EXPECT_LT(std::string(error.what()).size(), 2100U);
+}
+
 TEST_F(MacroReaderTest, TakesLinesOfAMebibyte) {
     const std::string start = "$!COMMAND ";
     const std::string word((std::size_t{1} << 20U) - start.size(), 'x');
