@@ -11,6 +11,7 @@
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
+#include "host/core/PartFile.h"
 #include "host/core/macro/MacroFile.h"
 #include "host/core/macro/SceneMacro.h"
 #include "host/movie/LibavMovieWriters.h"
@@ -43,6 +44,7 @@ public:
 private:
     void work();
     void openData();
+    void startRecording();
     void writeRecorded();
     void traceCalls();
     void setUpPage();
@@ -79,10 +81,9 @@ void BatchRun::work() {
     setUpPage();
     m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
     loadAddOns(m_application, m_options, say);
-    if (!m_options.record.empty()) {
-        host::startRecording(m_application);
-    }
+    startRecording();
     openData();
+    m_application.macros().isStopRequested = isStopSignalled;
     for (const auto& [name, value] : m_options.variables) {
         m_application.macros().variables().set(name, value);
     }
@@ -101,6 +102,14 @@ void BatchRun::work() {
 void BatchRun::openData() {
     if (!m_options.data.empty()) {
         m_application.perform("READDATA", m_options.data);
+    }
+}
+
+void BatchRun::startRecording() {
+    if (!m_options.record.empty()) {
+        // A name that cannot be written to is better known before the flight than behind it.
+        const host::PartFile probe(m_options.record);
+        host::startRecording(m_application);
     }
 }
 
@@ -143,7 +152,7 @@ void BatchRun::sayWhatWasMade(double seconds) {
 
 ExitCode BatchRun::failed(const std::string& message) {
     if (isStopSignalled()) {
-        say("Stopped; no movie was written.");
+        say("Stopped; what was not complete was not written.");
         return ExitStopped;
     }
     say(message);

@@ -20,20 +20,23 @@ void setUp(host::Application& application, const std::string& name, const std::s
     application.macros().run("EXPORTSETUP", {name, "=", value});
 }
 
-/// As in a macro that is being recorded, which may be played from any folder.
-std::string absolute(const std::string& fileName) {
-    return std::filesystem::absolute(fileName).lexically_normal().string();
+/// The add-on records the name as it is told, and the record is to hold in every folder.
+std::string recordableName(host::Application& application, const std::string& fileName) {
+    return application.recorder().isRecording()
+               ? std::filesystem::absolute(fileName).lexically_normal().string()
+               : fileName;
 }
 
-void openKeyFrames(host::Application& application, const std::string& fileName) {
+void openKeyFrames(host::Application& application, const std::string& givenName) {
+    const std::string fileName = recordableName(application, givenName);
     // The command's syntax has no escape for quotes.
     if (fileName.find('"') != std::string::npos) {
         throw host::HostError("The key frame file \"" + fileName +
-                              "\" has a double quote in its name, which the command that opens it "
-                              "cannot carry; rename the file.");
+                              "\" has a double quote in its name or folder, which the command "
+                              "that opens it cannot carry; rename or move the file.");
     }
     try {
-        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + absolute(fileName) + "\"");
+        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
     } catch (const host::HostError& error) {
         // The add-on's texts tell what is wrong, but not with which file.
         throw host::HostError("Cannot open the key frame file " + fileName + ": " + error.what());
@@ -52,7 +55,7 @@ void setUpMovie(host::Application& application, const Options& options, double s
             setUp(application, "SuperSampleFactor", std::to_string(*options.supersample));
         }
     }
-    setUp(application, "ExportFName", absolute(options.output));
+    setUp(application, "ExportFName", options.output);
 }
 
 } // namespace

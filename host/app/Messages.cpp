@@ -5,12 +5,20 @@
 
 namespace corvane::app {
 
+namespace {
+
+bool isControl(char c) {
+    return (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7f;
+}
+
+} // namespace
+
 std::string onOneLine(const std::string& message) {
     std::string line;
     for (const char c : message) {
         const bool isBreak = c == '\n' || c == '\r';
         if (!isBreak) {
-            line += c;
+            line += isControl(c) ? '?' : c;
         } else if (!line.empty() && line.back() != ' ') {
             line += ' ';
         }

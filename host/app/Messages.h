@@ -5,7 +5,8 @@
 
 namespace corvane::app {
 
-/// Line breaks become blanks.
+/// Line breaks become blanks, and question marks stand for other control characters: names of files
+/// may hold what a terminal would obey.
 std::string onOneLine(const std::string& message);
 /// "corvane: message"
 void say(const std::string& message);

@@ -1,4 +1,4 @@
-// Ctrl-C and the end signal of a batch system, as a wish that the program looks at.
+// The signals of the process.
 #include "host/app/StopSignal.h"
 
 #include <array>
@@ -37,6 +37,11 @@ bool isIgnored(int signal) {
 }
 
 } // namespace
+
+void surviveFailedWrites() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 void watchStopSignals() {
     watch(SIGINT);

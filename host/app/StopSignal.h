@@ -1,7 +1,12 @@
-// Ctrl-C and the end signal of a batch system, as a wish that the program looks at.
+// The signals of the process: Ctrl-C and the end signal of a batch system are a wish that the work
+// looks at, and failed writes end nothing.
 #pragma once
 
 namespace corvane::app {
+
+/// From now on a pipe that nobody reads and a limit on the size of files are errors of the write,
+/// which is told and cleaned up after, instead of the end of the process.
+void surviveFailedWrites();
 
 /// From now on SIGINT, SIGTERM and, unless it is ignored as by nohup, SIGHUP are remembered; a
 /// second one ends the process at once.

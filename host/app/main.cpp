@@ -2,17 +2,25 @@
 #include "host/app/BatchRun.h"
 #include "host/app/Messages.h"
 #include "host/app/Options.h"
+#include "host/app/StandardStreams.h"
+#include "host/app/StopSignal.h"
 #include "host/app/WindowRun.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
     using namespace corvane::app;
+    holdStandardStreams();
+    surviveFailedWrites();
     try {
         const Options options = parseCommandLine(argc, argv);
         return options.needsWindow() ? runWindow(options) : runBatch(options);
     } catch (const PrintAndExit& text) {
-        std::cout << text.what();
+        std::cout << text.what() << std::flush;
+        if (!std::cout) {
+            say("Cannot write to standard output.");
+            return ExitFailed;
+        }
         return ExitDone;
     } catch (const UsageError& error) {
         say(error.what());

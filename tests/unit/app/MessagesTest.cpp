@@ -11,3 +11,7 @@ TEST(Messages, lineBreaksBecomeSingleBlanks) {
     EXPECT_EQ(onOneLine("\r\n"), "");
     EXPECT_EQ(onOneLine("a  b"), "a  b");
 }
+
+TEST(Messages, holdNothingThatATerminalObeys) {
+    EXPECT_EQ(onOneLine("a\x1b[2J\x07 b\tü\x7f"), "a?[2J? b\tü?");
+}
