@@ -4,9 +4,12 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -26,12 +29,22 @@ struct Pipe {
         readEnd = ends[0];
         writeEnd = ends[1];
     }
+    Pipe(int read, int write) : readEnd(read), writeEnd(write) {}
 };
 
-pid_t spawn(const std::vector<std::string>& arguments, const Pipe& output, const Pipe& errors) {
-    std::vector<char*> argv{const_cast<char*>(program)};
-    for (const std::string& argument : arguments) {
-        argv.push_back(const_cast<char*>(argument.c_str()));
+/// A pipe whose end to write to is a terminal.
+Pipe terminal() {
+    const int readEnd = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (readEnd < 0 || grantpt(readEnd) != 0 || unlockpt(readEnd) != 0) {
+        throw std::runtime_error("no terminal");
+    }
+    return {readEnd, open(ptsname(readEnd), O_RDWR | O_NOCTTY)};
+}
+
+pid_t spawn(const std::vector<std::string>& command, const Pipe& output, const Pipe& errors) {
+    std::vector<char*> argv;
+    for (const std::string& word : command) {
+        argv.push_back(const_cast<char*>(word.c_str()));
     }
     argv.push_back(nullptr);
     posix_spawn_file_actions_t actions;
@@ -43,12 +56,12 @@ pid_t spawn(const std::vector<std::string>& arguments, const Pipe& output, const
         posix_spawn_file_actions_addclose(&actions, end);
     }
     pid_t pid = -1;
-    const int failure = posix_spawn(&pid, program, &actions, nullptr, argv.data(), environ);
+    const int failure = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     close(output.writeEnd);
     close(errors.writeEnd);
     if (failure != 0) {
-        throw std::runtime_error(std::string("cannot start ") + program);
+        throw std::runtime_error("cannot start " + command[0]);
     }
     return pid;
 }
@@ -68,10 +81,17 @@ bool drain(int& end, std::string& text) {
 
 } // namespace
 
-Program::Program(const std::vector<std::string>& arguments) {
+Surroundings inShell(const std::string& commands) {
+    return {.wrapper = {"/bin/sh", "-c", commands, "sh"}};
+}
+
+Program::Program(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
     const Pipe output;
-    const Pipe errors;
-    m_pid = spawn(arguments, output, errors);
+    const Pipe errors = surroundings.hasTerminal ? terminal() : Pipe();
+    std::vector<std::string> command = surroundings.wrapper;
+    command.push_back(program);
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    m_pid = spawn(command, output, errors);
     m_outputPipe = output.readEnd;
     m_errorPipe = errors.readEnd;
 }
@@ -113,6 +133,11 @@ bool Program::waitForError(const std::string& text) {
     return true;
 }
 
+void Program::closeErrors() {
+    close(m_errorPipe);
+    m_errorPipe = -1;
+}
+
 void Program::signal(int number) const {
     kill(m_pid, number);
 }
@@ -121,14 +146,17 @@ ProgramResult Program::finish() {
     while (readSome()) {
     }
     int status = 0;
-    waitpid(m_pid, &status, 0);
+    rusage used{};
+    wait4(m_pid, &status, 0, &used);
+    m_result.peakMemory = used.ru_maxrss;
     m_pid = -1;
     m_result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return m_result;
 }
 
-ProgramResult runProgram(const std::vector<std::string>& arguments) {
-    return Program(arguments).finish();
+ProgramResult runProgram(const std::vector<std::string>& arguments,
+                         const Surroundings& surroundings) {
+    return Program(arguments, surroundings).finish();
 }
 
 } // namespace corvane::test
