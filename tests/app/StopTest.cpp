@@ -1,4 +1,4 @@
-// Ctrl-C: no file, exit code 130, and an older movie untouched.
+// Ctrl-C: no file, exit code 130, and older files untouched.
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
@@ -38,6 +38,49 @@ TEST_P(Stop, endsTheFlightAndLeavesNothing) {
     EXPECT_NE(result.errors.find("corvane: Stopped"), std::string::npos) << result.errors;
     EXPECT_EQ(readFile(movie), "an older movie");
     EXPECT_FALSE(fs::exists(movie + ".part"));
+}
+
+TEST_P(Stop, leavesTheRecordAsItWas) {
+    const TempFolder folder;
+    const std::string record = folder.write("record.mcr", "an older record");
+    auto arguments = shortRun(folder, folder.file("flight.mp4"));
+    writeFile(folder.file("short.keyframe"), longFlight());
+    arguments.back() = "64x36";
+    arguments.insert(arguments.end(), {"--record", record});
+
+    Program program(arguments);
+    ASSERT_TRUE(program.waitForError("Animating.... 10 %"));
+    program.signal(GetParam());
+    EXPECT_EQ(program.finish().exitCode, 130);
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"record.mcr", "short.keyframe"}));
+    EXPECT_EQ(readFile(record), "an older record");
+}
+
+TEST_P(Stop, endsAMacroBetweenItsLines) {
+    const TempFolder folder;
+    folder.write("short.keyframe", shortFlight());
+    std::string macro = "$!READDATA \"" + exampleFile("wake/body.vtp") +
+                        "\"\n"
+                        "$!EXTCOMMAND \"Key Frame Animation\" "
+                        "\"OpenSettingsFile FileName=\\\"${MACRO_FOLDER}/short.keyframe\\\"\"\n"
+                        "$!EXPORTSETUP ExportFName = \"${MACRO_FOLDER}/flight.avi\"\n"
+                        "$!EXTCOMMAND \"Key Frame Animation\" "
+                        "\"Animate AnimationDestination=ToFile\"\n";
+    // More than can be made before the signal arrives.
+    constexpr int pictures = 20000;
+    for (int i = 0; i < pictures; ++i) {
+        macro += "$!PICTURE picture.png\n";
+    }
+    Program program({"--batch", "--macro", folder.write("scene.mcr", macro), "--size", "64x36",
+                     "--record", folder.file("record.mcr")});
+    ASSERT_TRUE(program.waitForError("Animating.... 90 %"));
+    program.signal(GetParam());
+    const ProgramResult result = program.finish();
+
+    EXPECT_EQ(result.exitCode, 130) << result.errors;
+    EXPECT_NE(result.errors.find("corvane: Stopped"), std::string::npos) << result.errors;
+    EXPECT_FALSE(folder.has("record.mcr"));
+    EXPECT_FALSE(folder.has("picture.png.part"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Signals, Stop, testing::Values(SIGINT, SIGTERM), [](const auto& signal) {
