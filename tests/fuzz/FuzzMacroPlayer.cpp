@@ -1,0 +1,244 @@
+// Any bytes as a macro: it is played to the end or to an error that tells where and why, the host
+// is left clean, and what was recorded of it leads to the same again.
+#include "host/core/macro/MacroText.h"
+#include "tests/fuzz/Require.h"
+#include "tests/unit/host_core/Fakes.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using corvane::fuzz::require;
+using namespace corvane::host;
+
+// Nothing can lie below a device, so that no relative name, however many folders it climbs, leads
+// to a file.
+std::string const folder = "/dev/null";
+
+bool isPlain(char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) != 0;
+}
+
+// Without names that begin with a slash: those would lead out of the folder.
+std::string withoutAbsoluteNames(std::string text) {
+    for (std::size_t at = 0; at < text.size(); ++at)
+        if (text[at] == '/' && (at == 0 || !isPlain(text[at - 1])))
+            text[at] = '_';
+    return text;
+}
+
+// The macros of a run: the bytes up to a line of dashes are the first, which may include the
+// others by any name that ends in their number.
+class Macros {
+public:
+    explicit Macros(std::string const& text) {
+        constexpr std::string_view separator = "\n--\n";
+        std::size_t begin = 0;
+        for (std::size_t end; (end = text.find(separator, begin)) != std::string::npos;
+             begin = end + separator.size())
+            m_texts.push_back(text.substr(begin, end - begin));
+        m_texts.push_back(text.substr(begin));
+    }
+
+    std::unique_ptr<std::istream> open(std::string const& name) {
+        // Macros that include the next ones twice each take exponential time, which is no defect;
+        // file systems limit names, and errors could not be told apart from those with a colon.
+        constexpr int mostIncludes = 64;
+        constexpr std::size_t longestName = 1000;
+        bool const isName = name.size() <= longestName && name.find(':') == std::string::npos;
+        if (!isName || indexOf(name) >= m_texts.size() || ++m_includes > mostIncludes)
+            throw HostError("There is no macro " + name + ".");
+        return std::make_unique<std::istringstream>(m_texts[indexOf(name)]);
+    }
+
+    std::string const& main() const { return m_texts.front(); }
+
+    // The text of the macro of that name, as an error shows it.
+    std::string const& textOf(std::string const& name) const {
+        if (name == "main")
+            return main();
+        require(indexOf(name) < m_texts.size(), "an error names its file");
+        return m_texts[indexOf(name)];
+    }
+
+    static std::string printable(std::string text) {
+        for (char& c : text)
+            if ((static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t') || c == 0x7f)
+                c = '?';
+        return text;
+    }
+
+private:
+    static std::size_t indexOf(std::string const& name) {
+        char const last = name.empty() ? '\0' : name.back();
+        return last >= '0' && last <= '9' ? static_cast<std::size_t>(last - '0') : std::size_t(-1);
+    }
+
+    std::vector<std::string> m_texts;
+    int m_includes = 0;
+};
+
+std::string lineOf(std::string const& text, unsigned long number) {
+    std::istringstream stream(text);
+    std::string line;
+    for (unsigned long count = 0; count < number; ++count)
+        require(!std::getline(stream, line).fail(), "an error is in a line that there is");
+    if (number == 1 && line.starts_with("\xef\xbb\xbf"))
+        line.erase(0, 3);
+    return line.erase(0, line.find_first_not_of(" \t\r"));
+}
+
+void checkError(MacroError const& failure, Macros const& macros) {
+    constexpr std::size_t fewestShown = 190; // the rest may be cut off
+    std::string const error = failure.what();
+    std::size_t at = std::min(error.find(':'), error.size());
+    std::string const& text = macros.textOf(error.substr(0, at));
+    unsigned long number = 0;
+    for (++at; at < error.size() && error[at] >= '0' && error[at] <= '9'; ++at)
+        number = number * 10 + static_cast<unsigned long>(error[at] - '0');
+    require(error.compare(at, 2, ": ") == 0, "an error has the number of its line");
+    std::string line = Macros::printable(lineOf(text, number).substr(0, fewestShown));
+    line.erase(line.find_last_not_of(" ?\t") + 1); // blanks at the end are not part of the text
+    require(error.compare(at + 2, line.size(), line) == 0, "an error shows its line");
+    std::size_t const lineEnd = error.find('\n', at);
+    require(lineEnd != std::string::npos && lineEnd + 1 < error.size(), "an error has a cause");
+    require(error.size() < 8192, "an error is short");
+}
+
+// An add-on whose commands fail in all ways, or record themselves, as those of add-ons do.
+void addEcho(Application& app) {
+    app.addOnCommands().add("Echo", [&app](std::string const& command) {
+        std::string const error = app.callAddOn("Echo", [&] {
+            if (command.starts_with("throw")) {
+                app.locks().start(nullptr);
+                app.drawing().suspend();
+                throw std::runtime_error(command);
+            }
+        });
+        if (!error.empty() || command.starts_with("refuse"))
+            return std::optional<std::string>("Echo error:\n" + command);
+        app.recorder().recordAddOnCommand("Echo", command);
+        return std::optional<std::string>();
+    });
+}
+
+// A host with a frame and data, which takes a hundred times as long to make as most macros to play.
+class Host {
+public:
+    Host() {
+        m_host.reader.data = fakes::volumeData();
+        addEcho(m_host.app);
+        m_host.app.openData({"data"});
+        m_host.app.recorder().start();
+        Frame const& frame = *m_host.app.page().active();
+        m_plotType = frame.plotType;
+        m_view = frame.view;
+        m_style = frame.style;
+        m_solutionTime = frame.solutionTime;
+    }
+
+    // Frames are counted for ever, so that those of a macro cannot be taken back.
+    bool canBeRenewed() {
+        return std::none_of(recorded().begin(), recorded().end(),
+                            [](std::string const& line) { return line.starts_with("$!FRAME"); });
+    }
+
+    void renew() {
+        m_host.app.macros().variables() = {};
+        m_host.app.exportSetup() = {};
+        m_host.app.setStyle({"Interface", "UseDisplayLists"}, 1L);
+        Frame& frame = *m_host.app.page().active();
+        frame.plotType = m_plotType;
+        frame.view = m_view;
+        frame.style = m_style;
+        frame.solutionTime = m_solutionTime;
+        m_host.reader.calls.clear();
+        m_host.screen.presented.clear();
+        m_host.app.recorder().start();
+    }
+
+    // False when the macro fails.
+    bool play(Macros& macros) {
+        m_host.app.macros().open = [&](std::string const& name) { return macros.open(name); };
+        std::istringstream text(macros.main());
+        bool succeeded = true;
+        try {
+            m_host.app.macros().play(text, "main", folder);
+        } catch (MacroError const& error) {
+            checkError(error, macros);
+            succeeded = false;
+        }
+        require(!m_host.app.macros().isPlaying(), "a macro ends");
+        require(m_host.app.locks().depth() == 0, "locks are balanced");
+        require(m_host.app.drawing().suspensions() == 0, "suspended drawing is balanced");
+        require(!m_host.app.status().isActive(), "no display of progress is left");
+        return succeeded;
+    }
+
+    std::vector<std::string> const& recorded() { return m_host.app.recorder().lines(); }
+
+    bool showsTheSameAs(Host& other) {
+        auto const& mine = m_host.app.page().frames();
+        auto const& others = other.m_host.app.page().frames();
+        return std::equal(mine.begin(), mine.end(), others.begin(), others.end(),
+                          [](auto const& a, auto const& b) {
+                              return a->id() == b->id() && a->view == b->view &&
+                                     a->style == b->style && a->placement == b->placement &&
+                                     a->plotType == b->plotType &&
+                                     a->solutionTime == b->solutionTime && !a->data() == !b->data();
+                          });
+    }
+
+private:
+    fakes::FakeHost m_host;
+    PlotType_e m_plotType{};
+    View3D m_view;
+    FrameStyle m_style;
+    double m_solutionTime = 0.0;
+};
+
+// What add-ons and variables put into a line may make it longer than a macro can hold.
+bool fitsIntoMacro(std::vector<std::string> const& lines) {
+    return std::all_of(lines.begin(), lines.end(),
+                       [](std::string const& line) { return line.size() <= 1U << 20U; });
+}
+
+std::string joined(std::vector<std::string> const& lines) {
+    std::string text;
+    for (std::string const& line : lines)
+        text += line + '\n';
+    return text;
+}
+
+Host& renewed(std::unique_ptr<Host>& host) {
+    if (host && host->canBeRenewed())
+        host->renew();
+    else
+        host = std::make_unique<Host>();
+    return *host;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    static std::unique_ptr<Host> hosts[2];
+    Macros macros(withoutAbsoluteNames(std::string(reinterpret_cast<char const*>(data), size)));
+    Host& first = renewed(hosts[0]);
+    first.play(macros);
+    if (first.recorded().empty() || !fitsIntoMacro(first.recorded()))
+        return 0;
+    Macros record(joined(first.recorded()));
+    Host& second = renewed(hosts[1]);
+    require(second.play(record), "what was recorded can be played");
+    require(second.recorded() == first.recorded(), "what is recorded again is the same");
+    require(second.showsTheSameAs(first), "a record leads to the same page");
+    return 0;
+}
