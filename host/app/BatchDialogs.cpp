@@ -10,7 +10,9 @@ void BatchDialogs::showError(const std::string& message) {
 }
 
 void BatchDialogs::showNotice(const std::string& message) {
-    say(message);
+    if (!m_isQuiet) {
+        say(message);
+    }
 }
 
 bool BatchDialogs::askYesNo(const std::string& question) {

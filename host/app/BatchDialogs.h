@@ -7,6 +7,9 @@ namespace corvane::app {
 
 class BatchDialogs : public host::Dialogs {
 public:
+    /// Quiet: notices are left out. Questions are not, since an answer was given to them.
+    explicit BatchDialogs(bool isQuiet = false) : m_isQuiet(isQuiet) {}
+
     void showError(const std::string& message) override;
     void showNotice(const std::string& message) override;
     bool askYesNo(const std::string& question) override;
@@ -14,6 +17,9 @@ public:
                                            const std::string& defaultName,
                                            const std::string& filter) override;
     bool showHelp(const std::string& page) override;
+
+private:
+    bool m_isQuiet;
 };
 
 } // namespace corvane::app

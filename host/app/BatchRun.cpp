@@ -37,6 +37,7 @@ public:
           m_reader(memoryForData(options)),
           m_status(options.quiet ? m_silence : std::cerr,
                    !options.quiet && isatty(STDERR_FILENO) != 0, isStopSignalled),
+          m_dialogs(options.quiet),
           m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs, m_pictures}) {}
 
     ExitCode run();
