@@ -1,4 +1,5 @@
 // The key frame dialog in the hands of a user: capturing, changing, keeping, playing.
+#include "host/core/HostError.h"
 #include "host/gui/window/DrawingArea.h"
 #include "tests/gui/KeyFrameWindowTest.h"
 
@@ -370,6 +371,24 @@ TEST_F(KeyFrameDialog, aMacroThatOpensAFileIsSeen) {
     ASSERT_TRUE(waitUntil([&] { return !dialog.list().isEnabled(); }));
     runCommand("OpenSettingsFile FileName=\"" + folder.file("flight.keyframe") + "\"");
     EXPECT_TRUE(waitUntil([&] { return dialog.rows() == views({1, 2}); }));
+}
+
+TEST_F(KeyFrameDialog, aMacroThatFliesIntoAFileIsSeen) {
+    const DialogUser dialog = openDialog();
+    capture(dialog, 2);
+    app().exportSetup().fileName = folder.file("flight.avi");
+    const auto destination = [&] {
+        return dialog.options(QStringLiteral("Destination:")).currentText();
+    };
+    for (const char* wrong : {"Animate", "Animate AnimationDestination=AVI"}) {
+        EXPECT_THROW(runCommand(wrong), host::HostError);
+        settle();
+        EXPECT_EQ(destination(), QStringLiteral("On Screen"));
+    }
+    runCommand("animate animationdestination=tofile");
+    EXPECT_TRUE(waitUntil([&] { return destination() == QStringLiteral("To File"); }));
+    ASSERT_EQ(movies.movies().size(), 1U);
+    EXPECT_TRUE(movies.movies().front().finished);
 }
 
 TEST_F(KeyFrameDialog, whatWasTypedCountsBeforeAButtonDoes) {
