@@ -87,6 +87,10 @@ TEST_F(Environment, speaksAnotherLanguage) {
     for (const char* language : {"LC_ALL=de_DE.UTF-8", "LC_ALL=xx_XX", "LC_ALL=C"}) {
         expectMovie(through({"env", language}));
     }
+    // Installed for this run, where that can be done.
+    expectMovie(inShell("localedef -i de_DE -f UTF-8 '" + folder.file("de_DE.UTF-8") +
+                        "' 2>/dev/null; LOCPATH='" + folder.path().string() +
+                        "' LC_ALL=de_DE.UTF-8 exec \"$@\""));
 }
 
 TEST_F(Environment, hasStandardFilesThatAreClosed) {
