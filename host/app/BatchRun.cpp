@@ -6,7 +6,7 @@
 #include "host/app/Flight.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
-#include "host/app/StopSignal.h"
+#include "host/app/Signals.h"
 #include "host/app/TerminalStatus.h"
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"

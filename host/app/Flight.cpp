@@ -46,7 +46,7 @@ void openKeyFrames(host::Application& application, const std::string& givenName)
 void setUpMovie(host::Application& application, const Options& options, double speed) {
     setUp(application, "ExportFormat", movieFormatFor(options.output)->keyword);
     setUp(application, "ExportRegion", "CURRENTFRAME");
-    setUp(application, "ImageWidth", std::to_string(options.width));
+    setUp(application, "ImageWidth", std::to_string(application.page().workArea.width));
     setUp(application, "AnimationSpeed", host::exactText(options.framesPerSecond.value_or(speed)));
     if (options.supersample) {
         const bool isOn = *options.supersample > 1;

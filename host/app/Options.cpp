@@ -100,9 +100,10 @@ Options parseCommandLine(int argc, const char* const* argv) {
     app.add_flag("--batch", options.batch, "work without a window");
     app.add_option("--keyframes", options.keyFrames, "the key frame file to fly through");
     app.add_option("--output", options.output, "the movie to write; its extension is the format");
-    app.add_option("--size", size,
-                   "size of the picture in pixels (1280x720, or what the macro sets; in a window, what "
-                   "fits it)")
+    app.add_option(
+           "--size", size,
+           "size of the picture in pixels (1280x720, or what the macro sets; in a window, what "
+           "fits it)")
         ->type_name("WxH");
     app.add_option("--fps", options.framesPerSecond,
                    "frames per second, 0.001 to 200 (30, or what the macro sets)");

@@ -4,7 +4,7 @@
 #include "host/app/AddOnLibraries.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
-#include "host/app/StopSignal.h"
+#include "host/app/Signals.h"
 #include "host/app/TraceFile.h"
 #include "host/core/macro/MacroFile.h"
 #include "host/gui/QtText.h"

@@ -2,8 +2,8 @@
 #include "host/app/BatchRun.h"
 #include "host/app/Messages.h"
 #include "host/app/Options.h"
+#include "host/app/Signals.h"
 #include "host/app/StandardStreams.h"
-#include "host/app/StopSignal.h"
 #include "host/app/WindowRun.h"
 
 #include <iostream>

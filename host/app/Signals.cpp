@@ -1,5 +1,5 @@
 // The signals of the process.
-#include "host/app/StopSignal.h"
+#include "host/app/Signals.h"
 
 #include <array>
 #include <cerrno>
