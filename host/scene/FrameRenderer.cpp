@@ -1,7 +1,9 @@
-// VTK's renderer, with see-through surfaces in the right order.
+// VTK's renderer, with see-through surfaces in the right order, and lights of its own.
 #include "host/scene/FrameRenderer.h"
 
 #include <vtkDepthPeelingPass.h>
+#include <vtkLight.h>
+#include <vtkLightCollection.h>
 #include <vtkNew.h>
 #include <vtkObjectFactory.h>
 #include <vtkTranslucentPass.h>
@@ -28,6 +30,17 @@ void FrameRenderer::ReleaseGraphicsResources(vtkWindow* window) {
     // VTK's pass would draw on into the textures that it has just freed.
     DepthPeelingPass->Delete();
     makePeelingPass();
+}
+
+int FrameRenderer::UpdateLights() {
+    // Frames share the programs of the graphics card, which get lights only when these are younger
+    // than those of the frame before.
+    vtkLightCollection* const lights = GetLights();
+    lights->InitTraversal();
+    while (vtkLight* const light = lights->GetNextItem()) {
+        light->Modified();
+    }
+    return vtkOpenGLRenderer::UpdateLights();
 }
 
 void FrameRenderer::makePeelingPass() {

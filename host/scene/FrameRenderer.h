@@ -1,4 +1,4 @@
-// VTK's renderer, with see-through surfaces in the right order.
+// VTK's renderer, with see-through surfaces in the right order, and lights of its own.
 #pragma once
 
 #include <vtkOpenGLRenderer.h>
@@ -12,6 +12,7 @@ public:
     static FrameRenderer* New();
 
     void ReleaseGraphicsResources(vtkWindow* window) override;
+    int UpdateLights() override;
 
 protected:
     FrameRenderer();

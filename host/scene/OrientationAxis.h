@@ -2,12 +2,12 @@
 #pragma once
 
 #include "host/core/page/View3D.h"
+#include "host/scene/FrameRenderer.h"
 #include "host/scene/PixelRect.h"
 #include "host/scene/TextItem.h"
 
 #include <vtkActor.h>
 #include <vtkNew.h>
-#include <vtkRenderer.h>
 
 #include <array>
 
@@ -26,7 +26,7 @@ public:
     vtkRenderer* renderer() const { return m_renderer; }
 
 private:
-    vtkNew<vtkRenderer> m_renderer;
+    vtkNew<FrameRenderer> m_renderer;
     std::array<vtkNew<vtkActor>, 3> m_arrows;
     std::array<TextItem, 3> m_labels;
 };

@@ -119,6 +119,27 @@ TEST_F(DrawHistoryTest, sizeOfThePicture) {
     EXPECT_EQ(draw(width, height), first);
 }
 
+// Frames share what runs on the graphics card.
+TEST_F(DrawHistoryTest, lightOfAnotherFrame) {
+    host::Frame& left = addFullFrame(loadSeries(3));
+    left.placement.width = 4.0;
+    left.style.light = {100.0, 60.0};
+    host::Frame& right = addFullFrame(loadSeries(3));
+    right.placement = {4.0, 0.0, 4.0, 4.5};
+    right.style.light = {20.0, 5.0};
+    draw(width, height);
+    const host::Picture both = draw(width, height);
+    page.deleteFrame(right.id());
+    const host::Picture leftAlone = draw(width, height);
+    int differences = 0;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width / 2; ++x) {
+            differences += pixelAt(both, x, y) == pixelAt(leftAlone, x, y) ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(differences, 0);
+}
+
 // Renderers that were taken out of the window and put back have freed what they had uploaded.
 TEST_F(DrawHistoryTest, seeThroughPlotsBesideANewFrame) {
     host::Frame& frame = addFullFrame(loadSeries(3));
