@@ -27,8 +27,18 @@ std::string recordableName(host::Application& application, const std::string& fi
                : fileName;
 }
 
+/// Reading them could wait for ever; what is missing, the add-on tells.
+void refusePipesAndDevices(const std::string& fileName) {
+    std::error_code error;
+    if (std::filesystem::is_other(fileName, error)) {
+        throw host::HostError("Cannot open the key frame file " + fileName +
+                              ": it is not a regular file.");
+    }
+}
+
 void openKeyFrames(host::Application& application, const std::string& givenName) {
     const std::string fileName = recordableName(application, givenName);
+    refusePipesAndDevices(fileName);
     // The command's syntax has no escape for quotes.
     if (fileName.find('"') != std::string::npos) {
         throw host::HostError("The key frame file \"" + fileName +

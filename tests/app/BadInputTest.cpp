@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <set>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using namespace corvane::test;
@@ -121,6 +122,15 @@ TEST_F(BadInput, keyFrameFileWithAQuoteInItsName) {
     arguments[2] = folder.file("a\"b.keyframe");
     writeFile(arguments[2], shortFlight());
     expectFailure(arguments, {"double quote"});
+}
+
+TEST_F(BadInput, keyFrameFileThatMayHaveNoEnd) {
+    auto arguments = shortRun(folder, movie);
+    arguments[2] = folder.file("pipe");
+    ASSERT_EQ(mkfifo(arguments[2].c_str(), 0600), 0);
+    expectFailure(arguments, {arguments[2] + ": it is not a regular file."});
+    arguments[2] = "/dev/zero";
+    expectFailure(arguments, {"/dev/zero: it is not a regular file."});
 }
 
 TEST_F(BadInput, notAKeyFrameFile) {
