@@ -11,7 +11,6 @@
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"
 #include "host/core/Application.h"
-#include "host/core/PartFile.h"
 #include "host/core/macro/MacroFile.h"
 #include "host/core/macro/SceneMacro.h"
 #include "host/movie/LibavMovieWriters.h"
@@ -108,8 +107,7 @@ void BatchRun::openData() {
 
 void BatchRun::startRecording() {
     if (!m_options.record.empty()) {
-        // A name that cannot be written to is better known before the flight than behind it.
-        const host::PartFile probe(m_options.record);
+        host::expectWritable(m_options.record);
         host::startRecording(m_application);
     }
 }

@@ -127,7 +127,7 @@ void WindowRun::start() {
     traceCalls();
     loadAddOns(m_desktop.application(), m_options, say);
     if (!m_options.record.empty()) {
-        m_desktop.workbench().macros().recordTo(gui::toQt(m_options.record));
+        host::expectWritable(m_options.record);
     }
     if (m_options.isSizeGiven) {
         m_desktop.application().macros().keepPictureSize();
@@ -172,6 +172,9 @@ void WindowRun::traceCalls() {
 
 void WindowRun::openWhatWasAsked() {
     gui::Workbench& workbench = m_desktop.workbench();
+    if (!m_options.record.empty()) {
+        workbench.macros().recordTo(gui::toQt(m_options.record));
+    }
     for (const auto& [name, value] : m_options.variables) {
         m_desktop.application().macros().variables().set(name, value);
     }

@@ -82,12 +82,19 @@ void DialogUser::click(QWidget& widget, QPoint at, Qt::KeyboardModifiers keys) {
 }
 
 void DialogUser::chooseByKeys(QWidget& window, Qt::Key menu, Qt::Key entry) {
-    QTest::keyClick(window.windowHandle(), menu, Qt::AltModifier);
-    QWidget* const popup = QApplication::activePopupWidget();
-    if (popup == nullptr) {
+    // Again until it opens: where a dialog has just gone, the display may be about to take the keys
+    // away from the window once more.
+    const bool isOpen = QTest::qWaitFor([&] {
+        if (QApplication::activePopupWidget() == nullptr) {
+            window.activateWindow();
+            QTest::keyClick(window.windowHandle(), menu, Qt::AltModifier);
+        }
+        return QApplication::activePopupWidget() != nullptr;
+    });
+    if (!isOpen) {
         throw std::logic_error("The keys open no menu.");
     }
-    QTest::keyClick(popup, entry);
+    QTest::keyClick(QApplication::activePopupWidget(), entry);
 }
 
 QAbstractButton& DialogUser::button(const QString& text) const {

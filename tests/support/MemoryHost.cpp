@@ -91,6 +91,12 @@ bool MemoryHost::isExpected(const std::string& misuse) const {
         [&](const std::string& part) { return misuse.find(part) != std::string::npos; });
 }
 
+std::vector<std::string> MemoryHost::recordedCommands() {
+    std::vector<std::string> lines = m_app->recorder().stop();
+    std::erase_if(lines, [](const std::string& line) { return !line.starts_with("$!EXTCOMMAND"); });
+    return lines;
+}
+
 std::vector<std::string> MemoryHost::leftBehind() const {
     std::vector<std::string> findings = m_script.unmet();
     for (const std::string& misuse : m_misuse) {

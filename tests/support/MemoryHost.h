@@ -93,6 +93,10 @@ public:
     /// The user stops at the n-th time from now that the host asks (1 = the next one).
     void stopAtCheck(std::size_t n) { m_status.stopAtCheck(n); }
 
+    /// Ends the recording of a macro, and gives the commands that add-ons recorded. The host itself
+    /// records views and times that have changed.
+    std::vector<std::string> recordedCommands();
+
     /// What the caller did wrong and the host ignored.
     const std::vector<std::string>& misuse() const { return m_misuse; }
     /// Misuse with this text in it is part of the test; without it the test fails.

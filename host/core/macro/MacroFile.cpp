@@ -40,6 +40,10 @@ std::unique_ptr<std::istream> openMacro(const std::string& fileName) {
     return file;
 }
 
+void expectWritable(const std::string& fileName) {
+    const PartFile probe(fileName);
+}
+
 void writeMacro(const std::vector<std::string>& lines, const std::string& fileName) {
     PartFile part(fileName);
     std::ofstream file(part.path(), std::ios::binary);

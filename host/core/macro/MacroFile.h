@@ -12,6 +12,10 @@ namespace corvane::host {
 /// nobody who writes to them.
 std::unique_ptr<std::istream> openMacro(const std::string& fileName);
 
+/// Throws HostError when a macro of that name cannot be written, which is better known before the
+/// work that is to be recorded than behind it.
+void expectWritable(const std::string& fileName);
+
 /// Writes the lines as a macro, whole or not at all. Throws HostError.
 void writeMacro(const std::vector<std::string>& lines, const std::string& fileName);
 

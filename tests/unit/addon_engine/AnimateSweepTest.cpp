@@ -99,7 +99,7 @@ TEST(AnimateSweep, everyCallThatThrowsLeavesTheHostAsItWas) {
         expectAtRest(scene.host, what);
         EXPECT_EQ(scene.host.frame().style, before) << what;
         EXPECT_TRUE(usesDisplayLists()) << what;
-        EXPECT_THAT(scene.host.app().recorder().stop(), IsEmpty()) << what;
+        EXPECT_THAT(scene.host.recordedCommands(), IsEmpty()) << what;
     }
 }
 
@@ -137,7 +137,7 @@ TEST(AnimateSweep, everyStopLeavesTheHostAsItWas) {
         EXPECT_EQ(scene.host.frame().style, before) << what;
         EXPECT_TRUE(usesDisplayLists()) << what;
         EXPECT_FALSE(scene.folder.has("flight.avi")) << what;
-        EXPECT_THAT(scene.host.app().recorder().stop(), IsEmpty()) << what;
+        EXPECT_THAT(scene.host.recordedCommands(), IsEmpty()) << what;
     }
 }
 

@@ -253,7 +253,7 @@ TEST_F(AnimateTest, recordsUnderTheLocksAndBeforeItCleansUp) {
 TEST_F(AnimateTest, doesNotRecordWhatItWasToldNotToRecord) {
     host.app().recorder().start();
     EXPECT_EQ(errorOf(twoFrames, plainSettings(), MacroOption_DoNotRecord), "");
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
     EXPECT_THAT(callsTo("CorUtilMacro"), IsEmpty());
 }
 
@@ -264,7 +264,7 @@ TEST_F(AnimateTest, recordsNeitherStoppedNorFailedFlights) {
     EXPECT_NE(errorOf({}, plainSettings(), MacroOption_Record), "");
     host.app().exportSetup().format = 1;
     EXPECT_NE(errorOf(twoFrames, toFile(), MacroOption_Record), "");
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
 }
 
 // Every logic error counts as want of memory, this one too: deliberately kept.
@@ -273,7 +273,7 @@ TEST_F(AnimateTest, tellsThatMemoryIsShortForADestinationWithoutKeyword) {
     Settings_s settings = plainSettings();
     settings.destination = static_cast<Destination_e>(7);
     EXPECT_EQ(errorOf(twoFrames, settings, MacroOption_Record), outOfMemory);
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
     EXPECT_TRUE(usesDisplayLists());
 }
 

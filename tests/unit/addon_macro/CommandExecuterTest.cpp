@@ -167,7 +167,7 @@ TEST_F(ExecuterTest, leavesTheDialogAloneWhenAFileCannotBeRead) {
     EXPECT_EQ(run("OpenSettingsFile FileName=" + folder.write("bad.kf", header + "x\n")),
               refused(located("Unknown section header: x", 2)));
     expectUntouchedDialog();
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
 }
 
 TEST_F(ExecuterTest, needsAFileName) {
@@ -227,7 +227,7 @@ TEST_F(ExecuterTest, reportsAFlightThatTheUserStops) {
     host.app().recorder().start();
     host.stopAtCheck(3);
     EXPECT_EQ(run("Animate AnimationDestination=OnScreen"), refused("Animation canceled."));
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
 }
 
 TEST_F(ExecuterTest, letsOtherErrorsOfTheHostPass) {

@@ -63,7 +63,7 @@ TEST_F(MainDialogAnimateTest, playsTheSelectedRangeAndRecordsNothing) {
     host.app().recorder().start();
     click("Animate Selected");
     EXPECT_EQ(pictures(), 4u);
-    EXPECT_THAT(host.app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.recordedCommands(), IsEmpty());
 }
 
 TEST_F(MainDialogAnimateTest, playsAllWhenAllAreSelected) {
