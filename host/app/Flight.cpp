@@ -22,9 +22,7 @@ void setUp(host::Application& application, const std::string& name, const std::s
 
 /// The add-on records the name as it is told, and the record is to hold in every folder.
 std::string recordableName(host::Application& application, const std::string& fileName) {
-    return application.recorder().isRecording()
-               ? std::filesystem::absolute(fileName).lexically_normal().string()
-               : fileName;
+    return application.recorder().isRecording() ? host::absoluteName(fileName) : fileName;
 }
 
 /// Reading them could wait for ever; what is missing, the add-on tells.

@@ -116,6 +116,9 @@ public:
     /// nothing.
     std::string callAddOn(const std::string& what, const std::function<void()>& call);
 
+    /// Whether an add-on plays or records a flight.
+    bool isAnimating() const { return m_status.isActive() || m_exporter.isRecording(); }
+
     /// To be called by the event loop when nothing else is to be done.
     void onIdle();
     /// Tells the listeners that the host ends, and drops idle work. Only the first call counts.

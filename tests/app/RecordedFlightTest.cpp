@@ -32,8 +32,8 @@ protected:
         const std::string first = readFile(movie);
         ASSERT_FALSE(first.empty());
         ASSERT_TRUE(fs::remove(movie));
-        const ProgramResult result = runProgram(
-            {"--batch", "--macro", here + "/record.mcr", "--size", "64x36", "--quiet"}, in("/"));
+        const ProgramResult result =
+            runProgram({"--batch", "--macro", here + "/record.mcr", "--quiet"}, in("/"));
         EXPECT_EQ(result.exitCode, 0) << result.errors;
         EXPECT_TRUE(readFile(movie) == first);
     }

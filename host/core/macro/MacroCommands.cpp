@@ -5,8 +5,6 @@
 #include "host/core/macro/MacroVariables.h"
 #include "host/core/page/StyleTree.h"
 
-#include <filesystem>
-
 namespace corvane::host {
 
 const std::vector<MacroCommand>& macroCommands() {
@@ -48,9 +46,9 @@ const std::vector<MacroCommand>& macroCommands() {
           "PUSH"},
          "CREATE makes a frame on top of the others and activates it; frames are numbered from 1 "
          "as they are made, and a number is never used again. PLACE moves the active frame. "
-         "Lengths "
-         "are inches on the paper, from its left upper corner. POP brings the active frame to the "
-         "top of the stack, PUSH moves it to the bottom. DELETE removes the active frame.",
+         "Lengths are inches on the paper, from its left upper corner. POP brings the active "
+         "frame to the top of the stack, PUSH moves it to the bottom. DELETE removes the active "
+         "frame.",
          "$!FRAME CREATE X = 4 Y = 0 Width = 4 Height = 4.5",
          changeFrames},
         {"WORKAREA",
@@ -60,7 +58,8 @@ const std::vector<MacroCommand>& macroCommands() {
          "fills it goes on filling it. A size from the command line (--size) stays; in a window, "
          "the size holds while the macro plays.",
          "$!WORKAREA Width = 1920 Height = 1080",
-         sizeWorkArea},
+         sizeWorkArea,
+         Recorded::ByOthers},
         {"REDRAW", {""}, "Draws all frames.", "$!REDRAW", redraw},
         {"EXPORTSETUP",
          {"NAME = VALUE"},
@@ -110,21 +109,17 @@ const MacroCommand* findMacroCommand(const std::string& name) {
 
 namespace {
 
-std::string absolute(const std::string& fileName) {
-    return std::filesystem::absolute(fileName).lexically_normal().string();
-}
-
 /// A word of the call in a form that does not depend on any folder.
 std::string recordedWord(const MacroCommand& command, const MacroCall& call, std::size_t index) {
     const std::string& word = call.words[index];
     switch (command.recorded) {
     case Recorded::WithFileNames:
-        return absolute(call.path(word));
+        return absoluteName(call.path(word));
     case Recorded::WithFileName:
-        return index == 0 ? absolute(call.path(word)) : word;
+        return index == 0 ? absoluteName(call.path(word)) : word;
     case Recorded::WithMovieName:
         return index == 2 && equalIgnoringCase(call.words[0], "ExportFName") && !word.empty()
-                   ? absolute(word)
+                   ? absoluteName(word)
                    : word;
     default:
         return word;

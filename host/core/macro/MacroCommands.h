@@ -14,7 +14,8 @@ enum class Recorded {
     WithFileNames, ///< all words are names of files, which become absolute
     WithFileName,  ///< the first word is
     WithMovieName, ///< the value is, if it is that of ExportFName
-    ByOthers,      ///< add-ons record their commands, and included macros are recorded line by line
+    ByOthers, ///< add-ons record their commands, included macros are recorded line by line, and
+              ///< what a change of the work area leads to is noticed
 };
 
 /// One command of the macro language.

@@ -7,11 +7,6 @@ namespace corvane::host {
 
 namespace {
 
-std::string withoutTrailingBlanks(std::string text) {
-    text.erase(text.find_last_not_of(" \t") + 1);
-    return text;
-}
-
 int rangedFrom(const std::string& name, const std::string& text, int minimum, int maximum) {
     const int value = integerFrom(text);
     if (value < minimum || value > maximum) {
@@ -53,9 +48,7 @@ void exportPicture(const MacroCall& call) {
 void runAddOnCommand(const MacroCall& call) {
     expect(call.words.size() == 2, "\"add-on\" \"command\"");
     Application& application = call.application;
-    if (application.status().isActive() || application.exporter().isRecording()) {
-        reject("An animation is running.");
-    }
+    expectNoAnimation(application);
     const AddOnCommand* found = application.addOnCommands().find(call.words[0]);
     if (found == nullptr) {
         reject("There is no add-on \"" + call.words[0] + "\" that has macro commands.");
@@ -63,7 +56,7 @@ void runAddOnCommand(const MacroCall& call) {
     const AddOnCommand command = *found;
     Exporter& exporter = application.exporter();
     exporter.forgetFailure();
-    const std::optional<std::string> error = command(withoutTrailingBlanks(call.words[1]));
+    const std::optional<std::string> error = command(call.words[1]);
     // The add-on knows only that it was stopped; the exporter knows why.
     if (exporter.hasFailed()) {
         throw HostError(exporter.failure());

@@ -16,13 +16,6 @@ Frame& activeFrame(Application& application) {
     return *frame;
 }
 
-/// An add-on that acts on the active frame would lose it.
-void expectNoAnimation(Application& application) {
-    if (application.status().isActive() || application.exporter().isRecording()) {
-        reject("An animation is running.");
-    }
-}
-
 double lengthFrom(const std::string& name, const std::string& text, double minimum) {
     constexpr double largest = 1000.0;
     const double length = numberFrom(text);

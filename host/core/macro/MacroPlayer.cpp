@@ -86,9 +86,9 @@ void MacroPlayer::run(const std::string& name, const std::vector<std::string>& w
         reject("There is no command " + name + ".");
     }
     const MacroCall call{m_application, words, folder};
-    m_follower.catchUp();
+    m_follower.commandBegins();
     command->run(call);
-    m_follower.remember();
+    m_follower.commandEnded(command->recorded != Recorded::ByOthers);
     MacroRecorder& recorder = m_application.recorder();
     if (!recorder.isRecording()) {
         return;

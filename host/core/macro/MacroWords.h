@@ -20,10 +20,16 @@ struct MacroCall {
     std::string path(const std::string& fileName) const;
 };
 
+/// The name of a file in a form that does not depend on the folder in which a macro is played.
+std::string absoluteName(const std::string& fileName);
+
 /// Throws std::invalid_argument with the cause.
 [[noreturn]] void reject(const std::string& cause);
 /// Rejects with "Expected FORM." unless isSo.
 void expect(bool isSo, const char* form);
+
+/// For commands about the active frame and for those of add-ons, which would lose it.
+void expectNoAnimation(const Application& application);
 
 /// All of these reject texts that are none.
 double numberFrom(const std::string& text);

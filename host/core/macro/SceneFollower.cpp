@@ -12,12 +12,25 @@ SceneFollower::SceneFollower(Application& application) : m_application(applicati
     MacroRecorder& recorder = application.recorder();
     recorder.onStart = [this] { remember(); };
     recorder.onCatchUp = [this] { catchUp(); };
-    recorder.onAddOnCommand = [this] { remember(); };
+    recorder.onAddOnCommand = [this] {
+        m_hasAddOnRecorded = true;
+        remember();
+    };
+}
+
+void SceneFollower::commandBegins() {
+    catchUp();
+    m_hasAddOnRecorded = false;
+}
+
+void SceneFollower::commandEnded(bool isRecorded) {
+    if (isRecorded || m_hasAddOnRecorded) {
+        remember();
+    }
 }
 
 void SceneFollower::catchUp() {
-    if (!m_application.recorder().isRecording() || m_application.status().isActive() ||
-        m_application.exporter().isRecording()) {
+    if (!m_application.recorder().isRecording() || m_application.isAnimating()) {
         return;
     }
     catchUpWorkArea();

@@ -11,7 +11,7 @@ class Application;
 
 /// The mouse turns views, add-ons set views and times, windows are resized: none of it is a
 /// command. While a macro is being recorded, this compares the page with what the macro knows of
-/// it.
+/// it. It follows the active frame; that an add-on activates or restacks frames is not noticed.
 class SceneFollower {
 public:
     /// Listens to the application's recorder, and must live as long.
@@ -23,6 +23,11 @@ public:
     /// The macro knows the page as it is now.
     void remember();
 
+    /// Round each command of the language. isRecorded: what it does is in the macro, as a line of
+    /// its own; it is, too, when an add-on has recorded a command meanwhile.
+    void commandBegins();
+    void commandEnded(bool isRecorded);
+
 private:
     struct Seen {
         View3D view;
@@ -33,6 +38,7 @@ private:
     void catchUpFrame(const Frame& frame, const Seen& seen);
 
     Application& m_application;
+    bool m_hasAddOnRecorded = false;
     WorkArea m_workArea;
     std::map<long, Seen> m_frames; ///< by number
 };

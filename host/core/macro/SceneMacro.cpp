@@ -7,7 +7,6 @@
 #include "host/core/macro/MacroWords.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <variant>
 
 namespace corvane::host {
@@ -60,7 +59,7 @@ Words placementWords(const Placement& place) {
 void addData(Lines& lines, const DataSet& data) {
     Words files;
     for (const std::string& file : data.files) {
-        files.push_back(std::filesystem::absolute(file).lexically_normal().string());
+        files.push_back(absoluteName(file));
     }
     lines.add("READDATA", files);
 }
@@ -127,6 +126,9 @@ void addStack(Lines& lines, const Page& page) {
 }
 
 void addExportSetup(Lines& lines, ExportSetup setup) {
+    if (!setup.fileName.empty()) {
+        setup.fileName = absoluteName(setup.fileName);
+    }
     ExportSetup usual;
     StyleTree values;
     StyleTree usualValues;

@@ -28,8 +28,7 @@ bool Commands::attempt(const std::function<void()>& work) const {
 }
 
 bool Commands::isBusy() const {
-    return m_application.status().isActive() || m_application.exporter().isRecording() ||
-           m_application.macros().isPlaying();
+    return m_application.isAnimating() || m_application.macros().isPlaying();
 }
 
 } // namespace corvane::gui

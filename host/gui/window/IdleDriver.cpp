@@ -35,8 +35,8 @@ void IdleDriver::requestIdle() {
 }
 
 bool IdleDriver::isInterrupting() const {
-    return m_screen.isDrawing() || m_application->status().isActive() ||
-           m_application->exporter().isRecording() || m_application->macros().isPlaying();
+    return m_screen.isDrawing() || m_application->isAnimating() ||
+           m_application->macros().isPlaying();
 }
 
 void IdleDriver::run() {

@@ -29,7 +29,7 @@ QString folderKey() {
 MacroActions::MacroActions(const Commands& commands, MainWindow& window)
     : m_commands(commands), m_window(window) {
     QMenu& menu = window.menu(QStringLiteral("Macro"));
-    m_play = addAction(
+    addAction(
         menu, tr("&Play Macro…"), [this] { askAndPlay(); }, QKeySequence(Qt::CTRL | Qt::Key_M));
     menu.addSeparator();
     m_record = addAction(menu, tr("&Record Macro"), [this] { record(); });
@@ -111,8 +111,6 @@ void MacroActions::refresh() {
     const bool isRecording = m_commands.application().recorder().isRecording();
     m_record->setEnabled(!isRecording);
     m_stop->setEnabled(isRecording);
-    // Only what the user does himself is recorded, so a macro in a macro would be lost.
-    m_play->setEnabled(!isRecording);
 }
 
 } // namespace corvane::gui

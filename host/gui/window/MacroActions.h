@@ -40,7 +40,6 @@ private:
 
     Commands m_commands;
     MainWindow& m_window;
-    QAction* m_play;
     QAction* m_record;
     QAction* m_stop;
     QString m_file;

@@ -21,8 +21,7 @@ bool isSame(const host::WorkArea& a, const host::WorkArea& b) {
 } // namespace
 
 void WorkAreaFitter::fit() {
-    if (m_application.status().isActive() || m_application.exporter().isRecording() ||
-        m_application.macros().isPlaying()) {
+    if (m_application.isAnimating() || m_application.macros().isPlaying()) {
         return;
     }
     const QSize size = m_area.pixels();

@@ -15,14 +15,14 @@ using testing::HasSubstr;
 
 using MacroAddOnCommandsTest = MacroTest;
 
-TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOnsWithoutTrailingBlanks) {
+TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOns) {
     std::vector<std::string> commands;
     app.addOnCommands().add("Key Frames", [&commands](const std::string& command) {
         commands.push_back(command);
         return std::nullopt;
     });
-    play("$!EXTCOMMAND \"Key Frames\" \"LOAD \\\"a b\\\" \t \"\n"
-         "$!EXTCOMMAND \"Key Frames\" \"  \"\n");
+    play("$!EXTCOMMAND \"Key Frames\" \"LOAD \\\"a b\\\"\"\n"
+         "$!EXTCOMMAND \"Key Frames\" \"\"\n");
     EXPECT_THAT(commands, ElementsAre("LOAD \"a b\"", ""));
 }
 

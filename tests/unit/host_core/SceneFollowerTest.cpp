@@ -77,6 +77,30 @@ TEST_F(SceneFollowerTest, AWorkAreaThatWasResizedIsRecordedOnce) {
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 600 Height = 400 PixelsPerInch = 70"));
 }
 
+TEST_F(SceneFollowerTest, ASizeThatTheUserChoseIsNotThatOfAMacro) {
+    app.macros().keepPictureSize();
+    app.page().resizeWorkArea({640, 360, 80.0});
+    app.perform("WORKAREA",
+                {"Width", "=", "1000", "Height", "=", "500", "PixelsPerInch", "=", "125"});
+    EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 640 Height = 360"));
+}
+
+TEST_F(SceneFollowerTest, ACommandThatAnAddOnDoesNotRecordLeavesItsView) {
+    bool isRecorded = false;
+    app.addOnCommands().add("Turn", [&](const std::string& command) {
+        app.rotateView(RotateAxis_Psi, 10.0);
+        if (isRecorded) {
+            app.recorder().recordAddOnCommand("Turn", command);
+        }
+        return std::nullopt;
+    });
+    app.perform("EXTCOMMAND", {"Turn", "silently"});
+    EXPECT_THAT(recorded(), ElementsAre(HasSubstr("$!VIEW SET")));
+    isRecorded = true;
+    app.perform("EXTCOMMAND", {"Turn", "loudly"});
+    EXPECT_THAT(recorded().back(), HasSubstr("loudly"));
+}
+
 TEST_F(SceneFollowerTest, WhatAFlightLeadsToIsKnownByItsCommand) {
     app.status().start("Flying", true, true);
     app.rotateView(RotateAxis_Psi, 10.0);

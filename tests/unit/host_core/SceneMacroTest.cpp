@@ -1,12 +1,14 @@
 // A scene that was written as a macro comes back as it was.
 #include "host/core/macro/SceneMacro.h"
 
+#include "host/core/macro/MacroText.h"
 #include "tests/unit/host_core/Fakes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <sstream>
 
 namespace corvane::host {
@@ -101,6 +103,13 @@ TEST_F(SceneMacroTest, AFrameThatFillsTheWorkAreaFillsAnotherOneToo) {
     replay();
     EXPECT_EQ(after.app.page().workArea.height, 100);
     EXPECT_TRUE(after.app.page().isFilledByOneFrame());
+}
+
+TEST_F(SceneMacroTest, NamesTheMovieAbsolutely) {
+    before.app.exportSetup().fileName = "flight.mp4";
+    const std::vector<std::string> lines = sceneMacro(before.app);
+    const std::string name = (std::filesystem::current_path() / "flight.mp4").string();
+    EXPECT_THAT(lines, testing::Contains(macroLine("EXPORTSETUP", {"ExportFName", "=", name})));
 }
 
 TEST_F(SceneMacroTest, BringsBackTheNumbersOfFramesAndTheirStack) {
