@@ -3,9 +3,9 @@
 
 #include "host/app/Options.h"
 #include "host/core/Application.h"
-#include "host/core/HostError.h"
 
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 
 namespace corvane::app {
@@ -33,7 +33,7 @@ void loadAddOns(host::Application& application, const Options& options,
     if (std::none_of(options.addOns.begin(), options.addOns.end(), isOwn)) {
         try {
             host::loadAddOn(application, ownLibrary());
-        } catch (const host::HostError& error) {
+        } catch (const std::exception& error) {
             tell(error.what());
         }
     }

@@ -22,12 +22,11 @@ extern "C" void rememberStop(int) {
     errno = error;
 }
 
-void watch(int signal) {
+/// Reads and writes in progress go on, since the flight unwinds by itself.
+void watch(int signal, unsigned flags) {
     struct sigaction action {};
     action.sa_handler = rememberStop;
-    // Back to the default after the first: whoever presses Ctrl-C twice wants the process gone.
-    // Reads and writes in progress go on, since the flight unwinds by itself.
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
+    action.sa_flags = static_cast<int>(SA_RESTART | flags);
     sigaction(signal, &action, nullptr);
 }
 
@@ -44,10 +43,12 @@ void surviveFailedWrites() {
 }
 
 void watchStopSignals() {
-    watch(SIGINT);
-    watch(SIGTERM);
+    // Back to the default after the first: whoever presses Ctrl-C twice wants the process gone.
+    watch(SIGINT, SA_RESETHAND);
+    watch(SIGTERM, SA_RESETHAND);
+    // A terminal that goes may say so twice, by itself and by its shell.
     if (!isIgnored(SIGHUP)) {
-        watch(SIGHUP);
+        watch(SIGHUP, 0);
     }
 }
 

@@ -143,13 +143,14 @@ void WindowRun::start() {
 
 /// A signal ends the run without questions, since nobody may be there to answer.
 void WindowRun::watchSignals() {
-    watchStopSignals();
     m_stopSignal = std::make_unique<QSocketNotifier>(stopSignalDescriptor(), QSocketNotifier::Read);
     QObject::connect(m_stopSignal.get(), &QSocketNotifier::activated, &m_desktop.window(), [this] {
         m_stopSignal->setEnabled(false);
         m_desktop.stopWork();
         QApplication::exit();
     });
+    m_desktop.application().macros().isStopRequested = isStopSignalled;
+    watchStopSignals();
 }
 
 ExitCode WindowRun::end() {
