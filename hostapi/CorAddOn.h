@@ -12,8 +12,8 @@
  *
  * An exception may leave a callback of an add-on: the host catches it, shows its what() in one
  * error box, and goes on. Whether it ends in that way or returns, the depth of locks and the
- * suspension of drawing are brought back to what they were at the call. No operation throws
- * an exception at the add-on. */
+ * suspension of drawing are brought back to what they were at the call, but for the lock of a
+ * modal dialog (CorLock.h). No operation throws an exception at the add-on. */
 #ifndef HOSTAPI_COR_ADD_ON_H
 #define HOSTAPI_COR_ADD_ON_H
 

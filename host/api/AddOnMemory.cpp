@@ -2,10 +2,10 @@
 #include "host/api/AddOnMemory.h"
 
 #include "host/api/GivenAway.h"
-#include "host/api/TracedCall.h"
 
 #include <cstdlib>
 #include <memory>
+#include <new>
 
 namespace corvane::host {
 
@@ -21,10 +21,14 @@ GivenAway<void>& blocks() {
 
 void* allocateForAddOn(std::size_t count, std::size_t size) {
     std::unique_ptr<void, decltype(&std::free)> block(std::calloc(count, size), &std::free);
-    if (block) {
-        blocks().add(block.get());
+    try {
+        if (block) {
+            blocks().add(block.get());
+        }
+        return block.release();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
     }
-    return block.release();
 }
 
 void freeForAddOn(const Operation& operation, void* block) {

@@ -30,11 +30,13 @@ GivenAway<CorArgList_s>& lists() {
 } // namespace
 
 CorArgList newArgumentList() {
-    std::unique_ptr<CorArgList_s> list(new (std::nothrow) CorArgList_s);
-    if (list) {
+    try {
+        auto list = std::make_unique<CorArgList_s>();
         lists().add(list.get());
+        return list.release();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
     }
-    return list.release();
 }
 
 CorArgList known(CorArgList list) {

@@ -35,6 +35,18 @@ GivenAway<CorSet_s>& sets() {
     return *given;
 }
 
+void free(const auto& call, CorSet* set) {
+    CorSet const old = set ? std::exchange(*set, nullptr) : nullptr;
+    if (!old) {
+        return;
+    }
+    if (sets().remove(old)) {
+        delete old;
+    } else {
+        call.misuse(notGivenAway);
+    }
+}
+
 std::unique_ptr<CorSet_s> enabledZones(const DataSet& data) {
     auto set = std::make_unique<CorSet_s>();
     for (std::size_t i = 0; i < data.zones.size(); ++i) {
@@ -88,15 +100,10 @@ long CorUtilSetGetNextMember(CorSet set, long member) {
 
 void CorUtilSetDealloc(CorSet* set) {
     const TracedCall call("CorUtilSetDealloc", set);
-    call.perform([](Application&) {});
-    CorSet const old = set ? std::exchange(*set, nullptr) : nullptr;
-    if (!old) {
-        return;
-    }
-    if (sets().remove(old)) {
-        delete old;
+    if (Application::isHomeThread() && !Application::current()) {
+        free(call, set);
     } else {
-        call.misuse(notGivenAway);
+        call.perform([&](Application&) { free(call, set); });
     }
 }
 

@@ -16,7 +16,7 @@ void release(Application& app, const auto& call, CorAddOnID id) {
 }
 
 /// Locks under an id that was never given away count as those without an id.
-CorAddOnID known(Application& app, const auto& call, CorAddOnID id) {
+CorAddOnID ownerOf(Application& app, const auto& call, CorAddOnID id) {
     if (id && !app.addOns().isKnown(id)) {
         call.misuse("unknown add-on");
         return nullptr;
@@ -37,10 +37,10 @@ void CorUtilLockOff(void) {
 
 void CorUtilLockStart(CorAddOnID id) {
     const TracedCall call("CorUtilLockStart", id);
-    call.perform([&](Application& app) { app.locks().start(known(app, call, id)); });
+    call.perform([&](Application& app) { app.locks().start(ownerOf(app, call, id)); });
 }
 
 void CorUtilLockFinish(CorAddOnID id) {
     const TracedCall call("CorUtilLockFinish", id);
-    call.perform([&](Application& app) { release(app, call, known(app, call, id)); });
+    call.perform([&](Application& app) { release(app, call, ownerOf(app, call, id)); });
 }

@@ -1,10 +1,10 @@
 // Macro commands of add-ons, and recording.
 #include "hostapi/CorMacro.h"
 
+#include "host/api/AddOnMemory.h"
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
 #include "host/core/macro/MacroText.h"
-#include "hostapi/CorMemory.h"
 
 #include <optional>
 
@@ -27,7 +27,8 @@ std::optional<std::string> runCommand(Application& app, const std::string& macro
         app.callAddOn(ofOwner("the command " + quoted(macroName), libraryOf(callback)),
                       [&] { succeeded = callback(copy.data(), &message) != FALSE; });
     const std::string reported = textOf(message);
-    CorUtilStringDealloc(&message);
+    // In the add-on's name: a text that is not the host's is its fault.
+    takeBack({"CorUtilStringDealloc", reinterpret_cast<const void*>(callback)}, &message);
     if (thrown.empty() && succeeded) {
         return std::nullopt;
     }

@@ -5,8 +5,6 @@
 #include "host/api/AddOnMemory.h"
 #include "host/api/TracedCall.h"
 
-#include <utility>
-
 using namespace corvane::host;
 
 namespace {
@@ -29,15 +27,9 @@ char* CorUtilStringAlloc(long maxLength) {
 }
 
 void CorUtilStringDealloc(char** s) {
-    const Operation operation("CorUtilStringDealloc");
-    if (s && mayProceedUntraced(operation, false)) {
-        freeForAddOn(operation, std::exchange(*s, nullptr));
-    }
+    takeBack("CorUtilStringDealloc", s);
 }
 
 void CorUtilArrayDealloc(void** a) {
-    const Operation operation("CorUtilArrayDealloc");
-    if (a && mayProceedUntraced(operation, false)) {
-        freeForAddOn(operation, std::exchange(*a, nullptr));
-    }
+    takeBack("CorUtilArrayDealloc", a);
 }

@@ -81,7 +81,8 @@ void loadAddOn(Application& application, const std::string& library) {
     const std::string error = application.callAddOn(
         ofOwner(entryPoint, std::filesystem::path(library).filename().string()), start);
     if (!error.empty()) {
-        throw cannotLoad(library, "it failed when it started: " + error);
+        application.dialogs().showError("The add-on " + library +
+                                        " failed when it started: " + error);
     }
 }
 

@@ -36,8 +36,9 @@ private:
 };
 
 /// Loads the library and calls its entry point behind the exception wall. The library stays loaded
-/// until the process ends, since its objects are destroyed then. Throws HostError: the library, and
-/// what is wrong with it.
+/// until the process ends, since its objects are destroyed then. What the entry point throws is
+/// shown to the user, and the add-on stays with what it has registered by then. Throws HostError
+/// for a file that is no add-on: the library, and what is wrong with it.
 void loadAddOn(Application& application, const std::string& library);
 
 } // namespace corvane::host

@@ -21,8 +21,7 @@ public:
     /// Either may be empty; records are made only while there is somebody to take them.
     std::function<void(const TraceRecord&)> onCall;
     /// What an add-on did wrong and the host put right or ignored: the library, the operation, the
-    /// rule. Called on whatever
-    /// thread the add-on chose.
+    /// rule. Called on whatever thread the add-on chose.
     std::function<void(const std::string&)> onMisuse;
     /// Which callback let an exception out, and its text. The host has caught it.
     std::function<void(const std::string&)> onException;

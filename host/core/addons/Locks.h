@@ -18,7 +18,7 @@ public:
     int depth() const { return m_total; }
     int depthOf(Owner owner) const;
 
-    /// For putting the counts back after an add-on left by an exception.
+    /// For putting the counts back behind an add-on.
     using Snapshot = std::map<Owner, int>;
     const Snapshot& snapshot() const { return m_depths; }
     void restore(const Snapshot& snapshot);
