@@ -6,7 +6,6 @@
 #include "host/core/picture/Picture.h"
 #include "hostapi/CorEnums.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>

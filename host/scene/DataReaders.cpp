@@ -39,7 +39,8 @@ std::vector<int> samplesOf(const MeshSeries& series) {
 void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
     std::set<std::string> known;
     for (const int source : samplesOf(series)) {
-        for (const MeshPart& part : *cache.get(source)) {
+        const auto parts = cache.get(source);
+        for (const MeshPart& part : *parts) {
             if (!known.insert(part.name).second)
                 continue;
             const std::string name =
@@ -54,9 +55,11 @@ void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
 std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, MeshCache& cache) {
     VariableRanges ranges;
     for (const MeshSeries& series : allSeries) {
-        for (const int source : samplesOf(series))
-            for (const MeshPart& part : *cache.get(source))
+        for (const int source : samplesOf(series)) {
+            const auto parts = cache.get(source);
+            for (const MeshPart& part : *parts)
                 ranges.add(*part.mesh);
+        }
     }
     return ranges.ranges();
 }

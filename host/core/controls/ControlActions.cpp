@@ -3,7 +3,6 @@
 
 #include "host/core/controls/Controls.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace corvane::host {

@@ -5,7 +5,6 @@
 #include "host/core/controls/Control.h"
 #include "host/core/controls/Widgets.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>

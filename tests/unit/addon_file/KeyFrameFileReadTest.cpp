@@ -6,13 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <functional>
-#include <limits>
 #include <stdexcept>
 #include <streambuf>
 #include <string>
-#include <vector>
 
 namespace {
 
