@@ -1,287 +1,24 @@
-// The key frame dialog in the hands of a user: capturing, changing, keeping, playing.
+// The key frame dialog: its options and fields, how it comes and goes, and many key frames.
+#include "tests/gui/KeyFrameDialogTest.h"
+
 #include "host/core/HostError.h"
-#include "host/gui/window/DrawingArea.h"
-#include "tests/gui/KeyFrameWindowTest.h"
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QPushButton>
+#include <QTimer>
 #include <QtTest>
 #include <ctime>
+#include <functional>
 #include <iostream>
-#include <set>
 #include <sstream>
+#include <string>
 
 namespace corvane::test {
 
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-const QString viewName = QStringLiteral("View Name:");
-const QString frameCount = QStringLiteral("Frame Count:");
-const QString animateAll = QStringLiteral("Animate All");
-const QString animateSelected = QStringLiteral("Animate Selected");
-
-/// How often a word stands in a text.
-long countOf(const std::string& word, const std::string& text) {
-    long count = 0;
-    for (auto at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) {
-        ++count;
-    }
-    return count;
-}
-
-QStringList views(std::initializer_list<int> numbers) {
-    QStringList names;
-    for (const int number : numbers) {
-        names.append(QStringLiteral("View %1").arg(number));
-    }
-    return names;
-}
-
-class KeyFrameDialog : public KeyFrameWindowTest {
-protected:
-    using KeyFrameWindowTest::KeyFrameWindowTest;
-
-    /// By the File menu, with this answer of the file dialog.
-    void saveAs(const DialogUser& dialog, const std::string& name) {
-        dialogs.answerFile(folder.file(name));
-        dialog.choose(QStringLiteral("File"), QStringLiteral("Save Animation File As..."));
-    }
-    void openFile(const DialogUser& dialog, const std::string& fileName) {
-        dialogs.answerFile(fileName);
-        dialog.choose(QStringLiteral("File"), QStringLiteral("Open Animation File..."));
-    }
-    bool isEnabledSoon(const DialogUser& dialog, const QString& button) {
-        return waitUntil([&] { return dialog.button(button).isEnabled(); });
-    }
-};
-
-TEST_F(KeyFrameDialog, comesUpEmptyWithWhatCanBeDone) {
-    const DialogUser dialog = openDialog();
-    EXPECT_EQ(dialog.rows(), QStringList(QStringLiteral("No Key Frames established.")));
-    EXPECT_FALSE(dialog.list().isEnabled());
-    EXPECT_TRUE(dialog.button(QStringLiteral("Append")).isEnabled());
-    for (const char* text :
-         {"Insert", "Update", "Apply", "Delete", "Clear", "Animate All", "Animate Selected"}) {
-        EXPECT_FALSE(dialog.button(QString::fromUtf8(text)).isEnabled()) << text;
-    }
-    EXPECT_FALSE(dialog.field(viewName).isEnabled());
-    EXPECT_FALSE(dialog.label(frameCount).isEnabled());
-}
-
-TEST_F(KeyFrameDialog, capturesViewsAndSavesThem) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    EXPECT_EQ(dialog.rows(), views({1, 2, 3}));
-    EXPECT_TRUE(isEnabledSoon(dialog, animateAll));
-
-    dialog.clickRow(1);
-    ASSERT_TRUE(waitUntil([&] { return dialog.field(viewName).isEnabled(); }));
-    dialog.enter(viewName, QStringLiteral("The wake"));
-    EXPECT_EQ(dialog.rows().at(1), QStringLiteral("The wake"));
-
-    dialog.clickRow(0);
-    dialog.clickRow(2, Qt::ShiftModifier);
-    EXPECT_EQ(dialog.selectedRows(), QList<int>({0, 1, 2}));
-    ASSERT_TRUE(waitUntil([&] { return !dialog.field(viewName).isEnabled(); }));
-    dialog.enter(frameCount, QStringLiteral("25"));
-    EXPECT_EQ(dialog.selectedRows(), QList<int>({0, 1, 2}));
-
-    dialogs.answerFile(folder.file("flight.keyframe"));
-    dialog.choose(QStringLiteral("File"), QStringLiteral("Save Animation File"));
-    const std::string saved = folder.read("flight.keyframe");
-    EXPECT_EQ(countOf("FrameCount 25", saved), 3);
-    EXPECT_THAT(saved, HasSubstr("Name \"The wake\""));
-    EXPECT_THAT(errors(), IsEmpty());
-}
-
-TEST_F(KeyFrameDialog, insertsBeforeTheSelectedOne) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    dialog.clickRow(1);
-    ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Insert")));
-    dialog.click(QStringLiteral("Insert"));
-    EXPECT_TRUE(waitUntil([&] { return dialog.rows() == views({1, 4, 2, 3}); }));
-}
-
-TEST_F(KeyFrameDialog, deletesWithAGap) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    dialog.clickRow(0);
-    dialog.clickRow(2, Qt::ControlModifier);
-    EXPECT_EQ(dialog.selectedRows(), QList<int>({0, 2}));
-    ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Delete")));
-    dialog.click(QStringLiteral("Delete"));
-    EXPECT_TRUE(waitUntil([&] { return dialog.rows() == views({2}); }));
-    EXPECT_TRUE(waitUntil([&] { return !dialog.button(animateAll).isEnabled(); }));
-}
-
-TEST_F(KeyFrameDialog, clearsAndStartsAgainWithTheFirstName) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Clear")));
-    dialog.click(QStringLiteral("Clear"));
-    EXPECT_TRUE(waitUntil([&] { return !dialog.list().isEnabled(); }));
-    dialog.choose(QStringLiteral("File"), QStringLiteral("Save Animation File"));
-    EXPECT_THAT(errors(), ElementsAre("No Key Frames established."));
-    capture(dialog, 1);
-    EXPECT_EQ(dialog.rows(), views({1}));
-}
-
-TEST_F(KeyFrameDialog, appliesAndUpdatesTheSelectedView) {
-    const DialogUser dialog = openDialog();
-    const host::View3D first = frame().view;
-    capture(dialog, 2);
-    dialog.clickRow(0);
-    ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Apply")));
-    dialog.click(QStringLiteral("Apply"));
-    EXPECT_NEAR(frame().view.theta, first.theta, 1e-9);
-    EXPECT_NEAR(frame().view.psi, first.psi, 1e-9);
-
-    turn();
-    const host::View3D second = frame().view;
-    ASSERT_NE(second.theta, first.theta);
-    dialog.click(QStringLiteral("Update"));
-    turn();
-    dialog.click(QStringLiteral("Apply"));
-    EXPECT_NEAR(frame().view.theta, second.theta, 1e-9);
-    EXPECT_NEAR(frame().view.psi, second.psi, 1e-9);
-}
-
-TEST_F(KeyFrameDialog, opensWhatItSaved) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    dialog.choose(QStringLiteral("Options"), QStringLiteral("Fade Out"));
-    saveAs(dialog, "flight.keyframe");
-    dialog.choose(QStringLiteral("Options"), QStringLiteral("Fade Out"));
-    dialog.click(QStringLiteral("Clear"));
-    ASSERT_TRUE(waitUntil([&] { return !dialog.list().isEnabled(); }));
-
-    openFile(dialog, folder.file("flight.keyframe"));
-    EXPECT_TRUE(waitUntil([&] { return dialog.rows() == views({1, 2, 3}); }));
-    EXPECT_TRUE(dialog.list().isEnabled());
-    EXPECT_TRUE(isEnabledSoon(dialog, animateAll));
-    EXPECT_TRUE(dialog.entry(QStringLiteral("Options"), QStringLiteral("Fade Out")).isChecked());
-    EXPECT_THAT(errors(), IsEmpty());
-}
-
-TEST_F(KeyFrameDialog, tellsOnceThatAFileIsNone) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 1);
-    openFile(dialog, folder.write("none.keyframe", "Nothing of the kind\n"));
-    EXPECT_EQ(errors().size(), 1U);
-    EXPECT_EQ(dialog.rows(), views({1}));
-}
-
-TEST_F(KeyFrameDialog, animatesAll) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    const host::View3D last = frame().view;
-    capture(dialog, 1);
-    ASSERT_NE(frame().view.theta, last.theta);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
-    renderer.clear();
-    dialog.click(animateAll);
-    settle();
-    // Two times 30 steps, and the view that they end at.
-    EXPECT_GE(renderer.renders(), 61U);
-    EXPECT_LE(renderer.renders(), 63U);
-    EXPECT_NEAR(frame().view.theta, last.theta, 1e-9);
-    EXPECT_TRUE(dialog.window().isVisible());
-    EXPECT_THAT(errors(), IsEmpty());
-}
-
-TEST_F(KeyFrameDialog, animatesTheSelectedRange) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    dialog.clickRow(1);
-    dialog.clickRow(2, Qt::ShiftModifier);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateSelected));
-    renderer.clear();
-    dialog.click(animateSelected);
-    settle();
-    EXPECT_GE(renderer.renders(), 31U);
-    EXPECT_LE(renderer.renders(), 33U);
-    EXPECT_EQ(dialog.selectedRows(), QList<int>({1, 2}));
-}
-
-TEST_F(KeyFrameDialog, animatesNoSelectionWithAGap) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 3);
-    dialog.clickRow(0);
-    dialog.clickRow(2, Qt::ControlModifier);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateSelected));
-    renderer.clear();
-    dialog.click(animateSelected);
-    EXPECT_THAT(errors(), ElementsAre("Selected items must be a continuous range."));
-    EXPECT_EQ(renderer.renders(), 0U);
-}
-
-TEST_F(KeyFrameDialog, animatesASelectionOnTheScreenAlone) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    dialog.pick(QStringLiteral("Destination:"), QStringLiteral("To File"));
-    dialog.clickRow(0);
-    dialog.clickRow(1, Qt::ShiftModifier);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateSelected));
-    dialog.click(animateSelected);
-    EXPECT_THAT(notices(), ElementsAre(HasSubstr("The destination has been reset to")));
-    EXPECT_TRUE(waitUntil([&] {
-        return dialog.options(QStringLiteral("Destination:")).currentText() ==
-               QStringLiteral("On Screen");
-    }));
-    EXPECT_THAT(movies.movies(), IsEmpty());
-}
-
-TEST_F(KeyFrameDialog, escStopsAndLeavesTheDialogUp) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
-    playAnd(dialog, animateAll, [&] { dialog.press(Qt::Key_Escape); });
-    EXPECT_THAT(errors(), ElementsAre("Animation canceled."));
-    EXPECT_LT(renderer.renders(), 30U);
-    EXPECT_TRUE(dialog.window().isVisible());
-    EXPECT_EQ(dialog.rows(), views({1, 2}));
-    dialog.press(Qt::Key_Escape);
-    EXPECT_FALSE(dialog.window().isVisible()) << "Esc closes again when nothing plays";
-}
-
-TEST_F(KeyFrameDialog, theStopButtonStops) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
-    auto& stop = part<QPushButton>("stop");
-    playAnd(dialog, animateAll, [&] { DialogUser::click(stop, stop.rect().center()); });
-    EXPECT_THAT(errors(), ElementsAre("Animation canceled."));
-    EXPECT_LT(renderer.renders(), 30U);
-    EXPECT_FALSE(stop.isVisible());
-}
-
-TEST_F(KeyFrameDialog, nothingElseCanBeReachedWhileItPlays) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
-    playAnd(dialog, animateAll, [&] {
-        dialog.click(QStringLiteral("Append"));
-        dialog.click(QStringLiteral("Clear"));
-        dialog.click(QStringLiteral("Close"));
-        dialog.clickRow(0);
-        dialog.press(Qt::Key_D, Qt::AltModifier);
-        dialog.window().close();
-        dialog.press(Qt::Key_Escape);
-    });
-    QTest::qWait(50);
-    EXPECT_EQ(dialog.rows(), views({1, 2}));
-    EXPECT_THAT(dialog.selectedRows(), IsEmpty());
-    EXPECT_TRUE(dialog.window().isVisible());
-    EXPECT_THAT(errors(), ElementsAre("Animation canceled."));
-    dialog.click(QStringLiteral("Append"));
-    EXPECT_TRUE(waitUntil([&] { return dialog.rows() == views({1, 2, 3}); }));
-}
 
 TEST_F(KeyFrameDialog, optionsAreSwitchedAndShown) {
     const DialogUser dialog = openDialog();
@@ -297,25 +34,6 @@ TEST_F(KeyFrameDialog, optionsAreSwitchedAndShown) {
     }
     DialogUser::chooseByKeys(dialog.window(), Qt::Key_O, Qt::Key_I);
     EXPECT_TRUE(dialog.entry(menu, QStringLiteral("Fade In")).isChecked());
-}
-
-TEST_F(KeyFrameDialog, fliesThroughTime) {
-    const DialogUser dialog = openDialog();
-    capture(dialog, 2);
-    dialog.choose(QStringLiteral("Options"), QStringLiteral("Animate Time Concurrently"));
-    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
-    renderer.clear();
-    dialog.click(animateAll);
-    settle();
-    std::set<double> times;
-    for (const RenderedState& state : renderer.states()) {
-        times.insert(state.solutionTime);
-    }
-    ASSERT_FALSE(times.empty());
-    EXPECT_EQ(*times.begin(), 0.0);
-    EXPECT_EQ(*times.rbegin(), 2.0);
-    EXPECT_GE(times.size(), 3U);
-    EXPECT_THAT(errors(), IsEmpty());
 }
 
 TEST_F(KeyFrameDialog, optionsThatCannotBeAreTurnedOff) {
