@@ -2,6 +2,7 @@
 #include "host/scene/NetCdfCheck.h"
 
 #include "host/scene/ReadError.h"
+#include "host/scene/TrialRun.h"
 
 #include <netcdf.h>
 
@@ -138,6 +139,29 @@ private:
     Size m_length = 0;
 };
 
+/// Everything in the file that tells what is in it. The answers do not matter.
+void readTableOfContents(const std::string& path) {
+    const NetCdfFile file(path);
+    int variables = 0;
+    int attributes = 0;
+    file.check(nc_inq(file.id(), nullptr, &variables, &attributes, nullptr));
+    for (int variable = NC_GLOBAL; variable < variables; ++variable) {
+        std::array<char, NC_MAX_NAME + 1> name{};
+        if (variable != NC_GLOBAL)
+            nc_inq_var(file.id(), variable, name.data(), nullptr, nullptr, nullptr, &attributes);
+        for (int attribute = 0; attribute < attributes; ++attribute)
+            nc_inq_attname(file.id(), variable, attribute, name.data());
+    }
+}
+
+/// The HDF5 library crashes on some damaged files, all of them in what it has for a table of
+/// contents.
+void expectReadableContents(const std::string& path) {
+    constexpr unsigned patience = 60;
+    if (!survives([&] { readTableOfContents(path); }, patience))
+        throw readError(path, "it is damaged: what it tells of its contents makes no sense");
+}
+
 bool isConnectivity(const NetCdfFile& file, int variable) {
     std::array<char, NC_MAX_NAME + 1> name{};
     file.check(nc_inq_varname(file.id(), variable, name.data()));
@@ -183,6 +207,7 @@ bool hasSoundElements(const NetCdfFile& file) {
 } // namespace
 
 void checkExodus(const std::string& path) {
+    expectReadableContents(path);
     const NetCdfFile file(path);
     float version = 0.0F;
     file.check(nc_get_att_float(file.id(), NC_GLOBAL, "version", &version));

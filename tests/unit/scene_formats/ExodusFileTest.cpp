@@ -1,4 +1,7 @@
 // Exodus II files.
+#include "host/core/HostError.h"
+#include "host/scene/DataReaders.h"
+#include "tests/support/TempFolder.h"
 #include "tests/unit/scene_formats/FormatTest.h"
 #include "tests/unit/scene_formats/SampleBox.h"
 #include "tests/unit/scene_formats/SampleFiles.h"
@@ -58,6 +61,28 @@ TEST_P(ExodusFileTest, ValuesAreThoseOfTheTime) {
 TEST_P(ExodusFileTest, AllItsExtensionsAreKnown) {
     for (const char* const name : {"box.e", "box.exo", "box.ex2", "BOX.EXO"})
         EXPECT_EQ(errorOf(writeBox(name)), "") << name;
+}
+
+// HDF5 follows the references of a damaged heap to wherever they lead.
+TEST(ExodusDamage, HeapsThatCrashTheLibraryAreRefused) {
+    const TempFolder folder;
+    const std::string file = writeExodusBox(folder.path(), "box.e", ExodusKind::Hdf5);
+    const std::string whole = folder.read("box.e");
+    const auto heap = whole.find("GCOL");
+    ASSERT_NE(heap, std::string::npos);
+    int refused = 0;
+    for (std::size_t at = heap; at < heap + 64; ++at) {
+        std::string damaged = whole;
+        damaged[at] = static_cast<char>(~damaged[at]);
+        replaceFile(file, damaged);
+        try {
+            scene::DataReaders().read({file});
+        } catch (const host::HostError& error) {
+            EXPECT_THAT(error.what(), HasSubstr("box.e cannot be read: it is ")) << at;
+            ++refused;
+        }
+    }
+    EXPECT_GT(refused, 0);
 }
 
 TEST_P(ExodusFileTest, ACutFileIsRefused) {
