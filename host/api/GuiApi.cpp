@@ -114,7 +114,7 @@ int CorGUIDialogCreateModeless(int parent, int width, int height, const char* ti
                           help);
     Dialog dialog;
     dialog.label = textOf(title);
-    dialog.owner = call.library();
+    dialog.owner = call.callingLibrary();
     dialog.width = width;
     dialog.height = height;
     dialog.init = told(init);
@@ -130,7 +130,7 @@ int CorGUIDialogCreateModal(int parent, int width, int height, const char* title
                           cancel, help);
     Dialog dialog;
     dialog.label = textOf(title);
-    dialog.owner = call.library();
+    dialog.owner = call.callingLibrary();
     dialog.width = width;
     dialog.height = height;
     dialog.isModal = true;

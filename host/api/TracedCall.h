@@ -32,7 +32,7 @@ public:
     bool misuse(const std::string& what) const;
 
     /// The library that made the call; empty when it is not known.
-    std::string library() const { return libraryAt(m_operation.calledFrom); }
+    std::string callingLibrary() const { return libraryAt(m_operation.calledFrom); }
 
 private:
     template <class Work, class AppendResult>
