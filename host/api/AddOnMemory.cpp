@@ -32,14 +32,7 @@ void* allocateForAddOn(std::size_t count, std::size_t size) {
 }
 
 void freeForAddOn(const Operation& operation, void* block) {
-    if (!block) {
-        return;
-    }
-    if (blocks().remove(block)) {
-        std::free(block);
-    } else {
-        reportMisuse(operation, notGivenAway);
-    }
+    blocks().takeBack(operation, block, &std::free);
 }
 
 } // namespace corvane::host

@@ -2,7 +2,6 @@
 #include "hostapi/CorArgList.h"
 
 #include "host/api/ArgumentList.h"
-#include "host/api/GivenAway.h"
 #include "host/api/TracedCall.h"
 
 #include <utility>
@@ -65,11 +64,7 @@ CorBool CorUtilArgListAppendDoublePtr(CorArgList l, const char* name, double* re
 
 void CorUtilArgListDealloc(CorArgList* l) {
     const Operation operation("CorUtilArgListDealloc");
-    if (!l || !mayProceedUntraced(operation, false)) {
-        return;
-    }
-    const CorArgList list = std::exchange(*l, nullptr);
-    if (list && !freeArgumentList(list)) {
-        reportMisuse(operation, notGivenAway);
+    if (l && mayProceedUntraced(operation, false)) {
+        freeArgumentList(operation, std::exchange(*l, nullptr));
     }
 }

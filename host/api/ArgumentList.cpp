@@ -43,12 +43,8 @@ CorArgList known(CorArgList list) {
     return lists().has(list) ? list : nullptr;
 }
 
-bool freeArgumentList(CorArgList list) {
-    const bool isKnown = lists().remove(list);
-    if (isKnown) {
-        delete list;
-    }
-    return isKnown;
+void freeArgumentList(const Operation& operation, CorArgList list) {
+    lists().takeBack(operation, list, std::default_delete<CorArgList_s>());
 }
 
 } // namespace corvane::host

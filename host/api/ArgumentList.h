@@ -34,11 +34,13 @@ struct CorArgList_s {
 
 namespace corvane::host {
 
+struct Operation;
+
 /// Makes an empty list, to be given back by freeArgumentList. Null without memory.
 CorArgList newArgumentList();
 /// The list; null for one that was freed, or never came from here.
 CorArgList known(CorArgList list);
-/// False: there is no such list.
-bool freeArgumentList(CorArgList list);
+/// Any other list is told to the trace and left alone. Null is nothing.
+void freeArgumentList(const Operation& operation, CorArgList list);
 
 } // namespace corvane::host

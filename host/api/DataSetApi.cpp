@@ -35,15 +35,9 @@ GivenAway<CorSet_s>& sets() {
     return *given;
 }
 
-void free(const auto& call, CorSet* set) {
-    CorSet const old = set ? std::exchange(*set, nullptr) : nullptr;
-    if (!old) {
-        return;
-    }
-    if (sets().remove(old)) {
-        delete old;
-    } else {
-        call.misuse(notGivenAway);
+void free(const Operation& operation, CorSet* set) {
+    if (set) {
+        sets().takeBack(operation, std::exchange(*set, nullptr), std::default_delete<CorSet_s>());
     }
 }
 
@@ -99,11 +93,11 @@ long CorUtilSetGetNextMember(CorSet set, long member) {
 }
 
 void CorUtilSetDealloc(CorSet* set) {
-    const TracedCall call("CorUtilSetDealloc", set);
+    const Operation operation("CorUtilSetDealloc");
     if (Application::isHomeThread() && !Application::current()) {
-        free(call, set);
+        free(operation, set);
     } else {
-        call.perform([&](Application&) { free(call, set); });
+        TracedCall(operation, set).perform([&](Application&) { free(operation, set); });
     }
 }
 

@@ -1,13 +1,12 @@
 // What add-ons have of the host's memory.
 #pragma once
 
+#include "host/api/TracedCall.h"
+
 #include <mutex>
 #include <unordered_set>
 
 namespace corvane::host {
-
-/// What the trace is told then.
-inline constexpr const char* notGivenAway = "freed before, or not from the host; left alone";
 
 /// Remembers what was given to add-ons and not given back, so that freeing something twice, or
 /// something that never came from here, is told to the trace and harms nothing. An address may be
@@ -24,13 +23,25 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         return m_things.count(thing) != 0;
     }
-    /// False: it is not out there.
+    /// Does free(thing), if it is out there; null is nothing.
+    template <class Free>
+    void takeBack(const Operation& operation, T* thing, const Free& free) {
+        if (!thing) {
+            return;
+        }
+        if (remove(thing)) {
+            free(thing);
+        } else {
+            reportMisuse(operation, "freed before, or not from the host; left alone");
+        }
+    }
+
+private:
     bool remove(const T* thing) {
         const std::lock_guard<std::mutex> lock(m_mutex);
         return m_things.erase(thing) != 0;
     }
 
-private:
     mutable std::mutex m_mutex;
     std::unordered_set<const T*> m_things;
 };

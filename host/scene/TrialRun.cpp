@@ -13,8 +13,10 @@ namespace corvane::scene {
 namespace {
 
 /// A crash here is an answer, not an accident: no handler tells of it and no core is written.
+/// Ctrl-C ends it as it ends the wait for it.
 [[noreturn]] void tryIt(const std::function<void()>& work, unsigned seconds) {
-    for (const int signal : {SIGALRM, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
+    for (const int signal :
+         {SIGALRM, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, SIG_DFL);
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);

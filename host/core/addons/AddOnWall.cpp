@@ -66,18 +66,14 @@ void AddOnWall::putBackLeftovers(const State& before, const std::string& what) {
         !gaveBackLockOfDialog(before)) {
         m_trace.misuse(what + ": locks are not balanced (" + fromTo(m_locks.depth(), before.depth) +
                        ")");
-        putBackLocks(before);
+        m_locks.restore(before.locks);
+        m_drawing.schedule(); // what the locks held back
     }
     if (m_drawing.suspensions() != before.suspensions) {
         m_trace.misuse(what + ": suspended drawing is not balanced (" +
                        fromTo(m_drawing.suspensions(), before.suspensions) + ")");
         m_drawing.restoreSuspensions(before.suspensions);
     }
-}
-
-void AddOnWall::putBackLocks(const State& before) {
-    m_locks.restore(before.locks);
-    m_drawing.schedule(); // what the locks held back
 }
 
 } // namespace corvane::host

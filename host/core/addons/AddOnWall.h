@@ -39,7 +39,6 @@ private:
     bool gaveBackLockOfDialog(const State& before) const;
     void putBackAfterThrow(const State& before);
     void putBackLeftovers(const State& before, const std::string& what);
-    void putBackLocks(const State& before);
 
     Locks& m_locks;
     Drawing& m_drawing;
