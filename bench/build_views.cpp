@@ -1,6 +1,6 @@
 // How long does it take to compute the views of a flight, and how much memory do they hold?
+#include "addon/base/HostLock.h"
 #include "addon/engine/AnimatorKeyFrame.h"
-#include "addon/shell/HostLock.h"
 #include "tests/cases/FlightCases.h"
 #include "tests/support/MemoryHost.h"
 
@@ -25,8 +25,8 @@ class QuietHost {
 public:
     QuietHost() {
         m_host.frame().view.rotationOrigin = {};
-        m_host.app().trace().onCall = nullptr;
-        m_host.app().trace().onEnter = nullptr;
+        m_host.session().trace().onCall = nullptr;
+        m_host.session().trace().onEnter = nullptr;
     }
 
     void forgetProgress() { m_host.status().clear(); }

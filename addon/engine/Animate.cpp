@@ -1,13 +1,13 @@
 // The main loop of a flight.
-#include "addon/engine/Action.h"
+#include "addon/engine/Animate.h"
 
+#include "addon/base/EnumMap.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/engine/AnimationManager.h"
-#include "addon/engine/KeyFrameError.h"
 #include "addon/engine/Status.h"
 #include "addon/engine/SuspendDisplayLists.h"
-#include "addon/macro/EnumMap.h"
 #include "addon/macro/MacroManager.h"
-#include "addon/shell/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <new>

@@ -1,7 +1,7 @@
 // The base of all animators: one link of a chain.
 #include "addon/engine/AnimatorAbstract.h"
 
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/model/Utilities.h"
 
 namespace corvane::corutiltools {

@@ -1,7 +1,7 @@
 // The flight itself: the view of every frame.
 #include "addon/engine/AnimatorKeyFrame.h"
 
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/engine/Status.h"
 #include "addon/engine/ViewStep.h"
 #include "addon/model/Utilities.h"

@@ -1,7 +1,7 @@
 // The end of a chain that goes into an animation file.
 #include "addon/engine/AnimatorToFile.h"
 
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

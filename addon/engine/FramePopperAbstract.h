@@ -1,7 +1,7 @@
 // A walk over all frames of the host's page.
 #pragma once
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 
 namespace corvane::corutiltools {
 

@@ -1,10 +1,10 @@
 // One step of the host's camera from a view towards another.
 #include "addon/engine/ViewStep.h"
 
-#include "addon/engine/SuspendGraphics.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/SuspendGraphics.h"
 #include "addon/model/Utilities.h"
 #include "addon/model/ViewStyle.h"
-#include "addon/shell/HostLock.h"
 #include "hostapi/CorHost.h"
 
 namespace corvane::corutiltools {

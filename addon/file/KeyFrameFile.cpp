@@ -1,7 +1,7 @@
 // The text file that holds a flight: its settings and its key frames.
 #include "addon/file/KeyFrameFile.h"
 
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/model/ListModelKeyFrame.h"
 
 #include <fstream>

@@ -1,7 +1,7 @@
 // The text file that holds a flight: its settings and its key frames.
 #pragma once
 
-#include "addon/macro/EnumMap.h"
+#include "addon/base/EnumMap.h"
 #include "addon/model/Records.h"
 
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Turns macro command strings into commands with parameters, and back.
 #pragma once
 
-#include "addon/macro/EnumMap.h"
+#include "addon/base/EnumMap.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 // The words of the add-on's macro commands.
 #pragma once
 
-#include "addon/macro/EnumMap.h"
+#include "addon/base/EnumMap.h"
 #include "addon/model/Records.h"
 
 #include <cstdint>

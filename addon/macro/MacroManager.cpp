@@ -1,34 +1,10 @@
-// Joins the add-on's commands to the host's macros.
+// Records the add-on's commands in the host's macros.
 #include "addon/macro/MacroManager.h"
 
-#include "addon/macro/CommandExecuterAbstract.h"
-#include "addon/macro/CommandExecuterAbstractFactory.h"
-#include "addon/shell/AddOnName.h"
-#include "addon/shell/HostLock.h"
-
-#include <cstddef>
-#include <cstdio>
-#include <cstring>
+#include "addon/base/AddOnName.h"
+#include "addon/base/HostLock.h"
 
 namespace corvane::corutiltools {
-
-namespace {
-
-// Room for the name, " error:\n" and the end of the string. One more than these need: hosts know
-// this size from their traces.
-constexpr std::size_t fixedErrorLength = 29;
-
-void handErrorToHost(char const* message, char** errorMessage) {
-    HostLock const lock;
-    std::size_t const length = std::strlen(message) + fixedErrorLength;
-    char* const text = CorUtilStringAlloc(static_cast<long>(length));
-    if (!text)
-        return;
-    std::snprintf(text, length, "%s error:\n%s", AddOnName, message);
-    *errorMessage = text;
-}
-
-} // namespace
 
 MacroManager& MacroManager::instance() {
     static MacroManager theInstance;
@@ -46,27 +22,6 @@ void MacroManager::recordCommand(
         return;
     std::string const text = m_commandManager.buildMacroCommandString(command, parameters);
     CorUtilMacroRecordExtCommand(AddOnName, text.c_str());
-}
-
-void MacroManager::registerCallback() {
-    CorUtilMacroAddCommandCallback(AddOnName, corvaneCallback);
-}
-
-CorBool MacroManager::corvaneCallback(char* commandString, char** errorMessage) {
-    try {
-        instance().executeCommand(commandString);
-        return TRUE;
-    } catch (KeyFrameError const& error) {
-        handErrorToHost(error.what(), errorMessage);
-        return FALSE;
-    }
-}
-
-void MacroManager::executeCommand(std::string const& commandString) const {
-    Command_e command{};
-    std::vector<std::pair<Parameter_e, std::string>> parameters;
-    m_commandManager.parseMacroCommandString(commandString, command, parameters);
-    CommandExecuterAbstractFactory::getMacroExecuter(command)->executeCommand(parameters);
 }
 
 } // namespace corvane::corutiltools

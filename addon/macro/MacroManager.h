@@ -1,7 +1,7 @@
 // Joins the add-on's commands to the host's macros.
 #pragma once
 
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/macro/MacroCommandManager.h"
 #include "addon/macro/MacroKeywords.h"
 #include "hostapi/CorHost.h"

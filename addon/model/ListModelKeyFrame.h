@@ -1,8 +1,8 @@
 // The list of key frames that is shown, saved and played.
 #pragma once
 
+#include "addon/lists/ListModelAbstract.h"
 #include "addon/model/Records.h"
-#include "addon/ui/ListModelAbstract.h"
 
 #include <string>
 #include <vector>

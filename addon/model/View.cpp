@@ -1,10 +1,10 @@
 // One camera position of the host's 3D view.
 #include "addon/model/View.h"
 
-#include "addon/engine/KeyFrameError.h"
-#include "addon/engine/SuspendGraphics.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/KeyFrameError.h"
+#include "addon/base/SuspendGraphics.h"
 #include "addon/model/ViewStyle.h"
-#include "addon/shell/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <iomanip>

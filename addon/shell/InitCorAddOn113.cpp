@@ -1,7 +1,7 @@
 // The add-on's entry point.
+#include "addon/base/AddOnID.h"
+#include "addon/base/AddOnName.h"
 #include "addon/macro/MacroManager.h"
-#include "addon/shell/AddOnID.h"
-#include "addon/shell/AddOnName.h"
 #include "addon/shell/MenuOption.h"
 #include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"

@@ -1,7 +1,7 @@
 // The add-on's option in the host's menus.
 #include "addon/shell/MenuOption.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "addon/ui/DialogMain.h"
 #include "hostapi/CorHost.h"
 

@@ -1,7 +1,7 @@
 // The current file of a dialog, and asking the user for another one.
 #include "addon/ui/CurrentFileManager.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <fstream>

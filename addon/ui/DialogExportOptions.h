@@ -1,10 +1,10 @@
 // The dialog in which the user sets up the movie of a flight.
 #pragma once
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
+#include "addon/lists/PreMappedValue.h"
 #include "addon/ui/CurrentFileManager.h"
 #include "addon/ui/OptionMenuStaticManager.h"
-#include "addon/ui/PreMappedValue.h"
 #include "addon/ui/StreamText.h"
 #include "addon/ui/TextFieldValidator.h"
 #include "hostapi/CorHost.h"

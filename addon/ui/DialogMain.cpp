@@ -1,8 +1,8 @@
 // The main dialog: its life, and what others hand to it.
 #include "addon/ui/DialogMain.h"
 
+#include "addon/base/HostLock.h"
 #include "addon/file/KeyFrameFile.h"
-#include "addon/shell/HostLock.h"
 #include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"
 

@@ -1,15 +1,15 @@
 // The main dialog: the key frames and settings that the user and macros work on.
 #pragma once
 
+#include "addon/base/OnIdleManager.h"
+#include "addon/lists/PreMappedValue.h"
 #include "addon/model/ListModelKeyFrame.h"
 #include "addon/model/Records.h"
-#include "addon/shell/DialogDropper.h"
-#include "addon/shell/OnIdleManager.h"
 #include "addon/ui/CurrentFileManager.h"
+#include "addon/ui/DialogDropper.h"
 #include "addon/ui/ListSelectionModelObserverInterface.h"
 #include "addon/ui/ListView.h"
 #include "addon/ui/OptionMenuStaticManager.h"
-#include "addon/ui/PreMappedValue.h"
 #include "addon/ui/TextFieldValidator.h"
 
 #include <memory>

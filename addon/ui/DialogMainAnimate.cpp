@@ -1,10 +1,10 @@
 // The main dialog: playing the flight.
 #include "addon/ui/DialogMain.h"
 
-#include "addon/engine/Action.h"
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/KeyFrameError.h"
+#include "addon/engine/Animate.h"
 #include "addon/model/Utilities.h"
-#include "addon/shell/HostLock.h"
 #include "addon/ui/ContinuousRun.h"
 #include "addon/ui/DialogExportOptions.h"
 #include "addon/ui/Message.h"

@@ -1,8 +1,8 @@
 // The main dialog: capturing and changing key frames.
 #include "addon/ui/DialogMain.h"
 
-#include "addon/engine/KeyFrameError.h"
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/ui/ContinuousRun.h"
 #include "addon/ui/DialogLayout.h"
 #include "addon/ui/Message.h"

@@ -1,13 +1,13 @@
 // The main dialog: its menu bar.
 #include "addon/ui/DialogMain.h"
 
-#include "addon/engine/Action.h"
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/HostLock.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/file/KeyFrameFile.h"
-#include "addon/shell/HostLock.h"
 #include "addon/ui/DialogLayout.h"
 #include "addon/ui/DialogTimeOptions.h"
 #include "addon/ui/Message.h"
+#include "addon/ui/OpenSettingsFile.h"
 #include "hostapi/CorHost.h"
 
 #include <boost/bind/bind.hpp>

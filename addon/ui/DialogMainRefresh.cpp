@@ -1,8 +1,8 @@
 // The main dialog: what it shows.
 #include "addon/ui/DialogMain.h"
 
+#include "addon/base/HostLock.h"
 #include "addon/model/Utilities.h"
-#include "addon/shell/HostLock.h"
 #include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"
 

@@ -1,7 +1,7 @@
 // The dialog in which the user chooses how solution time runs during a flight.
 #include "addon/ui/DialogTimeOptions.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "addon/ui/DialogLayout.h"
 #include "hostapi/CorHost.h"
 

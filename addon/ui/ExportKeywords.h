@@ -1,7 +1,7 @@
 // The words of the host's macro lines that set up an export.
 #pragma once
 
-#include "addon/macro/EnumMap.h"
+#include "addon/base/EnumMap.h"
 #include "hostapi/CorEnums.h"
 
 namespace corvane::corutiltools {

@@ -1,8 +1,8 @@
 // Sizes of exported pictures in pixels.
 #include "addon/ui/ImageDimensions.h"
 
+#include "addon/base/HostLock.h"
 #include "addon/engine/FramePopperAbstractFactory.h"
-#include "addon/shell/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

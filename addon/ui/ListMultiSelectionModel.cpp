@@ -1,7 +1,7 @@
 // The selection of a list that may have many rows selected.
 #include "addon/ui/ListMultiSelectionModel.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

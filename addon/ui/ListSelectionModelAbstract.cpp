@@ -1,7 +1,7 @@
 // The part of a selection model that all selection models share.
 #include "addon/ui/ListSelectionModelAbstract.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

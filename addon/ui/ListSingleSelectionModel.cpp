@@ -1,7 +1,7 @@
 // The selection of a list that has at most one row selected.
 #include "addon/ui/ListSingleSelectionModel.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
 
 namespace corvane::corutiltools {

@@ -1,7 +1,7 @@
 // Keeps a list of the host in step with a list model.
 #include "addon/ui/ListView.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "addon/ui/ListMultiSelectionModel.h"
 #include "addon/ui/ListSingleSelectionModel.h"
 #include "hostapi/CorHost.h"

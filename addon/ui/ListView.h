@@ -1,7 +1,7 @@
 // Keeps a list of the host in step with a list model.
 #pragma once
 
-#include "addon/ui/ListModelObserverInterface.h"
+#include "addon/lists/ListModelObserverInterface.h"
 #include "addon/ui/ListSelectionModelInterface.h"
 #include "addon/ui/ListViewInterface.h"
 #include "hostapi/CorTypes.h"

@@ -1,7 +1,7 @@
 // Messages to the user, under the host's lock.
 #include "addon/ui/Message.h"
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
 
 namespace corvane::corutiltools {

@@ -1,8 +1,8 @@
 // Binds an option menu of the host to a fixed table of values with their labels.
 #pragma once
 
-#include "addon/shell/HostLock.h"
-#include "addon/ui/ListModelPreMapped.h"
+#include "addon/base/HostLock.h"
+#include "addon/lists/ListModelPreMapped.h"
 #include "hostapi/CorHost.h"
 
 #include <stdexcept>

@@ -1,7 +1,7 @@
 // Binds a text field of the host to a bounded number.
 #pragma once
 
-#include "addon/shell/HostLock.h"
+#include "addon/base/HostLock.h"
 #include "addon/ui/Message.h"
 #include "addon/ui/StreamText.h"
 #include "hostapi/CorHost.h"

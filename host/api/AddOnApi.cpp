@@ -9,7 +9,7 @@ using namespace corvane::host;
 CorAddOnID CorUtilAddOnRegister(int interfaceOfAddOn, const char* name, const char* version,
                                 const char* author) {
     const TracedCall call("CorUtilAddOnRegister", interfaceOfAddOn, name, version, author);
-    return call.answer(CorAddOnID(nullptr), [&](Application& app) -> CorAddOnID {
+    return call.answer(CorAddOnID(nullptr), [&](Session& session) -> CorAddOnID {
         if (!name) {
             call.misuse("name is NULL");
             return nullptr;
@@ -19,6 +19,6 @@ CorAddOnID CorUtilAddOnRegister(int interfaceOfAddOn, const char* name, const ch
                         std::to_string(interfaceOfAddOn) + ", this host offers " +
                         std::to_string(interfaceNumber));
         }
-        return app.addOns().add({interfaceOfAddOn, name, textOf(version), textOf(author)});
+        return session.addOns().add({interfaceOfAddOn, name, textOf(version), textOf(author)});
     });
 }

@@ -1,7 +1,7 @@
 // Allocates for add-ons, and remembers what they have.
 #include "host/api/AddOnMemory.h"
 
-#include "host/api/GivenAway.h"
+#include "host/api/AllocationRegistry.h"
 
 #include <cstdlib>
 #include <memory>
@@ -12,8 +12,8 @@ namespace corvane::host {
 namespace {
 
 /// Never destroyed: add-ons free what they have when the process ends, too.
-GivenAway<void>& blocks() {
-    static auto* given = new GivenAway<void>;
+AllocationRegistry<void>& blocks() {
+    static auto* given = new AllocationRegistry<void>;
     return *given;
 }
 

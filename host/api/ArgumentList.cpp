@@ -1,7 +1,7 @@
 // What a CorArgList points to: named values of several types.
 #include "host/api/ArgumentList.h"
 
-#include "host/api/GivenAway.h"
+#include "host/api/AllocationRegistry.h"
 
 #include <memory>
 #include <new>
@@ -22,8 +22,8 @@ namespace corvane::host {
 namespace {
 
 /// Never destroyed: add-ons free what they have when the process ends, too.
-GivenAway<CorArgList_s>& lists() {
-    static auto* given = new GivenAway<CorArgList_s>;
+AllocationRegistry<CorArgList_s>& lists() {
+    static auto* given = new AllocationRegistry<CorArgList_s>;
     return *given;
 }
 

@@ -2,7 +2,7 @@
 #include "host/api/CallText.h"
 
 #include "host/api/ArgumentList.h"
-#include "host/core/Application.h"
+#include "host/core/Host.h"
 #include "host/core/macro/MacroText.h"
 
 #include <charconv>
@@ -47,10 +47,10 @@ void appendQuoted(std::string& text, const char* value) {
 }
 
 void appendAddOn(std::string& text, CorAddOnID value) {
-    Application* const application = Application::current();
+    Host* const host = Host::current();
     if (!value) {
         text += "NULL";
-    } else if (application && application->addOns().isKnown(value)) {
+    } else if (host && host->session().addOns().isKnown(value)) {
         text += quoted(value->name);
     } else {
         text += "unknown";

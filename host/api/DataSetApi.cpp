@@ -1,7 +1,7 @@
 // Zones and solution time.
 #include "hostapi/CorDataSet.h"
 
-#include "host/api/GivenAway.h"
+#include "host/api/AllocationRegistry.h"
 #include "host/api/TracedCall.h"
 
 #include <algorithm>
@@ -17,21 +17,21 @@ using namespace corvane::host;
 
 namespace {
 
-const DataSet* currentData(Application& app) {
-    const Frame* const frame = app.page().current();
+const DataSet* currentData(Session& session) {
+    const Frame* const frame = session.page().current();
     return frame ? frame->data().get() : nullptr;
 }
 
 /// Null for a zone that does not exist.
-const Zone* find(Application& app, long zone) {
-    const DataSet* const data = currentData(app);
+const Zone* find(Session& session, long zone) {
+    const DataSet* const data = currentData(session);
     const bool exists = data && zone >= 1 && static_cast<std::size_t>(zone) <= data->zones.size();
     return exists ? &data->zones[static_cast<std::size_t>(zone - 1)] : nullptr;
 }
 
 /// Never destroyed: add-ons free what they have when the process ends, too.
-GivenAway<CorSet_s>& sets() {
-    static auto* given = new GivenAway<CorSet_s>;
+AllocationRegistry<CorSet_s>& sets() {
+    static auto* given = new AllocationRegistry<CorSet_s>;
     return *given;
 }
 
@@ -54,8 +54,8 @@ std::unique_ptr<CorSet_s> enabledZones(const DataSet& data) {
 } // namespace
 
 CorBool CorUtilDataSetIsAvailable(void) {
-    return TracedCall("CorUtilDataSetIsAvailable").answer(false, [](Application& app) {
-        return currentData(app) != nullptr;
+    return TracedCall("CorUtilDataSetIsAvailable").answer(false, [](Session& session) {
+        return currentData(session) != nullptr;
     });
 }
 
@@ -64,11 +64,11 @@ CorBool CorUtilZoneGetEnabled(CorSet* enabled) {
     if (enabled) {
         *enabled = nullptr;
     }
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!enabled) {
             return call.misuse("enabled is NULL");
         }
-        if (const DataSet* const data = currentData(app)) {
+        if (const DataSet* const data = currentData(session)) {
             std::unique_ptr<CorSet_s> set = enabledZones(*data);
             sets().add(set.get());
             *enabled = set.release();
@@ -79,7 +79,7 @@ CorBool CorUtilZoneGetEnabled(CorSet* enabled) {
 
 long CorUtilSetGetNextMember(CorSet set, long member) {
     const TracedCall call("CorUtilSetGetNextMember", set, member);
-    return call.answer(0L, [&](Application&) {
+    return call.answer(0L, [&](Session&) {
         if (!set) {
             return 0L;
         }
@@ -94,17 +94,17 @@ long CorUtilSetGetNextMember(CorSet set, long member) {
 
 void CorUtilSetDealloc(CorSet* set) {
     const Operation operation("CorUtilSetDealloc");
-    if (Application::isHomeThread() && !Application::current()) {
+    if (Host::isHomeThread() && !Host::current()) {
         free(operation, set);
     } else {
-        TracedCall(operation, set).perform([&](Application&) { free(operation, set); });
+        TracedCall(operation, set).perform([&](Session&) { free(operation, set); });
     }
 }
 
 double CorUtilZoneGetSolutionTime(long zone) {
     const TracedCall call("CorUtilZoneGetSolutionTime", zone);
-    return call.answer(0.0, [&](Application& app) {
-        if (const Zone* const found = find(app, zone)) {
+    return call.answer(0.0, [&](Session& session) {
+        if (const Zone* const found = find(session, zone)) {
             return found->solutionTime;
         }
         call.misuse("no such zone");
@@ -114,8 +114,8 @@ double CorUtilZoneGetSolutionTime(long zone) {
 
 long CorUtilZoneGetStrandID(long zone) {
     const TracedCall call("CorUtilZoneGetStrandID", zone);
-    return call.answer(0L, [&](Application& app) {
-        if (const Zone* const found = find(app, zone)) {
+    return call.answer(0L, [&](Session& session) {
+        if (const Zone* const found = find(session, zone)) {
             return found->strand;
         }
         call.misuse("no such zone");
@@ -124,13 +124,13 @@ long CorUtilZoneGetStrandID(long zone) {
 }
 
 double CorUtilSolutionTimeGetCurrent(void) {
-    return TracedCall("CorUtilSolutionTimeGetCurrent").answer(0.0, [](Application& app) {
-        return currentData(app) ? app.page().current()->solutionTime : 0.0;
+    return TracedCall("CorUtilSolutionTimeGetCurrent").answer(0.0, [](Session& session) {
+        return currentData(session) ? session.page().current()->solutionTime : 0.0;
     });
 }
 
 CorBool CorUtilSolutionTimeSetCurrent(double t) {
-    return TracedCall("CorUtilSolutionTimeSetCurrent", t).answer(false, [&](Application& app) {
-        return app.setSolutionTime(t);
+    return TracedCall("CorUtilSolutionTimeSetCurrent", t).answer(false, [&](Session& session) {
+        return session.setSolutionTime(t);
     });
 }

@@ -25,25 +25,25 @@ char* copyForAddOn(const std::string& text) {
 
 CorBool CorUtilDialogErrMsg(const char* message) {
     const TracedCall call("CorUtilDialogErrMsg", message);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!message) {
             return call.misuse("message is NULL");
         }
-        app.dialogs().showError(message);
+        session.prompts().showError(message);
         return true;
     });
 }
 
 CorBool CorUtilDialogMessageBox(const char* message, MessageBox_e type) {
     const TracedCall call("CorUtilDialogMessageBox", message, type);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!message) {
             return call.misuse("message is NULL");
         }
         if (type == MessageBox_YesNo) {
-            return app.dialogs().askYesNo(message);
+            return session.prompts().askYesNo(message);
         }
-        app.dialogs().showNotice(message);
+        session.prompts().showNotice(message);
         return true;
     });
 }
@@ -56,13 +56,13 @@ CorBool CorUtilDialogGetFileName(SelectFileOption_e option, char** fileName,
     if (fileName) {
         *fileName = nullptr;
     }
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!fileName) {
             return call.misuse("fileName is NULL");
         }
         const std::optional<std::string> chosen =
-            app.dialogs().askFileName(option == SelectFile_Write, textOf(fileTypeName),
-                                      textOf(defaultFileName), textOf(filter));
+            session.prompts().askFileName(option == SelectFile_Write, textOf(fileTypeName),
+                                          textOf(defaultFileName), textOf(filter));
         if (chosen) {
             *fileName = copyForAddOn(*chosen);
         }
@@ -72,7 +72,7 @@ CorBool CorUtilDialogGetFileName(SelectFileOption_e option, char** fileName,
 
 CorBool CorUtilHelp(const char* page, CorBool flag, int number) {
     const TracedCall call("CorUtilHelp", page, flag != FALSE, number);
-    return call.answer(false, [&](Application& app) {
-        return page ? app.dialogs().showHelp(page) : call.misuse("page is NULL");
+    return call.answer(false, [&](Session& session) {
+        return page ? session.prompts().showHelp(page) : call.misuse("page is NULL");
     });
 }

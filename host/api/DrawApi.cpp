@@ -7,10 +7,10 @@ using namespace corvane::host;
 
 void CorUtilDrawGraphics(CorBool doDrawing) {
     const TracedCall call("CorUtilDrawGraphics", doDrawing != FALSE);
-    call.perform([&](Application& app) {
+    call.perform([&](Session& session) {
         if (!doDrawing) {
-            app.drawing().suspend();
-        } else if (!app.drawing().resume()) {
+            session.drawing().suspend();
+        } else if (!session.drawing().resume()) {
             call.misuse("drawing is not suspended");
         }
     });
@@ -18,7 +18,7 @@ void CorUtilDrawGraphics(CorBool doDrawing) {
 
 CorBool CorUtilRedraw(CorBool fullRedraw) {
     const bool allFrames = fullRedraw != FALSE;
-    return TracedCall("CorUtilRedraw", allFrames).answer(false, [&](Application& app) {
-        return app.drawing().redraw(allFrames);
+    return TracedCall("CorUtilRedraw", allFrames).answer(false, [&](Session& session) {
+        return session.drawing().redraw(allFrames);
     });
 }

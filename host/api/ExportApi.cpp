@@ -8,10 +8,10 @@ using namespace corvane::host;
 namespace {
 
 /// Integers, numbers and texts come in different arguments; the setting decides which one counts.
-bool setSetting(Application& app, const StylePath& path, const char* text, long integer,
+bool setSetting(Session& session, const StylePath& path, const char* text, long integer,
                 double number) {
     StyleInput value;
-    if (app.getStyle(path, value) != StyleGet_Ok) {
+    if (session.getStyle(path, value) != StyleGet_Ok) {
         return false;
     }
     if (std::holds_alternative<long>(value)) {
@@ -23,15 +23,15 @@ bool setSetting(Application& app, const StylePath& path, const char* text, long 
     } else {
         return false;
     }
-    const StyleSetResult_e result = app.setStyle(path, value);
+    const StyleSetResult_e result = session.setStyle(path, value);
     return result == StyleSet_Ok || result == StyleSet_Unchanged;
 }
 
 /// An operation that needs a movie being recorded.
 CorBool whileRecording(const char* operation, bool (Exporter::*step)()) {
     const TracedCall call(operation);
-    return call.answer(false, [&](Application& app) {
-        Exporter& exporter = app.exporter();
+    return call.answer(false, [&](Session& session) {
+        Exporter& exporter = session.exporter();
         return exporter.isRecording() ? (exporter.*step)() : call.misuse("nothing is recorded");
     });
 }
@@ -39,16 +39,16 @@ CorBool whileRecording(const char* operation, bool (Exporter::*step)()) {
 } // namespace
 
 CorBool CorUtilExportIsRecording(void) {
-    return TracedCall("CorUtilExportIsRecording").answer(false, [](Application& app) {
-        return app.exporter().isRecording();
+    return TracedCall("CorUtilExportIsRecording").answer(false, [](Session& session) {
+        return session.exporter().isRecording();
     });
 }
 
 CorBool CorUtilExportStart(void) {
     const TracedCall call("CorUtilExportStart");
-    return call.answer(false, [&](Application& app) {
-        return app.exporter().isRecording() ? call.misuse("a movie is being recorded already")
-                                            : app.exporter().start();
+    return call.answer(false, [&](Session& session) {
+        return session.exporter().isRecording() ? call.misuse("a movie is being recorded already")
+                                                : session.exporter().start();
     });
 }
 
@@ -67,8 +67,8 @@ CorBool CorUtilExportCancel(void) {
 CorBool CorUtilExportSetup(const char* name, const char* text, int integerValue,
                            double doubleValue) {
     const TracedCall call("CorUtilExportSetup", name, text, integerValue, doubleValue);
-    return call.answer(false, [&](Application& app) {
-        return name ? setSetting(app, {"ExportSetup", name}, text, integerValue, doubleValue)
+    return call.answer(false, [&](Session& session) {
+        return name ? setSetting(session, {"ExportSetup", name}, text, integerValue, doubleValue)
                     : call.misuse("name is NULL");
     });
 }

@@ -9,13 +9,13 @@ using namespace corvane::host;
 namespace {
 
 /// Changes which frame is active, and tells about it when it is another one than before.
-bool changeActive(Application& app, bool (Page::*change)()) {
-    const Frame* const before = app.page().active();
-    if (!(app.page().*change)()) {
+bool changeActive(Session& session, bool (Page::*change)()) {
+    const Frame* const before = session.page().active();
+    if (!(session.page().*change)()) {
         return false;
     }
-    if (app.page().active() != before) {
-        app.pageChanged(StateChange_FrameActivated);
+    if (session.page().active() != before) {
+        session.pageChanged(StateChange_FrameActivated);
     }
     return true;
 }
@@ -26,7 +26,7 @@ bool isKnown(CoordSys_e system) {
 
 double converted(const Operation& operation, double v, CoordSys_e from, CoordSys_e to) {
     const TracedCall call(operation, v, from, to);
-    return call.answer(0.0, [&](Application& app) {
+    return call.answer(0.0, [&](Session& session) {
         if (!isKnown(from) || !isKnown(to)) {
             call.misuse("unknown coordinate system");
             return v;
@@ -34,76 +34,76 @@ double converted(const Operation& operation, double v, CoordSys_e from, CoordSys
         if (from == to) {
             return v;
         }
-        return to == CoordSys_Screen ? app.page().toPixels(v) : app.page().toInches(v);
+        return to == CoordSys_Screen ? session.page().toPixels(v) : session.page().toInches(v);
     });
 }
 
 } // namespace
 
 long CorUtilFrameGetCount(void) {
-    return TracedCall("CorUtilFrameGetCount").answer(0L, [](Application& app) {
-        return static_cast<long>(app.page().frames().size());
+    return TracedCall("CorUtilFrameGetCount").answer(0L, [](Session& session) {
+        return static_cast<long>(session.page().frames().size());
     });
 }
 
 PlotType_e CorUtilFrameGetPlotType(void) {
-    return TracedCall("CorUtilFrameGetPlotType").answer(PlotType_None, [](Application& app) {
-        const Frame* const frame = app.page().current();
+    return TracedCall("CorUtilFrameGetPlotType").answer(PlotType_None, [](Session& session) {
+        const Frame* const frame = session.page().current();
         return frame ? frame->plotType : PlotType_None;
     });
 }
 
 long CorUtilFrameGetUniqueID(void) {
-    return TracedCall("CorUtilFrameGetUniqueID").answer(0L, [](Application& app) {
-        const Frame* const frame = app.page().current();
+    return TracedCall("CorUtilFrameGetUniqueID").answer(0L, [](Session& session) {
+        const Frame* const frame = session.page().current();
         return frame ? frame->id() : 0L;
     });
 }
 
 CorBool CorUtilFrameActivateTop(void) {
-    return TracedCall("CorUtilFrameActivateTop").answer(false, [](Application& app) {
-        return changeActive(app, &Page::activateTop);
+    return TracedCall("CorUtilFrameActivateTop").answer(false, [](Session& session) {
+        return changeActive(session, &Page::activateTop);
     });
 }
 
 CorBool CorUtilFrameActivateByUniqueID(long id) {
     const TracedCall call("CorUtilFrameActivateByUniqueID", id);
-    return call.answer(false, [&](Application& app) {
-        return app.activateFrame(id) || call.misuse("no such frame");
+    return call.answer(false, [&](Session& session) {
+        return session.activateFrame(id) || call.misuse("no such frame");
     });
 }
 
 CorBool CorUtilFramePushTop(void) {
-    return TracedCall("CorUtilFramePushTop").answer(false, [](Application& app) {
-        if (!changeActive(app, &Page::pushTop)) {
+    return TracedCall("CorUtilFramePushTop").answer(false, [](Session& session) {
+        if (!changeActive(session, &Page::pushTop)) {
             return false;
         }
-        app.drawing().mark();
+        session.drawing().mark();
         return true;
     });
 }
 
 void CorUtilFrameLightweightPopStart(void) {
-    TracedCall("CorUtilFrameLightweightPopStart").perform([](Application& app) {
-        app.page().startWalk();
+    TracedCall("CorUtilFrameLightweightPopStart").perform([](Session& session) {
+        session.page().startWalk();
     });
 }
 
 CorBool CorUtilFrameLightweightPopNext(void) {
-    return TracedCall("CorUtilFrameLightweightPopNext").answer(false, [](Application& app) {
-        return app.page().nextOfWalk();
+    return TracedCall("CorUtilFrameLightweightPopNext").answer(false, [](Session& session) {
+        return session.page().nextOfWalk();
     });
 }
 
 void CorUtilFrameLightweightPopEnd(void) {
-    TracedCall("CorUtilFrameLightweightPopEnd").perform([](Application& app) {
-        app.page().endWalk();
+    TracedCall("CorUtilFrameLightweightPopEnd").perform([](Session& session) {
+        session.page().endWalk();
     });
 }
 
 void CorUtilFrameGetPosAndSize(double* x, double* y, double* w, double* h) {
-    TracedCall("CorUtilFrameGetPosAndSize", x, y, w, h).perform([&](Application& app) {
-        if (const Frame* const frame = app.page().current()) {
+    TracedCall("CorUtilFrameGetPosAndSize", x, y, w, h).perform([&](Session& session) {
+        if (const Frame* const frame = session.page().current()) {
             write(x, frame->placement.x);
             write(y, frame->placement.y);
             write(w, frame->placement.width);
@@ -121,8 +121,8 @@ double CorUtilConvertYDimension(double v, CoordSys_e from, CoordSys_e to) {
 }
 
 void CorUtilWorkAreaGetDimensions(int* width, int* height) {
-    TracedCall("CorUtilWorkAreaGetDimensions", width, height).perform([&](Application& app) {
-        write(width, app.page().workArea.width);
-        write(height, app.page().workArea.height);
+    TracedCall("CorUtilWorkAreaGetDimensions", width, height).perform([&](Session& session) {
+        write(width, session.page().workArea.width);
+        write(height, session.page().workArea.height);
     });
 }

@@ -17,9 +17,9 @@ namespace {
 /// Null for a wrong handle. One that was never set is nothing to complain of: controls are used
 /// before their dialog has been built.
 template <class T, class Call>
-T* find(const Call& call, Application& app, int handle) {
-    T* const found = app.controls().find<T>(handle);
-    if (!found && handle != COR_HANDLE_NOT_CREATED && app.controls().areThere()) {
+T* find(const Call& call, Session& session, int handle) {
+    T* const found = session.controls().find<T>(handle);
+    if (!found && handle != COR_HANDLE_NOT_CREATED && session.controls().areThere()) {
         call.misuse("no such control: " + std::to_string(handle));
     }
     return found;
@@ -28,9 +28,9 @@ T* find(const Call& call, Application& app, int handle) {
 /// Does work(controls, control) with the control that the handle means.
 template <class T, class Call, class Work>
 void onControl(const Call& call, int handle, const Work& work) {
-    call.perform([&](Application& app) {
-        if (T* const control = find<T>(call, app, handle)) {
-            work(app.controls(), *control);
+    call.perform([&](Session& session) {
+        if (T* const control = find<T>(call, session, handle)) {
+            work(session.controls(), *control);
         }
     });
 }
@@ -38,8 +38,8 @@ void onControl(const Call& call, int handle, const Work& work) {
 /// The result of query(control); 0 or false for a wrong handle.
 template <class T, class Result, class Call, class Query>
 Result ask(const Call& call, int handle, const Query& query) {
-    return call.answer(Result{}, [&](Application& app) {
-        const T* const control = find<T>(call, app, handle);
+    return call.answer(Result{}, [&](Session& session) {
+        const T* const control = find<T>(call, session, handle);
         return control ? static_cast<Result>(query(*control)) : Result{};
     });
 }
@@ -47,33 +47,34 @@ Result ask(const Call& call, int handle, const Query& query) {
 /// Adds a control that knows everything but its place.
 template <class T, class Call>
 int addControl(const Call& call, int parent, Box box, T control) {
-    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
-        Dialog* const dialog = find<Dialog>(call, app, parent);
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Session& session) {
+        Dialog* const dialog = find<Dialog>(call, session, parent);
         control.box = box;
-        return dialog ? app.controls().add(*dialog, std::move(control)) : COR_HANDLE_NOT_CREATED;
+        return dialog ? session.controls().add(*dialog, std::move(control))
+                      : COR_HANDLE_NOT_CREATED;
     });
 }
 
 template <class T, class Call>
 int addEntry(const Call& call, int handle, T entry) {
-    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
-        Menu* const menu = find<Menu>(call, app, handle);
-        return menu ? app.controls().addEntry(*menu, std::move(entry)) : COR_HANDLE_NOT_CREATED;
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Session& session) {
+        Menu* const menu = find<Menu>(call, session, handle);
+        return menu ? session.controls().addEntry(*menu, std::move(entry)) : COR_HANDLE_NOT_CREATED;
     });
 }
 
 template <class Call>
 int createDialog(const Call& call, int parent, Dialog dialog) {
-    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
-        return app.controls().createDialog(parent, std::move(dialog));
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Session& session) {
+        return session.controls().createDialog(parent, std::move(dialog));
     });
 }
 
-Told told(CorGUIVoidCB callback) {
-    return callback ? Told(callback) : Told();
+OnPress callback(CorGUIVoidCB callback) {
+    return callback ? OnPress(callback) : OnPress();
 }
 
-ToldText told(CorGUITextCB callback) {
+OnText callback(CorGUITextCB callback) {
     if (!callback) {
         return {};
     }
@@ -81,14 +82,14 @@ ToldText told(CorGUITextCB callback) {
 }
 
 /// Of lists, option menus and radio boxes.
-ToldPosition told(CorGUIIndexCB callback) {
+OnPosition callback(CorGUIIndexCB callback) {
     if (!callback) {
         return {};
     }
     return [callback](long position) { callback(&position); };
 }
 
-ToldState toldState(CorGUIToggleCB callback) {
+OnState onState(CorGUIToggleCB callback) {
     if (!callback) {
         return {};
     }
@@ -117,9 +118,9 @@ int CorGUIDialogCreateModeless(int parent, int width, int height, const char* ti
     dialog.owner = call.callingLibrary();
     dialog.width = width;
     dialog.height = height;
-    dialog.init = told(init);
-    dialog.dismiss = told(close);
-    dialog.help = told(help);
+    dialog.init = callback(init);
+    dialog.dismiss = callback(close);
+    dialog.help = callback(help);
     return createDialog(call, parent, std::move(dialog));
 }
 
@@ -134,11 +135,11 @@ int CorGUIDialogCreateModal(int parent, int width, int height, const char* title
     dialog.width = width;
     dialog.height = height;
     dialog.isModal = true;
-    dialog.init = told(init);
-    dialog.ok = told(ok);
-    dialog.apply = told(apply);
-    dialog.dismiss = told(cancel);
-    dialog.help = told(help);
+    dialog.init = callback(init);
+    dialog.ok = callback(ok);
+    dialog.apply = callback(apply);
+    dialog.dismiss = callback(cancel);
+    dialog.help = callback(help);
     return createDialog(call, parent, std::move(dialog));
 }
 
@@ -160,7 +161,7 @@ CorBool CorGUIDialogIsUp(int dialog) {
 int CorGUIButtonAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIVoidCB cb) {
     Button button;
     button.label = textOf(label);
-    button.pressed = told(cb);
+    button.pressed = callback(cb);
     return addControl(TracedCall("CorGUIButtonAdd", parent, x, y, w, h, label, cb), parent,
                       {x, y, w, h}, std::move(button));
 }
@@ -187,7 +188,7 @@ int CorGUIFrameAdd(int parent, int x, int y, int w, int h, const char* label) {
 
 int CorGUITextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB cb) {
     TextField field;
-    field.told = told(cb);
+    field.callback = callback(cb);
     return addControl(TracedCall("CorGUITextFieldAdd", parent, x, y, w, h, cb), parent,
                       {x, y, w, h}, std::move(field));
 }
@@ -201,9 +202,9 @@ void CorGUITextFieldSetString(int field, const char* text) {
 int CorGUISpinTextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB valueChanged,
                            CorGUIVoidCB up, CorGUIVoidCB down) {
     SpinField field;
-    field.told = told(valueChanged);
-    field.up = told(up);
-    field.down = told(down);
+    field.callback = callback(valueChanged);
+    field.up = callback(up);
+    field.down = callback(down);
     return addControl(
         TracedCall("CorGUISpinTextFieldAdd", parent, x, y, w, h, valueChanged, up, down), parent,
         {x, y, w, h}, std::move(field));
@@ -212,7 +213,7 @@ int CorGUISpinTextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB 
 int CorGUIToggleAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIToggleCB cb) {
     Toggle toggle;
     toggle.label = textOf(label);
-    toggle.told = toldState(cb);
+    toggle.callback = onState(cb);
     return addControl(TracedCall("CorGUIToggleAdd", parent, x, y, w, h, label, cb), parent,
                       {x, y, w, h}, std::move(toggle));
 }
@@ -231,7 +232,7 @@ void CorGUIToggleSet(int toggle, CorBool on) {
 int CorGUIListAdd(int parent, int x, int y, int w, int h, CorBool multiSelect, CorGUIListCB cb) {
     List list;
     list.isMulti = multiSelect != FALSE;
-    list.told = told(cb);
+    list.callback = callback(cb);
     return addControl(TracedCall("CorGUIListAdd", parent, x, y, w, h, multiSelect != FALSE, cb),
                       parent, {x, y, w, h}, std::move(list));
 }
@@ -310,7 +311,7 @@ int CorGUIOptionMenuAdd(int parent, int x, int y, int w, int h, const char* cons
                         int itemCount, CorGUIIndexCB cb) {
     OptionMenu menu;
     menu.items = texts(items, itemCount);
-    menu.told = told(cb);
+    menu.callback = callback(cb);
     return addControl(TracedCall("CorGUIOptionMenuAdd", parent, x, y, w, h, items, itemCount, cb),
                       parent, {x, y, w, h}, std::move(menu));
 }
@@ -343,7 +344,7 @@ int CorGUIRadioBoxAdd(int parent, int x, int y, int w, int h, const char* const*
     RadioBox box;
     box.items = texts(labels, labelCount);
     box.chosen = box.items.empty() ? 0 : 1;
-    box.told = told(cb);
+    box.callback = callback(cb);
     return addControl(TracedCall("CorGUIRadioBoxAdd", parent, x, y, w, h, labels, labelCount, cb),
                       parent, {x, y, w, h}, std::move(box));
 }
@@ -361,17 +362,17 @@ void CorGUIRadioBoxSetToggle(int box, long position) {
 
 int CorGUIMenuBarAdd(int dialog) {
     const TracedCall call("CorGUIMenuBarAdd", dialog);
-    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
-        Dialog* const found = find<Dialog>(call, app, dialog);
-        return found ? app.controls().addMenuBar(*found) : COR_HANDLE_NOT_CREATED;
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Session& session) {
+        Dialog* const found = find<Dialog>(call, session, dialog);
+        return found ? session.controls().addMenuBar(*found) : COR_HANDLE_NOT_CREATED;
     });
 }
 
 int CorGUIMenuAdd(int parentMenuOrBar, const char* label) {
     const TracedCall call("CorGUIMenuAdd", parentMenuOrBar, label);
-    return call.answer(COR_HANDLE_NOT_CREATED, [&](Application& app) {
-        MenuParent* const parent = find<MenuParent>(call, app, parentMenuOrBar);
-        return parent ? app.controls().addMenu(*parent, textOf(label)) : COR_HANDLE_NOT_CREATED;
+    return call.answer(COR_HANDLE_NOT_CREATED, [&](Session& session) {
+        MenuParent* const parent = find<MenuParent>(call, session, parentMenuOrBar);
+        return parent ? session.controls().addMenu(*parent, textOf(label)) : COR_HANDLE_NOT_CREATED;
     });
 }
 
@@ -379,7 +380,7 @@ int CorGUIMenuAddItem(int menu, const char* label, const char* help, CorGUIVoidC
     MenuItem item;
     item.label = textOf(label);
     item.help = textOf(help);
-    item.told = told(cb);
+    item.callback = callback(cb);
     return addEntry(TracedCall("CorGUIMenuAddItem", menu, label, help, cb), menu, std::move(item));
 }
 
@@ -387,7 +388,7 @@ int CorGUIMenuAddToggle(int menu, const char* label, const char* help, CorGUITog
     MenuToggle toggle;
     toggle.label = textOf(label);
     toggle.help = textOf(help);
-    toggle.told = toldState(cb);
+    toggle.callback = onState(cb);
     return addEntry(TracedCall("CorGUIMenuAddToggle", menu, label, help, cb), menu,
                     std::move(toggle));
 }

@@ -7,12 +7,12 @@ using namespace corvane::host;
 
 CorBool CorUtilOnIdleQueueAddCallback(CorOnIdleCallback f, long clientData) {
     const TracedCall call("CorUtilOnIdleQueueAddCallback", f, clientData);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!f) {
             return call.misuse("f is NULL");
         }
-        app.idle().add([f, clientData] { f(clientData); }, libraryOf(f));
+        session.idle().add([f, clientData] { f(clientData); }, libraryOf(f));
         // A queue that was closed drops what it is given.
-        return !app.idle().isEmpty();
+        return !session.idle().isEmpty();
     });
 }

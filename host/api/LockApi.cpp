@@ -7,17 +7,17 @@ using namespace corvane::host;
 
 namespace {
 
-void release(Application& app, const auto& call, CorAddOnID id) {
-    if (app.locks().finish(id)) {
-        app.drawing().drawIfDue();
+void release(Session& session, const auto& call, CorAddOnID id) {
+    if (session.locks().finish(id)) {
+        session.drawing().drawIfDue();
     } else {
         call.misuse("no such lock is held");
     }
 }
 
 /// Locks under an id that was never given away count as those without an id.
-CorAddOnID ownerOf(Application& app, const auto& call, CorAddOnID id) {
-    if (id && !app.addOns().isKnown(id)) {
+CorAddOnID ownerOf(Session& session, const auto& call, CorAddOnID id) {
+    if (id && !session.addOns().isKnown(id)) {
         call.misuse("unknown add-on");
         return nullptr;
     }
@@ -27,20 +27,20 @@ CorAddOnID ownerOf(Application& app, const auto& call, CorAddOnID id) {
 } // namespace
 
 void CorUtilLockOn(void) {
-    TracedCall("CorUtilLockOn").perform([](Application& app) { app.locks().start(nullptr); });
+    TracedCall("CorUtilLockOn").perform([](Session& session) { session.locks().start(nullptr); });
 }
 
 void CorUtilLockOff(void) {
     const TracedCall call("CorUtilLockOff");
-    call.perform([&](Application& app) { release(app, call, nullptr); });
+    call.perform([&](Session& session) { release(session, call, nullptr); });
 }
 
 void CorUtilLockStart(CorAddOnID id) {
     const TracedCall call("CorUtilLockStart", id);
-    call.perform([&](Application& app) { app.locks().start(ownerOf(app, call, id)); });
+    call.perform([&](Session& session) { session.locks().start(ownerOf(session, call, id)); });
 }
 
 void CorUtilLockFinish(CorAddOnID id) {
     const TracedCall call("CorUtilLockFinish", id);
-    call.perform([&](Application& app) { release(app, call, ownerOf(app, call, id)); });
+    call.perform([&](Session& session) { release(session, call, ownerOf(session, call, id)); });
 }

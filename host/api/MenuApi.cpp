@@ -7,17 +7,17 @@ using namespace corvane::host;
 
 CorBool CorUtilMenuAddOption(const char* menu, const char* label, int one, void (*callback)(void)) {
     const TracedCall call("CorUtilMenuAddOption", menu, label, one, callback);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         return menu && label && callback
-                   ? app.menuOptions().add(menu, label, callback, libraryOf(callback))
+                   ? session.menuOptions().add(menu, label, callback, libraryOf(callback))
                    : call.misuse("an argument is NULL");
     });
 }
 
 CorBool CorUtilMenuSetSensitivity(const char* menu, const char* label, CorBool sensitive) {
     const TracedCall call("CorUtilMenuSetSensitivity", menu, label, sensitive != FALSE);
-    return call.answer(false, [&](Application& app) {
-        return menu && label ? app.menuOptions().setSensitivity(menu, label, sensitive != FALSE)
+    return call.answer(false, [&](Session& session) {
+        return menu && label ? session.menuOptions().setSensitivity(menu, label, sensitive != FALSE)
                              : call.misuse("an argument is NULL");
     });
 }

@@ -20,7 +20,7 @@ void checkMode(const auto& call, int mode) {
 
 CorBool CorUtilStateChangeAddCallbackX(CorArgList args) {
     const TracedCall call("CorUtilStateChangeAddCallbackX", args);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         const CorArgList_s* const list = known(args);
         const auto* callback = list ? list->find<CorGenericFunc>("CallbackFunction") : nullptr;
         if (!callback || !*callback) {
@@ -33,8 +33,8 @@ CorBool CorUtilStateChangeAddCallbackX(CorArgList args) {
         if (const int* const mode = list->find<int>("StateChangeMode")) {
             checkMode(call, *mode);
         }
-        app.stateChanges().addCallback(reinterpret_cast<CorStateChangeCallback>(*callback),
-                                       libraryOf(*callback));
+        session.stateChanges().addCallback(reinterpret_cast<CorStateChangeCallback>(*callback),
+                                           libraryOf(*callback));
         return true;
     });
 }
@@ -42,18 +42,19 @@ CorBool CorUtilStateChangeAddCallbackX(CorArgList args) {
 CorBool CorUtilStateChangeAddListener(StateChangeMode_e mode, CorStateChangeListener f,
                                       void* clientData) {
     const TracedCall call("CorUtilStateChangeAddListener", mode, f, clientData);
-    return call.answer(false, [&](Application& app) {
+    return call.answer(false, [&](Session& session) {
         if (!f) {
             return call.misuse("f is NULL");
         }
         checkMode(call, mode);
-        app.stateChanges().addListener(f, clientData, libraryOf(f));
+        session.stateChanges().addListener(f, clientData, libraryOf(f));
         return true;
     });
 }
 
 CorBool CorUtilStateChangeRemoveListener(CorStateChangeListener f, void* clientData) {
     const TracedCall call("CorUtilStateChangeRemoveListener", f, clientData);
-    return call.answer(
-        false, [&](Application& app) { return app.stateChanges().removeListener(f, clientData); });
+    return call.answer(false, [&](Session& session) {
+        return session.stateChanges().removeListener(f, clientData);
+    });
 }

@@ -9,20 +9,20 @@ void CorUtilStatusStartPercentDone(const char* text, CorBool showStopButton,
                                    CorBool showProgressBar) {
     const TracedCall call("CorUtilStatusStartPercentDone", text, showStopButton != FALSE,
                           showProgressBar != FALSE);
-    call.perform([&](Application& app) {
+    call.perform([&](Session& session) {
         if (!text) {
             call.misuse("text is NULL");
         }
         // The caller will finish what it started, with or without a text.
-        app.status().start(text ? text : "", showStopButton != FALSE, showProgressBar != FALSE);
+        session.status().start(text ? text : "", showStopButton != FALSE, showProgressBar != FALSE);
     });
 }
 
 void CorUtilStatusSetPercentDoneText(const char* text) {
     const TracedCall call("CorUtilStatusSetPercentDoneText", text);
-    call.perform([&](Application& app) {
+    call.perform([&](Session& session) {
         if (text) {
-            app.status().setText(text);
+            session.status().setText(text);
         } else {
             call.misuse("text is NULL");
         }
@@ -31,14 +31,14 @@ void CorUtilStatusSetPercentDoneText(const char* text) {
 
 CorBool CorUtilStatusCheckPercentDone(int percent) {
     return TracedCall("CorUtilStatusCheckPercentDone", percent)
-        .answer(false, [&](Application& app) { return app.status().check(percent); });
+        .answer(false, [&](Session& session) { return session.status().check(percent); });
 }
 
 void CorUtilStatusFinishPercentDone(void) {
     const TracedCall call("CorUtilStatusFinishPercentDone");
-    call.perform([&](Application& app) {
-        if (app.status().isActive()) {
-            app.status().finish();
+    call.perform([&](Session& session) {
+        if (session.status().isActive()) {
+            session.status().finish();
         } else {
             call.misuse("no display is open");
         }

@@ -39,13 +39,13 @@ std::optional<StyleInput> inputLike(const StyleInput& kind, const CorArgList_s& 
     return value ? std::optional<StyleInput>(*value) : std::nullopt;
 }
 
-StyleSetResult_e setByPath(Application& app, const CorArgList_s& args) {
+StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
     const StylePath path = pathOf(args);
     StyleInput present;
-    switch (app.getStyle(path, present)) {
+    switch (session.getStyle(path, present)) {
     case StyleGet_Ok: {
         const std::optional<StyleInput> input = inputLike(present, args);
-        return input ? app.setStyle(path, *input) : StyleSet_BadValue;
+        return input ? session.setStyle(path, *input) : StyleSet_BadValue;
     }
     case StyleGet_NotAvailable:
         return StyleSet_NotAllowed;
@@ -75,24 +75,24 @@ bool deliver(const StyleInput& value, const CorArgList_s& args) {
 
 int CorUtilStyleSet(CorArgList args) {
     const TracedCall call("CorUtilStyleSet", args);
-    return call.answer(int(StyleSet_NotAllowed), [&](Application& app) -> int {
+    return call.answer(int(StyleSet_NotAllowed), [&](Session& session) -> int {
         if (!known(args)) {
             call.misuse("args is no list of arguments");
             return StyleSet_BadPath;
         }
-        return setByPath(app, *args);
+        return setByPath(session, *args);
     });
 }
 
 int CorUtilStyleGet(CorArgList args) {
     const TracedCall call("CorUtilStyleGet", args);
-    return call.answer(int(StyleGet_NotAvailable), [&](Application& app) -> int {
+    return call.answer(int(StyleGet_NotAvailable), [&](Session& session) -> int {
         if (!known(args)) {
             call.misuse("args is no list of arguments");
             return StyleGet_BadPath;
         }
         StyleInput value;
-        const StyleGetResult_e result = app.getStyle(pathOf(*args), value);
+        const StyleGetResult_e result = session.getStyle(pathOf(*args), value);
         return result != StyleGet_Ok || deliver(value, *args) ? result : StyleGet_NotAvailable;
     });
 }

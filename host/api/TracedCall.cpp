@@ -10,16 +10,16 @@ bool mayProceedUntraced(const Operation& operation, bool hasResult) {
     if (isOnWrongThread(operation)) {
         return false;
     }
-    Application* const application = Application::current();
-    return !application || mayProceed(application->trace(), operation.name, hasResult);
+    Host* const host = Host::current();
+    return !host || mayProceed(host->session().trace(), operation.name, hasResult);
 }
 
 void reportMisuse(const Operation& operation, const std::string& what) {
-    Application::tellMisuse(complaint(operation, what));
+    Host::tellMisuse(complaint(operation, what));
 }
 
 bool isOnWrongThread(const Operation& operation) {
-    if (Application::isHomeThread()) {
+    if (Host::isHomeThread()) {
         return false;
     }
     reportMisuse(operation, "called on another thread than the user interface's; ignored");
@@ -36,10 +36,10 @@ void reportException(const Operation& operation) {
     }
 }
 
-void record(Application& application, std::string call, std::string result) {
-    const CallTrace& trace = application.trace();
+void record(Session& session, std::string call, std::string result) {
+    const CallTrace& trace = session.trace();
     if (trace.isOn()) {
-        trace.onCall({std::move(call), std::move(result), application.locks().depth()});
+        trace.onCall({std::move(call), std::move(result), session.locks().depth()});
     }
 }
 

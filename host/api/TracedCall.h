@@ -3,15 +3,16 @@
 
 #include "host/api/CallText.h"
 #include "host/api/Operation.h"
-#include "host/core/Application.h"
+#include "host/core/Host.h"
 
 #include <string>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 namespace corvane::host {
 
-/// One call of a C operation. It answers the failure without an application and on other threads
+/// One call of a C operation. It answers the failure without a host and on other threads
 /// than its own, records the call and its result in the trace, and keeps exceptions of the host
 /// inside. While nobody listens to the trace, no text is made.
 template <class... Arguments>
@@ -20,11 +21,12 @@ public:
     explicit TracedCall(Operation operation, Arguments... arguments)
         : m_operation(operation), m_arguments(arguments...) {}
 
-    /// The result of work(application); failure when that is not possible.
+    /// The result of work(session), or of work(host) for operations about macros; failure when that
+    /// is not possible.
     template <class Result, class Work>
     Result answer(Result failure, const Work& work) const;
 
-    /// Does work(application), for operations without a result.
+    /// The same for operations without a result.
     template <class Work>
     void perform(const Work& work) const;
 
@@ -50,17 +52,26 @@ inline bool mayProceed(const CallTrace& trace, const char* operation, bool hasRe
     return !trace.onEnter || trace.onEnter(operation, hasResult);
 }
 
-/// For the operations that build lists and strings: they are needed with or without an
-/// application, and would drown all others in the trace.
+/// For the operations that build lists and strings: they are needed with or without a
+/// host, and would drown all others in the trace.
 bool mayProceedUntraced(const Operation& operation, bool hasResult);
 void reportMisuse(const Operation& operation, const std::string& what);
 
-/// True, and told to the trace, on any thread but that of the application.
+/// True, and told to the trace, on any thread but that of the host.
 bool isOnWrongThread(const Operation& operation);
 
 /// To be called in a catch block: tells the trace about the exception.
 void reportException(const Operation& operation);
-void record(Application& application, std::string call, std::string result);
+void record(Session& session, std::string call, std::string result);
+
+template <class Work>
+decltype(auto) callWith(Host& host, const Work& work) {
+    if constexpr (std::is_invocable_v<const Work&, Session&>) {
+        return work(host.session());
+    } else {
+        return work(host);
+    }
+}
 
 template <class... Arguments>
 std::string TracedCall<Arguments...>::text() const {
@@ -91,27 +102,26 @@ template <class... Arguments>
 template <class Work, class AppendResult>
 void TracedCall<Arguments...>::run(bool hasResult, const Work& work,
                                    const AppendResult& appendResult) const {
-    Application* const application =
-        isOnWrongThread(m_operation) ? nullptr : Application::current();
-    if (!application) {
+    Host* const host = isOnWrongThread(m_operation) ? nullptr : Host::current();
+    if (!host) {
         return;
     }
-    const bool proceeds = mayProceed(application->trace(), m_operation.name, hasResult);
-    const bool isTraced = application->trace().isOn();
+    const bool proceeds = mayProceed(host->session().trace(), m_operation.name, hasResult);
+    const bool isTraced = host->session().trace().isOn();
     std::string call;
     guarded([&] {
         if (isTraced) {
             call = text(); // before the work, which may free what the arguments point to
         }
         if (proceeds) {
-            work(*application);
+            work(*host);
         }
     });
     guarded([&] {
         if (isTraced) {
             std::string result;
             appendResult(result);
-            record(*application, std::move(call), std::move(result));
+            record(host->session(), std::move(call), std::move(result));
         }
     });
 }
@@ -121,7 +131,7 @@ template <class Result, class Work>
 Result TracedCall<Arguments...>::answer(Result failure, const Work& work) const {
     Result result = failure;
     run(
-        true, [&](Application& application) { result = work(application); },
+        true, [&](Host& host) { result = callWith(host, work); },
         [&](std::string& text) { appendValue(text, result); });
     return result;
 }
@@ -129,7 +139,8 @@ Result TracedCall<Arguments...>::answer(Result failure, const Work& work) const 
 template <class... Arguments>
 template <class Work>
 void TracedCall<Arguments...>::perform(const Work& work) const {
-    run(false, work, [](std::string&) {});
+    run(
+        false, [&](Host& host) { callWith(host, work); }, [](std::string&) {});
 }
 
 template <class... Arguments>

@@ -11,8 +11,8 @@ using namespace corvane::host;
 namespace {
 
 /// Null when the frame in question is not a 3D frame.
-const View3D* currentView(Application& app) {
-    const Frame* const frame = app.page().current();
+const View3D* currentView(Session& session) {
+    const Frame* const frame = session.page().current();
     return frame && frame->plotType == PlotType_Cartesian3D ? &frame->view : nullptr;
 }
 
@@ -27,8 +27,8 @@ bool isKnown(RotateAxis_e axis) {
 } // namespace
 
 void CorUtilThreeDViewGetViewerPos(double* x, double* y, double* z) {
-    TracedCall("CorUtilThreeDViewGetViewerPos", x, y, z).perform([&](Application& app) {
-        if (const View3D* const view = currentView(app)) {
+    TracedCall("CorUtilThreeDViewGetViewerPos", x, y, z).perform([&](Session& session) {
+        if (const View3D* const view = currentView(session)) {
             write(x, view->position.x);
             write(y, view->position.y);
             write(z, view->position.z);
@@ -38,8 +38,8 @@ void CorUtilThreeDViewGetViewerPos(double* x, double* y, double* z) {
 
 void CorUtilThreeDViewGetViewerAngle(double* psi, double* theta, double* alpha) {
     const TracedCall call("CorUtilThreeDViewGetViewerAngle", psi, theta, alpha);
-    call.perform([&](Application& app) {
-        if (const View3D* const view = currentView(app)) {
+    call.perform([&](Session& session) {
+        if (const View3D* const view = currentView(session)) {
             write(psi, radians(view->psi));
             write(theta, radians(view->theta));
             write(alpha, radians(view->alpha));
@@ -51,8 +51,8 @@ void CorUtilThreeDViewGetProjection(double* fieldOfView, double* viewWidth,
                                     CorBool* isInPerspective) {
     const TracedCall call("CorUtilThreeDViewGetProjection", fieldOfView, viewWidth,
                           isInPerspective);
-    call.perform([&](Application& app) {
-        if (const View3D* const view = currentView(app)) {
+    call.perform([&](Session& session) {
+        if (const View3D* const view = currentView(session)) {
             write(fieldOfView, view->fieldOfView);
             write(viewWidth, view->width);
             write(isInPerspective, view->perspective ? TRUE : FALSE);
@@ -63,7 +63,7 @@ void CorUtilThreeDViewGetProjection(double* fieldOfView, double* viewWidth,
 CorBool CorUtilViewRotate3D(RotateAxis_e axis, double degrees, double vx, double vy, double vz,
                             RotateOrigin_e origin) {
     const TracedCall call("CorUtilViewRotate3D", axis, degrees, vx, vy, vz, origin);
-    return call.answer(false, [&](Application& app) {
-        return isKnown(axis) ? app.rotateView(axis, degrees) : call.misuse("unknown axis");
+    return call.answer(false, [&](Session& session) {
+        return isKnown(axis) ? session.rotateView(axis, degrees) : call.misuse("unknown axis");
     });
 }

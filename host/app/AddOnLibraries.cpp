@@ -2,7 +2,7 @@
 #include "host/app/AddOnLibraries.h"
 
 #include "host/app/Options.h"
-#include "host/core/Application.h"
+#include "host/core/session/AddOnLoader.h"
 
 #include <algorithm>
 #include <exception>
@@ -28,17 +28,17 @@ bool isOwn(const std::string& library) {
 
 } // namespace
 
-void loadAddOns(host::Application& application, const Options& options,
+void loadAddOns(host::Session& session, const Options& options,
                 const std::function<void(const std::string&)>& tell) {
     if (std::none_of(options.addOns.begin(), options.addOns.end(), isOwn)) {
         try {
-            host::loadAddOn(application, ownLibrary());
+            host::loadAddOn(session, ownLibrary());
         } catch (const std::exception& error) {
             tell(error.what());
         }
     }
     for (const std::string& library : options.addOns) {
-        host::loadAddOn(application, library);
+        host::loadAddOn(session, library);
     }
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 namespace corvane::host {
-class Application;
+class Session;
 }
 
 namespace corvane::app {
@@ -15,7 +15,7 @@ struct Options;
 /// Loads Key Frame Animation, which comes with the program, and the libraries of the options beside
 /// it; one of the same file name takes its place. Throws HostError for a library that was asked
 /// for. The program works without the one that comes with it, so that failing is only told.
-void loadAddOns(host::Application& application, const Options& options,
+void loadAddOns(host::Session& session, const Options& options,
                 const std::function<void(const std::string&)>& tell);
 
 } // namespace corvane::app

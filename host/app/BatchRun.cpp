@@ -2,7 +2,7 @@
 #include "host/app/BatchRun.h"
 
 #include "host/app/AddOnLibraries.h"
-#include "host/app/BatchDialogs.h"
+#include "host/app/BatchPrompts.h"
 #include "host/app/Flight.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
@@ -10,9 +10,9 @@
 #include "host/app/TerminalStatus.h"
 #include "host/app/TimedRenderer.h"
 #include "host/app/TraceFile.h"
-#include "host/core/Application.h"
+#include "host/core/Host.h"
+#include "host/core/commands/SceneMacro.h"
 #include "host/core/macro/MacroFile.h"
-#include "host/core/macro/SceneMacro.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
@@ -36,8 +36,8 @@ public:
           m_reader(memoryForData(options)),
           m_status(options.quiet ? m_silence : std::cerr,
                    !options.quiet && isatty(STDERR_FILENO) != 0, isStopSignalled),
-          m_dialogs(options.quiet),
-          m_application({m_renderer, m_reader, m_movies, m_status, m_dialogs, m_pictures}) {}
+          m_prompts(options.quiet),
+          m_host({m_renderer, m_reader, m_movies, m_status, m_prompts, m_pictures}) {}
 
     ExitCode run();
 
@@ -60,9 +60,9 @@ private:
     movie::PngFiles m_pictures;
     std::ostream m_silence{nullptr};
     TerminalStatus m_status;
-    BatchDialogs m_dialogs;
+    BatchPrompts m_prompts;
     std::unique_ptr<TraceFile> m_trace;
-    host::Application m_application;
+    host::Host m_host;
 };
 
 ExitCode BatchRun::run() {
@@ -70,9 +70,9 @@ ExitCode BatchRun::run() {
     try {
         work();
     } catch (const std::exception& error) {
-        code = failed(error.what());
+        code = failed(host::messageOf(error));
     }
-    m_application.quit();
+    m_host.session().quit();
     return code;
 }
 
@@ -80,19 +80,19 @@ void BatchRun::work() {
     traceCalls();
     setUpPage();
     m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
-    loadAddOns(m_application, m_options, say);
+    loadAddOns(m_host.session(), m_options, say);
     startRecording();
     openData();
-    m_application.macros().isStopRequested = isStopSignalled;
+    m_host.macros().stopWhen(isStopSignalled);
     for (const auto& [name, value] : m_options.variables) {
-        m_application.macros().variables().set(name, value);
+        m_host.macros().variables().set(name, value);
     }
     if (!m_options.macro.empty()) {
-        m_application.macros().playFile(m_options.macro);
+        m_host.macros().playFile(m_options.macro);
     }
     if (!m_options.keyFrames.empty()) {
         const auto start = std::chrono::steady_clock::now();
-        fly(m_application, m_options);
+        fly(m_host, m_options);
         sayWhatWasMade(
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
     }
@@ -101,35 +101,35 @@ void BatchRun::work() {
 
 void BatchRun::openData() {
     if (!m_options.data.empty()) {
-        m_application.perform("READDATA", m_options.data);
+        m_host.perform("READDATA", m_options.data);
     }
 }
 
 void BatchRun::startRecording() {
     if (!m_options.record.empty()) {
         host::expectWritable(m_options.record);
-        host::startRecording(m_application);
+        host::startRecording(m_host.session(), m_host.recorder());
     }
 }
 
 void BatchRun::writeRecorded() {
     if (!m_options.record.empty()) {
-        host::writeMacro(m_application.recorder().stop(), m_options.record);
+        host::writeMacro(m_host.recorder().stop(), m_options.record);
     }
 }
 
 void BatchRun::traceCalls() {
     if (!m_options.trace.empty()) {
         m_trace = std::make_unique<TraceFile>(m_options.trace);
-        m_trace->attachTo(m_application.trace());
+        m_trace->attachTo(m_host.session().trace());
     }
 }
 
 void BatchRun::setUpPage() {
-    m_application.page().workArea = {m_options.width, m_options.height,
-                                     m_options.width / host::paperWidthInches};
+    m_host.session().page().workArea = {m_options.width, m_options.height,
+                                        m_options.width / host::paperWidthInches};
     if (m_options.isSizeGiven) {
-        m_application.macros().keepPictureSize();
+        m_host.macros().keepPictureSize();
     }
 }
 
@@ -140,7 +140,7 @@ void BatchRun::tell(const std::string& note) const {
 }
 
 void BatchRun::sayWhatWasMade(double seconds) {
-    const unsigned long frames = m_application.exporter().frames();
+    const unsigned long frames = m_host.session().exporter().frames();
     char figures[128];
     std::snprintf(figures, sizeof figures,
                   ": %lu frames in %.1f s, %.1f frames a second, %.0f %% of it drawing", frames,
@@ -165,7 +165,7 @@ ExitCode runBatch(const Options& options) {
     try {
         return BatchRun(options).run();
     } catch (const std::exception& error) {
-        say(error.what());
+        say(host::messageOf(error));
         return ExitFailed;
     }
 }

@@ -2,8 +2,8 @@
 #include "host/app/Flight.h"
 
 #include "host/app/MovieFormats.h"
-#include "host/core/Application.h"
-#include "host/core/HostError.h"
+#include "host/core/Host.h"
+#include "host/core/base/HostError.h"
 #include "host/core/macro/MacroWords.h"
 
 #include <filesystem>
@@ -12,17 +12,17 @@ namespace corvane::app {
 namespace {
 
 // A flight from the command line is no other thing than one from a macro.
-void runAddOnCommand(host::Application& application, const std::string& command) {
-    application.macros().run("EXTCOMMAND", {"Key Frame Animation", command});
+void runAddOnCommand(host::Host& host, const std::string& command) {
+    host.macros().run("EXTCOMMAND", {"Key Frame Animation", command});
 }
 
-void setUp(host::Application& application, const std::string& name, const std::string& value) {
-    application.macros().run("EXPORTSETUP", {name, "=", value});
+void setUp(host::Host& host, const std::string& name, const std::string& value) {
+    host.macros().run("EXPORTSETUP", {name, "=", value});
 }
 
 /// The add-on records the name as it is told, and the record is to hold in every folder.
-std::string recordableName(host::Application& application, const std::string& fileName) {
-    return application.recorder().isRecording() ? host::absoluteName(fileName) : fileName;
+std::string recordableName(host::Host& host, const std::string& fileName) {
+    return host.recorder().isRecording() ? host::absoluteName(fileName) : fileName;
 }
 
 /// Reading them could wait for ever; what is missing, the add-on tells.
@@ -34,8 +34,8 @@ void refusePipesAndDevices(const std::string& fileName) {
     }
 }
 
-void openKeyFrames(host::Application& application, const std::string& givenName) {
-    const std::string fileName = recordableName(application, givenName);
+void openKeyFrames(host::Host& host, const std::string& givenName) {
+    const std::string fileName = recordableName(host, givenName);
     refusePipesAndDevices(fileName);
     // The command's syntax has no escape for quotes.
     if (fileName.find('"') != std::string::npos) {
@@ -44,36 +44,36 @@ void openKeyFrames(host::Application& application, const std::string& givenName)
                               "that opens it cannot carry; rename or move the file.");
     }
     try {
-        runAddOnCommand(application, "OpenSettingsFile FileName=\"" + fileName + "\"");
+        runAddOnCommand(host, "OpenSettingsFile FileName=\"" + fileName + "\"");
     } catch (const host::HostError& error) {
         // The add-on's texts tell what is wrong, but not with which file.
         throw host::HostError("Cannot open the key frame file " + fileName + ": " + error.what());
     }
 }
 
-void setUpMovie(host::Application& application, const Options& options, double speed) {
-    setUp(application, "ExportFormat", movieFormatFor(options.output)->keyword);
-    setUp(application, "ExportRegion", "CURRENTFRAME");
-    setUp(application, "ImageWidth", std::to_string(application.page().workArea.width));
-    setUp(application, "AnimationSpeed", host::exactText(options.framesPerSecond.value_or(speed)));
+void setUpMovie(host::Host& host, const Options& options, double speed) {
+    setUp(host, "ExportFormat", movieFormatFor(options.output)->keyword);
+    setUp(host, "ExportRegion", "CURRENTFRAME");
+    setUp(host, "ImageWidth", std::to_string(host.session().page().workArea.width));
+    setUp(host, "AnimationSpeed", host::exactText(options.framesPerSecond.value_or(speed)));
     if (options.supersample) {
         const bool isOn = *options.supersample > 1;
-        setUp(application, "UseSuperSampleAntiAliasing", isOn ? "true" : "false");
+        setUp(host, "UseSuperSampleAntiAliasing", isOn ? "true" : "false");
         if (isOn) {
-            setUp(application, "SuperSampleFactor", std::to_string(*options.supersample));
+            setUp(host, "SuperSampleFactor", std::to_string(*options.supersample));
         }
     }
-    setUp(application, "ExportFName", options.output);
+    setUp(host, "ExportFName", options.output);
 }
 
 } // namespace
 
-void fly(host::Application& application, const Options& options) {
+void fly(host::Host& host, const Options& options) {
     // Opening a key frame file for the first time makes the add-on set its own speed.
-    const double speed = application.exportSetup().animationSpeed;
-    openKeyFrames(application, options.keyFrames);
-    setUpMovie(application, options, speed);
-    runAddOnCommand(application, "Animate AnimationDestination=ToFile");
+    const double speed = host.session().exportSetup().animationSpeed;
+    openKeyFrames(host, options.keyFrames);
+    setUpMovie(host, options, speed);
+    runAddOnCommand(host, "Animate AnimationDestination=ToFile");
 }
 
 } // namespace corvane::app

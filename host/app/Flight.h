@@ -4,12 +4,12 @@
 #include "host/app/Options.h"
 
 namespace corvane::host {
-class Application;
+class Host;
 }
 
 namespace corvane::app {
 
 /// Opens options.keyFrames and writes options.output. Throws MacroError or HostError.
-void fly(host::Application& application, const Options& options);
+void fly(host::Host& host, const Options& options);
 
 } // namespace corvane::app

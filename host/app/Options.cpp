@@ -2,7 +2,7 @@
 #include "host/app/Options.h"
 
 #include "host/app/MovieFormats.h"
-#include "host/core/macro/MacroReference.h"
+#include "host/core/commands/MacroReference.h"
 
 #include <CLI/CLI.hpp>
 

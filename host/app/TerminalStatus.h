@@ -1,7 +1,7 @@
 // Progress on a terminal, or as sparse lines in a log.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <chrono>
 #include <functional>

@@ -1,7 +1,7 @@
 // Measures how long drawing takes, for the summary of a flight.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <chrono>
 

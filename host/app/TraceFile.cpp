@@ -1,8 +1,8 @@
 // Writes what an add-on calls of its host into a file, a line a call.
 #include "host/app/TraceFile.h"
 
-#include "host/core/HostError.h"
 #include "host/core/addons/CallTrace.h"
+#include "host/core/base/HostError.h"
 
 namespace corvane::app {
 

@@ -7,9 +7,9 @@
 #include "host/app/Signals.h"
 #include "host/app/TraceFile.h"
 #include "host/core/macro/MacroFile.h"
-#include "host/gui/QtText.h"
-#include "host/gui/window/Desktop.h"
-#include "host/gui/window/Icons.h"
+#include "host/gui/base/Icons.h"
+#include "host/gui/base/QtText.h"
+#include "host/gui/desktop/WindowedHost.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
@@ -93,11 +93,11 @@ public:
         : m_options(options),
           m_renderer(nullptr, memoryForPlots(options)),
           m_reader(memoryForData(options)),
-          m_desktop({.renderer = m_renderer,
-                     .reader = m_reader,
-                     .movies = m_movies,
-                     .pictures = m_pictures,
-                     .helpFolder = helpFolder()}) {}
+          m_windowedHost({.renderer = m_renderer,
+                          .reader = m_reader,
+                          .movies = m_movies,
+                          .pictures = m_pictures,
+                          .helpFolder = helpFolder()}) {}
 
     void start();
     /// To be called when the event loop has ended.
@@ -114,42 +114,43 @@ private:
     movie::LibavMovieWriters m_movies;
     movie::PngFiles m_pictures;
     std::unique_ptr<TraceFile> m_trace;
-    gui::Desktop m_desktop;
+    gui::WindowedHost m_windowedHost;
     std::unique_ptr<QSocketNotifier> m_stopSignal;
 };
 
 void WindowRun::start() {
     m_renderer.onWarning = [this](const std::string& warning) {
         say(warning);
-        m_desktop.tell(warning);
+        m_windowedHost.tell(warning);
     };
     watchSignals();
     traceCalls();
-    loadAddOns(m_desktop.application(), m_options, say);
+    loadAddOns(m_windowedHost.host().session(), m_options, say);
     if (!m_options.record.empty()) {
         host::expectWritable(m_options.record);
     }
     if (m_options.isSizeGiven) {
-        m_desktop.application().macros().keepPictureSize();
+        m_windowedHost.host().macros().keepPictureSize();
     }
-    m_desktop.window().show();
+    m_windowedHost.window().show();
     if (m_options.isSizeGiven) {
-        m_desktop.window().resizePicture({m_options.width, m_options.height});
+        m_windowedHost.window().resizePicture({m_options.width, m_options.height});
     }
     // Once the event loop runs, so that messages have somebody to read them.
     QMetaObject::invokeMethod(
-        &m_desktop.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
+        &m_windowedHost.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
 }
 
 /// A signal ends the run without questions, since nobody may be there to answer.
 void WindowRun::watchSignals() {
     m_stopSignal = std::make_unique<QSocketNotifier>(stopSignalDescriptor(), QSocketNotifier::Read);
-    QObject::connect(m_stopSignal.get(), &QSocketNotifier::activated, &m_desktop.window(), [this] {
-        m_stopSignal->setEnabled(false);
-        m_desktop.stopWork();
-        QApplication::exit();
-    });
-    m_desktop.application().macros().isStopRequested = isStopSignalled;
+    QObject::connect(m_stopSignal.get(), &QSocketNotifier::activated, &m_windowedHost.window(),
+                     [this] {
+                         m_stopSignal->setEnabled(false);
+                         m_windowedHost.stopWork();
+                         QApplication::exit();
+                     });
+    m_windowedHost.host().macros().stopWhen(isStopSignalled);
     watchStopSignals();
 }
 
@@ -157,9 +158,9 @@ ExitCode WindowRun::end() {
     if (!isStopSignalled()) {
         return ExitDone;
     }
-    const QString recording = m_desktop.workbench().macros().file();
+    const QString recording = m_windowedHost.controller().macros().file();
     if (!recording.isEmpty()) {
-        host::writeMacro(m_desktop.application().recorder().lines(), gui::fromQt(recording));
+        host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording));
     }
     return ExitStopped;
 }
@@ -167,25 +168,25 @@ ExitCode WindowRun::end() {
 void WindowRun::traceCalls() {
     if (!m_options.trace.empty()) {
         m_trace = std::make_unique<TraceFile>(m_options.trace);
-        m_trace->attachTo(m_desktop.application().trace());
+        m_trace->attachTo(m_windowedHost.host().session().trace());
     }
 }
 
 void WindowRun::openWhatWasAsked() {
-    gui::Workbench& workbench = m_desktop.workbench();
+    gui::WindowController& controller = m_windowedHost.controller();
     if (!m_options.record.empty()) {
-        workbench.macros().recordTo(gui::toQt(m_options.record));
+        controller.macros().recordTo(gui::toQt(m_options.record));
     }
     for (const auto& [name, value] : m_options.variables) {
-        m_desktop.application().macros().variables().set(name, value);
+        m_windowedHost.host().macros().variables().set(name, value);
     }
     QStringList files;
     for (const std::string& file : m_options.data) {
         files.append(gui::toQt(file));
     }
-    const bool isOpen = files.isEmpty() || workbench.files().openData(files);
+    const bool isOpen = files.isEmpty() || controller.files().openData(files);
     if (isOpen && !m_options.macro.empty()) {
-        workbench.macros().play(gui::toQt(m_options.macro));
+        controller.macros().play(gui::toQt(m_options.macro));
     }
 }
 
@@ -209,7 +210,7 @@ ExitCode runWindow(const Options& options) {
         QApplication::exec();
         return run.end();
     } catch (const std::exception& error) {
-        say(error.what());
+        say(host::messageOf(error));
         return ExitFailed;
     }
 }

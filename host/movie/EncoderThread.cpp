@@ -1,7 +1,7 @@
 // The queue between drawing and encoding.
 #include "host/movie/EncoderThread.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 // Writes pictures on a thread of its own, so that the next one can be drawn meanwhile.
 #pragma once
 
-#include "host/core/Ports.h"
-#include "host/movie/PictureSink.h"
+#include "host/core/ports/Ports.h"
+#include "host/movie/libav/PictureSink.h"
 
 #include <condition_variable>
 #include <cstddef>

@@ -1,16 +1,16 @@
 // Chooses how a movie is written.
 #include "host/movie/LibavMovieWriters.h"
 
-#include "host/movie/AviFormat.h"
 #include "host/movie/EncoderThread.h"
-#include "host/movie/FlvFormat.h"
-#include "host/movie/FrameRate.h"
-#include "host/movie/LibavCheck.h"
-#include "host/movie/LibavLog.h"
-#include "host/movie/Mpeg4Format.h"
-#include "host/movie/RasterMetafileFormat.h"
-#include "host/movie/SwfFormat.h"
-#include "host/movie/WmvFormat.h"
+#include "host/movie/formats/AviFormat.h"
+#include "host/movie/formats/FlvFormat.h"
+#include "host/movie/formats/Mpeg4Format.h"
+#include "host/movie/formats/RasterMetafileFormat.h"
+#include "host/movie/formats/SwfFormat.h"
+#include "host/movie/formats/WmvFormat.h"
+#include "host/movie/libav/FrameRate.h"
+#include "host/movie/libav/LibavCheck.h"
+#include "host/movie/libav/LibavLog.h"
 
 #include <iostream>
 #include <utility>

@@ -1,7 +1,7 @@
 // Opens movie files for writing.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 // Picture files in the PNG format.
 #include "host/movie/PngFiles.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 
 #include <png.h>
 

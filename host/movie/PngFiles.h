@@ -1,7 +1,7 @@
 // Picture files in the PNG format.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 namespace corvane::movie {
 

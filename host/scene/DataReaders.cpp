@@ -1,12 +1,12 @@
 // Reads simulation results from files.
 #include "host/scene/DataReaders.h"
 
-#include "host/core/HostError.h"
-#include "host/scene/MeshParts.h"
-#include "host/scene/MeshSeries.h"
-#include "host/scene/SceneDataSet.h"
-#include "host/scene/SceneStatistics.h"
-#include "host/scene/VariableRanges.h"
+#include "host/core/base/HostError.h"
+#include "host/scene/data/MeshSeries.h"
+#include "host/scene/data/SceneDataSet.h"
+#include "host/scene/data/SceneStatistics.h"
+#include "host/scene/data/VariableRanges.h"
+#include "host/scene/mesh/MeshParts.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // Reads simulation results from files.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 #include "host/scene/MemoryBudget.h"
 
 #include <cstddef>

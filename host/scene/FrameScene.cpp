@@ -1,11 +1,11 @@
 // What VTK needs to draw one frame, kept from picture to picture.
 #include "host/scene/FrameScene.h"
 
-#include "host/core/HostError.h"
-#include "host/scene/Backdrop.h"
-#include "host/scene/CameraSetup.h"
-#include "host/scene/Material.h"
-#include "host/scene/TimeText.h"
+#include "host/core/base/HostError.h"
+#include "host/scene/annotations/Background.h"
+#include "host/scene/annotations/TimeText.h"
+#include "host/scene/layout/CameraSetup.h"
+#include "host/scene/style/Material.h"
 
 #include <algorithm>
 #include <array>
@@ -139,16 +139,16 @@ void FrameScene::showPlot(const PlotRequest& request, const host::LightStyle& li
     const Recipe& recipe = request.recipe;
     auto& plot = m_plots[{recipe.kind, request.number, recipe.mesh.block}];
     if (plot == nullptr) {
-        plot = std::make_unique<Plot>();
+        plot = std::make_unique<PlotActor>();
         m_renderer->AddActor(plot->actor());
     }
     plot->setGeometry(m_geometry->plot(request, *m_data));
-    if (plot->isEmpty() || request.look.opacity <= 0.0)
+    if (plot->isEmpty() || request.appearance.opacity <= 0.0)
         return;
-    plot->setLook(request.look, m_colors, light);
+    plot->setAppearance(request.appearance, m_colors, light);
     plot->actor()->SetVisibility(1);
-    m_isTranslucent = m_isTranslucent || request.look.opacity < 1.0;
-    m_isContourShown = m_isContourShown || request.look.useContour;
+    m_isTranslucent = m_isTranslucent || request.appearance.opacity < 1.0;
+    m_isContourShown = m_isContourShown || request.appearance.useContour;
 }
 
 void FrameScene::showStreams(const StreamRequest& request, const host::FrameStyle& style,
@@ -177,16 +177,16 @@ void FrameScene::updateAnnotations(const Frame& frame, const FrameArea& area) {
     updateLegend(frame, area);
 
     const double top = area.offsetY() + area.full.height - pixels(textMarginPart, area);
-    TextLook look{pixels(titleSizePart, area), textColor};
-    look.vertical = TextLook::Align::High;
-    look.horizontal = TextLook::Align::Middle;
-    m_title.show(style.title, area.offsetX() + 0.5 * area.full.width, top, look);
+    TextAppearance appearance{pixels(titleSizePart, area), textColor};
+    appearance.vertical = TextAppearance::Align::High;
+    appearance.horizontal = TextAppearance::Align::Middle;
+    m_title.show(style.title, area.offsetX() + 0.5 * area.full.width, top, appearance);
 
-    look.size = pixels(timeSizePart, area);
-    look.horizontal = TextLook::Align::Low;
+    appearance.size = pixels(timeSizePart, area);
+    appearance.horizontal = TextAppearance::Align::Low;
     const bool showTime = style.showTime && m_data != nullptr;
     m_time.show(showTime ? timeText(frame.solutionTime, *m_data) : std::string(),
-                area.offsetX() + pixels(textMarginPart, area), top, look);
+                area.offsetX() + pixels(textMarginPart, area), top, appearance);
 }
 
 void FrameScene::updateLegend(const Frame& frame, const FrameArea& area) {

@@ -2,18 +2,18 @@
 #pragma once
 
 #include "host/core/page/Frame.h"
-#include "host/scene/ColorBar.h"
-#include "host/scene/ContourColors.h"
-#include "host/scene/FrameRenderer.h"
-#include "host/scene/OrientationAxis.h"
-#include "host/scene/Outline.h"
-#include "host/scene/PixelRect.h"
-#include "host/scene/Plot.h"
-#include "host/scene/PreparedGeometry.h"
-#include "host/scene/SceneDataSet.h"
-#include "host/scene/StreamPlot.h"
-#include "host/scene/TextItem.h"
-#include "host/scene/TimeTravel.h"
+#include "host/scene/ahead/Prefetcher.h"
+#include "host/scene/ahead/PreparedGeometry.h"
+#include "host/scene/annotations/ColorBar.h"
+#include "host/scene/annotations/FrameRenderer.h"
+#include "host/scene/annotations/OrientationAxis.h"
+#include "host/scene/annotations/Outline.h"
+#include "host/scene/annotations/TextItem.h"
+#include "host/scene/data/SceneDataSet.h"
+#include "host/scene/layout/PixelRect.h"
+#include "host/scene/plots/PlotActor.h"
+#include "host/scene/plots/StreamPlot.h"
+#include "host/scene/style/ContourColors.h"
 
 #include <vtkLight.h>
 #include <vtkNew.h>
@@ -72,8 +72,8 @@ private:
     TextItem m_time;
 
     std::shared_ptr<const SceneDataSet> m_data; ///< whose plots are kept
-    TimeTravel m_travel;
-    std::map<PlotKey, std::unique_ptr<Plot>> m_plots;
+    Prefetcher m_travel;
+    std::map<PlotKey, std::unique_ptr<PlotActor>> m_plots;
     StreamPlot m_streams;
     std::string m_warning;
     bool m_lacksTraces = false;

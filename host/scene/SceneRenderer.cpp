@@ -1,16 +1,16 @@
 // Draws pages with VTK, without any display server.
 #include "host/scene/SceneRenderer.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
-#include "host/scene/Downsample.h"
-#include "host/scene/EglContext.h"
-#include "host/scene/EglRenderWindow.h"
 #include "host/scene/FrameScene.h"
-#include "host/scene/PageLayout.h"
-#include "host/scene/PreparedGeometry.h"
-#include "host/scene/SceneStatistics.h"
-#include "host/scene/VtkMessages.h"
+#include "host/scene/ahead/PreparedGeometry.h"
+#include "host/scene/data/SceneStatistics.h"
+#include "host/scene/layout/Downsample.h"
+#include "host/scene/layout/PageLayout.h"
+#include "host/scene/vtk/EglContext.h"
+#include "host/scene/vtk/EglRenderWindow.h"
+#include "host/scene/vtk/VtkMessages.h"
 
 #include <vtkNew.h>
 #include <vtkRendererCollection.h>

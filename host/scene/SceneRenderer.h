@@ -1,7 +1,7 @@
 // Draws pages with VTK, without any display server.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 #include "host/scene/MemoryBudget.h"
 
 #include <functional>

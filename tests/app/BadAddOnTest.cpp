@@ -3,7 +3,7 @@
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/host/movie/DecodedMovie.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

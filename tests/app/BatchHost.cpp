@@ -1,6 +1,7 @@
 // The host without a window, in this process, with the sample data and the add-on loaded.
 #include "tests/app/BatchHost.h"
 
+#include "host/core/session/AddOnLoader.h"
 #include "tests/app/WakeFlight.h"
 
 namespace corvane::test {
@@ -9,24 +10,24 @@ BatchHost::BatchHost(int pictureWidth, int pictureHeight)
     : width(pictureWidth),
       height(pictureHeight),
       status(log, false, [this] { return movies.wantsStop(); }),
-      application({renderer, reader, movies, status, dialogs, pictures}) {
-    application.page().workArea = {width, height, width / 8.0};
-    host::loadAddOn(application, CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
-    application.openData({exampleFile("wake/wake.pvd")});
+      program({renderer, reader, movies, status, prompts, pictures}) {
+    program.session().page().workArea = {width, height, width / 8.0};
+    host::loadAddOn(program.session(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
+    program.session().openData({exampleFile("wake/wake.pvd")});
 }
 
 void BatchHost::play(const std::string& macro) {
     std::istringstream lines(macro);
-    application.macros().play(lines, "test", exampleFile("wake"));
+    program.macros().play(lines, "test", exampleFile("wake"));
 }
 
 host::Picture BatchHost::picture() {
-    return application.drawing().picture({ExportRegion_CurrentFrame, width, height, 1});
+    return program.session().drawing().picture({ExportRegion_CurrentFrame, width, height, 1});
 }
 
 host::Picture BatchHost::pictureFrom(const host::Vec3& position, double psi, double theta,
                                      double alpha) {
-    host::View3D& view = application.page().active()->view;
+    host::View3D& view = program.session().page().active()->view;
     view.position = position;
     view.psi = psi;
     view.theta = theta;

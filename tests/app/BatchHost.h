@@ -1,14 +1,14 @@
 // The host without a window, in this process, with the sample data and the add-on loaded.
 #pragma once
 
-#include "host/app/BatchDialogs.h"
+#include "host/app/BatchPrompts.h"
 #include "host/app/TerminalStatus.h"
-#include "host/core/Application.h"
+#include "host/core/Host.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
-#include "host/scene/SceneStatistics.h"
+#include "host/scene/data/SceneStatistics.h"
 #include "tests/app/WatchedMovies.h"
 
 #include <memory>
@@ -38,8 +38,8 @@ struct BatchHost {
     WatchedMovies movies{libav};
     movie::PngFiles pictures;
     app::TerminalStatus status;
-    app::BatchDialogs dialogs;
-    host::Application application;
+    app::BatchPrompts prompts;
+    host::Host program;
 };
 
 } // namespace corvane::test

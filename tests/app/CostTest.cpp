@@ -23,7 +23,7 @@ protected:
         options.output = folder.file("flight.mp4");
         options.width = host.width;
         options.height = host.height;
-        app::fly(host.application, options);
+        app::fly(host.program, options);
     }
 
     TempFolder folder;
@@ -48,7 +48,7 @@ TEST_F(Cost, eachStepIsReadContouredAndIntegratedOnce) {
               "$!STYLE Streamtraces/Variable = U\n$!STYLE Streamtraces/Show = true\n"
               "$!STYLE StreamAttributes/StreamTiming/ShowMarkers = true\n");
     fly({.frames = 300, .timeOperation = "Forward", .streamtraces = true, .fadeIn = true});
-    EXPECT_EQ(host.application.drawing().renders(), 300U);
+    EXPECT_EQ(host.program.session().drawing().renders(), 300U);
     EXPECT_EQ(host.statistics->renders, 300);
     // The scene's macro read the data again, so the body and three steps count twice.
     EXPECT_EQ(host.statistics->fileReads, stepCount + 1 + 4);

@@ -4,7 +4,7 @@
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/host/movie/DecodedMovie.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -97,12 +97,12 @@ TEST(Flight, drawsEachFrameOnceAndNothingElse) {
     options.height = height;
     writeFile(options.keyFrames, shortFlight());
 
-    ASSERT_EQ(host.application.drawing().renders(), 0U);
-    app::fly(host.application, options);
-    EXPECT_EQ(host.application.drawing().renders(), shortFlightFrames);
-    EXPECT_EQ(host.application.exporter().frames(), shortFlightFrames);
-    EXPECT_EQ(host.application.locks().depth(), 0);
-    EXPECT_EQ(host.application.drawing().suspensions(), 0);
+    ASSERT_EQ(host.program.session().drawing().renders(), 0U);
+    app::fly(host.program, options);
+    EXPECT_EQ(host.program.session().drawing().renders(), shortFlightFrames);
+    EXPECT_EQ(host.program.session().exporter().frames(), shortFlightFrames);
+    EXPECT_EQ(host.program.session().locks().depth(), 0);
+    EXPECT_EQ(host.program.session().drawing().suspensions(), 0);
 }
 
 TEST(Flight, isMadeAgainByTheMacroRecordedOfIt) {
@@ -114,8 +114,7 @@ TEST(Flight, isMadeAgainByTheMacroRecordedOfIt) {
     const auto pictures = DecodedMovie(movie).pictures();
     fs::remove(movie);
 
-    const ProgramResult result =
-        runProgram({"--batch", "--macro", folder.file("flight.mcr")});
+    const ProgramResult result = runProgram({"--batch", "--macro", folder.file("flight.mcr")});
     ASSERT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_TRUE(DecodedMovie(movie).pictures() == pictures);
 }

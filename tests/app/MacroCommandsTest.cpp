@@ -32,7 +32,7 @@ const std::string noFlight =
 class MacroCommands : public testing::Test {
 protected:
     MacroCommands() {
-        host.application.trace().onCall = [this](const host::TraceRecord& record) {
+        host.program.session().trace().onCall = [this](const host::TraceRecord& record) {
             calls.push_back(record.call);
         };
     }
@@ -66,18 +66,18 @@ protected:
 
     /// Pictures of the movie that the add-on makes of its key frames.
     unsigned long framesOfFlight() {
-        host.application.exportSetup().fileName = folder.file("flight.avi");
-        host.application.exportSetup().imageWidth = host.width;
+        host.program.session().exportSetup().fileName = folder.file("flight.avi");
+        host.program.session().exportSetup().imageWidth = host.width;
         EXPECT_EQ(told("Animate AnimationDestination=ToFile"), "");
-        return host.application.exporter().frames();
+        return host.program.session().exporter().frames();
     }
 
     std::vector<std::string> recordOf(const std::vector<std::string>& lines) {
-        host.application.recorder().start();
+        host.program.recorder().start();
         for (const std::string& line : lines) {
             host.play(line);
         }
-        return host.application.recorder().stop();
+        return host.program.recorder().stop();
     }
 
     const TempFolder folder;
@@ -87,8 +87,8 @@ protected:
 
 TEST_F(MacroCommands, tellWhatIsWrongAndDoNothing) {
     ASSERT_EQ(told(openFlight()), "");
-    const host::View3D view = host.application.page().active()->view;
-    host.application.recorder().start();
+    const host::View3D view = host.program.session().page().active()->view;
+    host.program.recorder().start();
     calls.clear();
 
     expectRefused("", "Invalid macro command string.");
@@ -119,9 +119,9 @@ TEST_F(MacroCommands, tellWhatIsWrongAndDoNothing) {
     // The add-on handed over its messages and asked for nothing else.
     EXPECT_THAT(calls,
                 Each(AnyOf(StartsWith("CorUtilLockStart("), StartsWith("CorUtilLockFinish("))));
-    EXPECT_THAT(host.application.recorder().stop(), IsEmpty());
-    EXPECT_EQ(host.application.drawing().renders(), 0U);
-    EXPECT_EQ(host.application.page().active()->view, view);
+    EXPECT_THAT(host.program.recorder().stop(), IsEmpty());
+    EXPECT_EQ(host.program.session().drawing().renders(), 0U);
+    EXPECT_EQ(host.program.session().page().active()->view, view);
     EXPECT_EQ(host.log.str(), "");
     EXPECT_EQ(framesOfFlight(), 3U);
 }
@@ -177,12 +177,12 @@ TEST_F(MacroCommands, refuseNamesWithQuotesAndBlanks) {
 
 TEST_F(MacroCommands, leaveTheKeyFramesWhenAFileCannotBeOpened) {
     ASSERT_EQ(told(openFlight()), "");
-    host.application.recorder().start();
+    host.program.recorder().start();
     expectRefused("OpenSettingsFile FileName=" + folder.file("none.keyframe"),
                   "Unable to open file for reading.");
     expectRefused("OpenSettingsFile FileName=", "Unable to open file for reading.");
     expectRefused(openCommand("bad.keyframe", "no key frames\n"), "Invalid file header.");
-    EXPECT_THAT(host.application.recorder().stop(), IsEmpty());
+    EXPECT_THAT(host.program.recorder().stop(), IsEmpty());
     EXPECT_EQ(framesOfFlight(), 3U);
 }
 
@@ -198,7 +198,7 @@ TEST_F(MacroCommands, replaceTheKeyFramesAndKeepThem) {
 
 TEST_F(MacroCommands, recordAFlightThatIsReplayedWithItsDestination) {
     const std::string open = lineFor(openFlight());
-    host.application.exportSetup().fileName = folder.file("flight.avi");
+    host.program.session().exportSetup().fileName = folder.file("flight.avi");
     const std::string toFile = lineFor("Animate AnimationDestination=ToFile");
     const std::string onScreen = lineFor("Animate AnimationDestination=OnScreen");
     const std::vector<std::string> record =

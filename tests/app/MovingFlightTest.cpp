@@ -3,7 +3,7 @@
 #include "tests/app/BatchHost.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/host/movie/DecodedMovie.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -47,7 +47,7 @@ protected:
         options.output = folder.file("flight.mp4");
         options.width = host.width;
         options.height = host.height;
-        app::fly(host.application, options);
+        app::fly(host.program, options);
         return DecodedMovie(options.output).pictures();
     }
 
@@ -57,7 +57,7 @@ protected:
                   "$!STYLE ThreeDAxis/FrameAxis/Show = false\n");
     }
     host::Picture pictureAt(double time) {
-        host.application.setSolutionTime(time);
+        host.program.session().setSolutionTime(time);
         return host.picture();
     }
 
@@ -152,7 +152,7 @@ TEST_P(FlightWithTraces, advancesTheAnchorByAFifthOfTheDeltaBeforeEachFrame) {
     host.play("$!STYLE ThreeDAxis/FrameAxis/Show = false\n");
     const std::vector<host::Picture> movie = fly({.frames = 4, .streamtraces = true});
     takePlace();
-    host::StreamTimingStyle& timing = host.application.page().active()->style.streamTiming;
+    host::StreamTimingStyle& timing = host.program.session().page().active()->style.streamTiming;
     EXPECT_EQ(timing.timeAnchor, 0.25);
     std::vector<host::Picture> fifths;
     for (int fifth = 0; fifth < 5; ++fifth) {
@@ -173,7 +173,7 @@ class FadingFlight : public MovingFlight {
 protected:
     /// With the light at a part of what it is.
     host::Picture pictureAtLight(double part) {
-        host::LightStyle& light = host.application.page().active()->style.light;
+        host::LightStyle& light = host.program.session().page().active()->style.light;
         const host::LightStyle full = light;
         light = {full.intensity * part, full.backgroundLight * part};
         host::Picture picture = host.picture();
@@ -213,7 +213,7 @@ TEST_F(FadingFlight, hidesTheOrientationAxisAllTheWay) {
         return host.picture();
     }();
     const std::vector<host::Picture> movie = fly({.frames = 20, .fadeOut = true});
-    EXPECT_TRUE(host.application.page().active()->style.annotations.showAxis);
+    EXPECT_TRUE(host.program.session().page().active()->style.annotations.showAxis);
     takePlace();
     const host::Picture withoutAxis = host.picture();
     EXPECT_GT(psnr(movie[10], withoutAxis), psnr(movie[10], withAxis));

@@ -1,6 +1,6 @@
 // However a flight ends, the picture afterwards is the one from before.
 #include "host/app/Flight.h"
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 #include "tests/app/BatchHost.h"
 #include "tests/app/WakeFlight.h"
 #include "tests/support/TempFolder.h"
@@ -20,7 +20,7 @@ protected:
                   "$!STYLE StreamAttributes/StreamTiming/ShowMarkers = true\n"
                   "$!SOLUTIONTIME = 3\n");
         before = host.picture();
-        style = host.application.page().active()->style;
+        style = host.program.session().page().active()->style;
     }
 
     /// A flight with all that can move.
@@ -35,20 +35,20 @@ protected:
         options.output = folder.file("flight.mp4");
         options.width = host.width;
         options.height = host.height;
-        app::fly(host.application, options);
+        app::fly(host.program, options);
     }
 
     void expectRestored() {
-        const host::Frame& frame = *host.application.page().active();
+        const host::Frame& frame = *host.program.session().page().active();
         EXPECT_EQ(frame.style, style);
-        EXPECT_EQ(host.application.locks().depth(), 0);
-        EXPECT_EQ(host.application.drawing().suspensions(), 0);
-        EXPECT_FALSE(host.application.exporter().isRecording());
+        EXPECT_EQ(host.program.session().locks().depth(), 0);
+        EXPECT_EQ(host.program.session().drawing().suspensions(), 0);
+        EXPECT_FALSE(host.program.session().exporter().isRecording());
     }
     /// The flight leaves the camera at its end and the time where it was; see the add-on's chain.
     void expectSamePictureFrom(const host::View3D& view, double time) {
-        host.application.setView(view);
-        host.application.setSolutionTime(time);
+        host.program.session().setView(view);
+        host.program.session().setSolutionTime(time);
         EXPECT_EQ(host.picture(), before);
     }
 
@@ -59,14 +59,14 @@ protected:
 };
 
 TEST_F(RestoredState, afterANormalEnd) {
-    const host::View3D start = host.application.page().active()->view;
+    const host::View3D start = host.program.session().page().active()->view;
     fly();
     expectRestored();
     expectSamePictureFrom(start, 3.0);
 }
 
 TEST_F(RestoredState, afterTheUserStopped) {
-    const host::View3D start = host.application.page().active()->view;
+    const host::View3D start = host.program.session().page().active()->view;
     host.movies.stopAt = 7;
     EXPECT_THROW(fly(), host::HostError);
     expectRestored();
@@ -76,7 +76,7 @@ TEST_F(RestoredState, afterTheUserStopped) {
 }
 
 TEST_F(RestoredState, afterEveryPictureThatCouldNotBeWritten) {
-    const host::View3D start = host.application.page().active()->view;
+    const host::View3D start = host.program.session().page().active()->view;
     for (const long failing : {0L, 1L, 10L, 19L}) {
         host.movies.onPicture = [failing](long picture) {
             if (picture == failing) {

@@ -1,7 +1,7 @@
 // Movies on their way to the disk: looked at, or made to fail.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <functional>
 #include <memory>

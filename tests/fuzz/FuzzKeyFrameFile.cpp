@@ -1,6 +1,6 @@
 // Any bytes as a key frame file: they are refused with nothing changed, or what was read survives
 // being written and read again.
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/file/KeyFrameFile.h"
 #include "addon/model/ListModelKeyFrame.h"
 #include "tests/fuzz/Require.h"

@@ -1,6 +1,6 @@
 // Any bytes as a macro command: they are refused, or what was parsed survives being built and
 // parsed again.
-#include "addon/engine/KeyFrameError.h"
+#include "addon/base/KeyFrameError.h"
 #include "addon/macro/MacroCommandManager.h"
 #include "addon/macro/MacroKeywords.h"
 #include "tests/fuzz/Require.h"

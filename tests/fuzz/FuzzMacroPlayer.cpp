@@ -2,7 +2,7 @@
 // is left clean, and what was recorded of it leads to the same again.
 #include "host/core/macro/MacroText.h"
 #include "tests/fuzz/Require.h"
-#include "tests/unit/host_core/Fakes.h"
+#include "tests/unit/host/core/Fakes.h"
 
 #include <algorithm>
 #include <cctype>
@@ -114,31 +114,32 @@ void checkError(MacroError const& failure, Macros const& macros) {
 }
 
 // An add-on whose commands fail in all ways, or record themselves, as those of add-ons do.
-void addEcho(Application& app) {
-    app.addOnCommands().add("Echo", [&app](std::string const& command) {
-        std::string const error = app.callAddOn("Echo", [&] {
+void addEcho(Host& program) {
+    Session& session = program.session();
+    session.addOnCommands().add("Echo", [&program, &session](std::string const& command) {
+        std::string const error = session.callAddOn("Echo", [&] {
             if (command.starts_with("throw")) {
-                app.locks().start(nullptr);
-                app.drawing().suspend();
+                session.locks().start(nullptr);
+                session.drawing().suspend();
                 throw std::runtime_error(command);
             }
         });
         if (!error.empty() || command.starts_with("refuse"))
             return std::optional<std::string>("Echo error:\n" + command);
-        app.recorder().recordAddOnCommand("Echo", command);
+        program.recorder().recordAddOnCommand("Echo", command);
         return std::optional<std::string>();
     });
 }
 
 // A host with a frame and data, which takes a hundred times as long to make as most macros to play.
-class Host {
+class FuzzedHost {
 public:
-    Host() {
+    FuzzedHost() {
         m_host.reader.data = fakes::volumeData();
-        addEcho(m_host.app);
-        m_host.app.openData({"data"});
-        m_host.app.recorder().start();
-        Frame const& frame = *m_host.app.page().active();
+        addEcho(m_host.program);
+        m_host.session.openData({"data"});
+        m_host.program.recorder().start();
+        Frame const& frame = *m_host.session.page().active();
         m_plotType = frame.plotType;
         m_view = frame.view;
         m_style = frame.style;
@@ -152,42 +153,43 @@ public:
     }
 
     void renew() {
-        m_host.app.macros().variables() = {};
-        m_host.app.exportSetup() = {};
-        m_host.app.setStyle({"Interface", "UseDisplayLists"}, 1L);
-        Frame& frame = *m_host.app.page().active();
+        m_host.program.macros().variables() = {};
+        m_host.session.exportSetup() = {};
+        m_host.session.setStyle({"Interface", "UseDisplayLists"}, 1L);
+        Frame& frame = *m_host.session.page().active();
         frame.plotType = m_plotType;
         frame.view = m_view;
         frame.style = m_style;
         frame.solutionTime = m_solutionTime;
         m_host.reader.calls.clear();
         m_host.screen.presented.clear();
-        m_host.app.recorder().start();
+        m_host.program.recorder().start();
     }
 
     // False when the macro fails.
     bool play(Macros& macros) {
-        m_host.app.macros().open = [&](std::string const& name) { return macros.open(name); };
+        m_host.program.macros().openWith(
+            [&](std::string const& name) { return macros.open(name); });
         std::istringstream text(macros.main());
         bool succeeded = true;
         try {
-            m_host.app.macros().play(text, "main", folder);
+            m_host.program.macros().play(text, "main", folder);
         } catch (MacroError const& error) {
             checkError(error, macros);
             succeeded = false;
         }
-        require(!m_host.app.macros().isPlaying(), "a macro ends");
-        require(m_host.app.locks().depth() == 0, "locks are balanced");
-        require(m_host.app.drawing().suspensions() == 0, "suspended drawing is balanced");
-        require(!m_host.app.status().isActive(), "no display of progress is left");
+        require(!m_host.program.macros().isPlaying(), "a macro ends");
+        require(m_host.session.locks().depth() == 0, "locks are balanced");
+        require(m_host.session.drawing().suspensions() == 0, "suspended drawing is balanced");
+        require(!m_host.session.status().isActive(), "no display of progress is left");
         return succeeded;
     }
 
-    std::vector<std::string> const& recorded() { return m_host.app.recorder().lines(); }
+    std::vector<std::string> const& recorded() { return m_host.program.recorder().lines(); }
 
-    bool showsTheSameAs(Host& other) {
-        auto const& mine = m_host.app.page().frames();
-        auto const& others = other.m_host.app.page().frames();
+    bool showsTheSameAs(FuzzedHost& other) {
+        auto const& mine = m_host.session.page().frames();
+        auto const& others = other.m_host.session.page().frames();
         return std::equal(mine.begin(), mine.end(), others.begin(), others.end(),
                           [](auto const& a, auto const& b) {
                               return a->id() == b->id() && a->view == b->view &&
@@ -218,25 +220,25 @@ std::string joined(std::vector<std::string> const& lines) {
     return text;
 }
 
-Host& renewed(std::unique_ptr<Host>& host) {
+FuzzedHost& renewed(std::unique_ptr<FuzzedHost>& host) {
     if (host && host->canBeRenewed())
         host->renew();
     else
-        host = std::make_unique<Host>();
+        host = std::make_unique<FuzzedHost>();
     return *host;
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    static std::unique_ptr<Host> hosts[2];
+    static std::unique_ptr<FuzzedHost> hosts[2];
     Macros macros(withoutAbsoluteNames(std::string(reinterpret_cast<char const*>(data), size)));
-    Host& first = renewed(hosts[0]);
+    FuzzedHost& first = renewed(hosts[0]);
     first.play(macros);
     if (first.recorded().empty() || !fitsIntoMacro(first.recorded()))
         return 0;
     Macros record(joined(first.recorded()));
-    Host& second = renewed(hosts[1]);
+    FuzzedHost& second = renewed(hosts[1]);
     require(second.play(record), "what was recorded can be played");
     require(second.recorded() == first.recorded(), "what is recorded again is the same");
     require(second.showsTheSameAs(first), "a record leads to the same page");

@@ -1,7 +1,7 @@
 // Compares a picture with one that somebody has looked at.
 #pragma once
 
-#include "host/core/picture/Picture.h"
+#include "host/core/ports/Picture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Pictures in PNG files.
 #pragma once
 
-#include "host/core/picture/Picture.h"
+#include "host/core/ports/Picture.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // A flight of the add-on on the screen, and the two ways to stop it.
-#include "host/core/addons/AddOns.h"
-#include "host/gui/window/DrawingArea.h"
-#include "host/gui/window/ProgressStrip.h"
+#include "host/core/session/AddOnLoader.h"
+#include "host/gui/status/ProgressStrip.h"
+#include "host/gui/view/DrawingArea.h"
 #include "tests/gui/WindowTest.h"
 
 #include <QApplication>
@@ -19,7 +19,7 @@ using ::testing::HasSubstr;
 class Animation : public WindowTest {
 protected:
     void SetUp() override {
-        host::loadAddOn(app(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
+        host::loadAddOn(session(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
         openData();
         runCommand("OpenSettingsFile FileName=\"" CORVANE_SOURCE_DIR
                    "/examples/wake/flight.keyframe\"");
@@ -28,7 +28,7 @@ protected:
     }
 
     void runCommand(const std::string& command) {
-        app().perform("EXTCOMMAND", {"Key Frame Animation", command});
+        program().perform("EXTCOMMAND", {"Key Frame Animation", command});
     }
 
     /// Plays, and does something once some pictures have been seen.

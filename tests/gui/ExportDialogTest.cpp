@@ -1,7 +1,7 @@
 // The export options in the hands of a user, through to movies.
 #include "host/movie/LibavMovieWriters.h"
 #include "tests/gui/KeyFrameWindowTest.h"
-#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/host/movie/DecodedMovie.h"
 
 #include <QtTest>
 
@@ -46,7 +46,7 @@ TEST_F(ExportDialog, makesAMovie) {
     const QString size = dialog.label(QStringLiteral("Dimensions")).text();
     EXPECT_TRUE(size.startsWith(QStringLiteral("Dimensions: 160 x "))) << size.toStdString();
     dialog.enter(QStringLiteral("Animation Speed (frames/sec):"), QStringLiteral("25"));
-    dialogs.answerFile(folder.file("flight.mp4"));
+    prompts.answerFile(folder.file("flight.mp4"));
     dialog.click(QStringLiteral("OK"));
     EXPECT_FALSE(DialogUser::isUp(exportTitle));
     settle();
@@ -66,24 +66,24 @@ TEST_F(ExportDialog, escIsCancelAndTheLockIsGone) {
     const DialogUser main = openDialog();
     for (const bool byEsc : {true, false}) {
         const DialogUser dialog = openExportDialog(main);
-        EXPECT_EQ(app().locks().depth(), 1);
+        EXPECT_EQ(session().locks().depth(), 1);
         if (byEsc) {
             dialog.press(Qt::Key_Escape);
         } else {
             dialog.window().close();
         }
         EXPECT_FALSE(DialogUser::isUp(exportTitle));
-        EXPECT_EQ(app().locks().depth(), 0);
+        EXPECT_EQ(session().locks().depth(), 0);
     }
-    EXPECT_THAT(dialogs.shown(), IsEmpty());
-    EXPECT_FALSE(app().exporter().isRecording());
+    EXPECT_THAT(prompts.shown(), IsEmpty());
+    EXPECT_FALSE(session().exporter().isRecording());
 }
 
 TEST_F(ExportDialog, staysUpWhenNoFileIsChosen) {
     const DialogUser main = openDialog();
     const DialogUser dialog = openExportDialog(main);
     dialog.click(QStringLiteral("OK"));
-    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::FileToWrite), ElementsAre("Movie"));
+    EXPECT_THAT(prompts.shown(ShownDialog::Kind::FileToWrite), ElementsAre("Movie"));
     EXPECT_TRUE(DialogUser::isUp(exportTitle));
     dialog.click(QStringLiteral("Cancel"));
     EXPECT_FALSE(DialogUser::isUp(exportTitle));
@@ -120,7 +120,7 @@ TEST_F(ExportDialog, returnInAFieldIsNotOk) {
     EXPECT_THAT(errors(), ElementsAre(HasSubstr("between 0.001 and 200.")));
     EXPECT_EQ(dialog.field(speed).text(), QStringLiteral("30"));
     EXPECT_TRUE(DialogUser::isUp(exportTitle));
-    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::FileToWrite), IsEmpty());
+    EXPECT_THAT(prompts.shown(ShownDialog::Kind::FileToWrite), IsEmpty());
     dialog.press(Qt::Key_Escape);
 }
 
@@ -134,23 +134,23 @@ TEST_F(ExportDialog, theRegionSurvivesAndEscStopsTheMovie) {
     const DialogUser dialog = openExportDialog(main);
     EXPECT_EQ(dialog.options(QStringLiteral("Region:")).currentText(),
               QStringLiteral("All Frames"));
-    dialogs.answerFile(folder.file("stopped.avi"));
+    prompts.answerFile(folder.file("stopped.avi"));
     playAnd(dialog, QStringLiteral("OK"),
             [&] { QTest::keyClick(main.window().windowHandle(), Qt::Key_Escape); });
     EXPECT_THAT(errors(), ElementsAre("Animation canceled."));
     EXPECT_FALSE(folder.has("stopped.avi"));
-    EXPECT_EQ(app().locks().depth(), 0);
+    EXPECT_EQ(session().locks().depth(), 0);
 }
 
 TEST_F(ExportDialog, isRecordedAsAMacro) {
     const DialogUser main = openDialog();
     const DialogUser dialog = openExportDialog(main);
     dialog.pick(QStringLiteral("Format:"), QStringLiteral("MPEG-4"));
-    app().recorder().start();
-    dialogs.answerFile(folder.file("a.mp4"));
+    program().recorder().start();
+    prompts.answerFile(folder.file("a.mp4"));
     dialog.click(QStringLiteral("OK"));
     settle();
-    const std::vector<std::string> lines = app().recorder().stop();
+    const std::vector<std::string> lines = program().recorder().stop();
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines.front(), "$!EXPORTSETUP ExportFormat = MPEG4");
     EXPECT_THAT(lines.back(), HasSubstr("Animate"));

@@ -31,7 +31,7 @@ protected:
     }
     std::vector<long> stack() {
         std::vector<long> ids;
-        for (const auto& frame : app().page().frames()) {
+        for (const auto& frame : session().page().frames()) {
             ids.push_back(frame->id());
         }
         return ids;
@@ -70,10 +70,10 @@ TEST_F(FrameMenu, theLastFrameCannotBeDeleted) {
 }
 
 TEST_F(FrameMenu, isRecorded) {
-    app().recorder().start();
+    program().recorder().start();
     choose("New Frame Beside");
     choose("Delete Frame");
-    std::vector<std::string> lines = app().recorder().stop();
+    std::vector<std::string> lines = program().recorder().stop();
     // Without data there is no time bar, which leaves more room to the picture.
     std::erase_if(lines, [](const std::string& line) { return line.starts_with("$!WORKAREA"); });
     EXPECT_THAT(lines, ElementsAre(HasSubstr("$!FRAME PLACE Width = "),

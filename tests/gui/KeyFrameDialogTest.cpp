@@ -1,7 +1,7 @@
 // The key frame dialog: its options and fields, how it comes and goes, and many key frames.
 #include "tests/gui/KeyFrameDialogTest.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -51,10 +51,10 @@ TEST_F(KeyFrameDialog, optionsThatCannotBeAreTurnedOff) {
 TEST_F(KeyFrameDialog, closesWhenTheFrameShowsNo3DAndComesBackWithItsKeyFrames) {
     const DialogUser dialog = openDialog();
     capture(dialog, 2);
-    app().perform("PLOTTYPE", {"=", "CARTESIAN2D"});
+    program().perform("PLOTTYPE", {"=", "CARTESIAN2D"});
     EXPECT_TRUE(waitUntil([&] { return !DialogUser::isUp(title); }));
     EXPECT_TRUE(window().isVisible());
-    app().perform("PLOTTYPE", {"=", "CARTESIAN3D"});
+    program().perform("PLOTTYPE", {"=", "CARTESIAN3D"});
     settle();
     const DialogUser again = openDialog();
     EXPECT_EQ(again.rows(), views({1, 2}));
@@ -94,7 +94,7 @@ TEST_F(KeyFrameDialog, aMacroThatOpensAFileIsSeen) {
 TEST_F(KeyFrameDialog, aMacroThatFliesIntoAFileIsSeen) {
     const DialogUser dialog = openDialog();
     capture(dialog, 2);
-    app().exportSetup().fileName = folder.file("flight.avi");
+    session().exportSetup().fileName = folder.file("flight.avi");
     const auto destination = [&] {
         return dialog.options(QStringLiteral("Destination:")).currentText();
     };
@@ -152,7 +152,7 @@ TEST_F(KeyFrameDialog, tenChangesAreShownByOneUpdate) {
     dialog.clickRow(0);
     ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Delete")));
     int updates = 0;
-    app().trace().onCall = [&updates](const host::TraceRecord& record) {
+    session().trace().onCall = [&updates](const host::TraceRecord& record) {
         // Every update chooses the destination in the menu, and nothing else does.
         updates += record.call.starts_with("CorGUIOptionMenuSet(") ? 1 : 0;
     };
@@ -163,7 +163,7 @@ TEST_F(KeyFrameDialog, tenChangesAreShownByOneUpdate) {
     EXPECT_TRUE(waitUntil([&] { return updates > 0; }));
     settle();
     EXPECT_EQ(updates, 1);
-    app().trace().onCall = nullptr;
+    session().trace().onCall = nullptr;
 }
 
 TEST_F(KeyFrameDialog, tabGoesDownTheDialog) {

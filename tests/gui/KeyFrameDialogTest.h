@@ -27,11 +27,11 @@ protected:
 
     /// By the File menu, with this answer of the file dialog.
     void saveAs(const DialogUser& dialog, const std::string& name) {
-        dialogs.answerFile(folder.file(name));
+        prompts.answerFile(folder.file(name));
         dialog.choose(QStringLiteral("File"), QStringLiteral("Save Animation File As..."));
     }
     void openFile(const DialogUser& dialog, const std::string& fileName) {
-        dialogs.answerFile(fileName);
+        prompts.answerFile(fileName);
         dialog.choose(QStringLiteral("File"), QStringLiteral("Open Animation File..."));
     }
     bool isEnabledSoon(const DialogUser& dialog, const QString& button) {

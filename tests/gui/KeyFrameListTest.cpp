@@ -52,7 +52,7 @@ TEST_F(KeyFrameDialog, capturesViewsAndSavesThem) {
     dialog.enter(frameCount, QStringLiteral("25"));
     EXPECT_EQ(dialog.selectedRows(), QList<int>({0, 1, 2}));
 
-    dialogs.answerFile(folder.file("flight.keyframe"));
+    prompts.answerFile(folder.file("flight.keyframe"));
     dialog.choose(QStringLiteral("File"), QStringLiteral("Save Animation File"));
     const std::string saved = folder.read("flight.keyframe");
     EXPECT_EQ(countOf("FrameCount 25", saved), 3);

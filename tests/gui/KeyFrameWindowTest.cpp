@@ -1,8 +1,8 @@
 // A test with the add-on in a real main window.
 #include "tests/gui/KeyFrameWindowTest.h"
+#include "host/core/session/AddOnLoader.h"
 
-#include "host/core/addons/AddOns.h"
-#include "host/gui/window/DrawingArea.h"
+#include "host/gui/view/DrawingArea.h"
 
 #include <QtTest>
 #include <filesystem>
@@ -21,7 +21,7 @@ void KeyFrameWindowTest::loadAddOn() {
     // A library stays loaded, with its dialogs and key frames: each test has one of its own.
     const std::string library = folder.file("libKeyFrameAnimation.so");
     std::filesystem::copy_file(CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so", library);
-    host::loadAddOn(app(), library);
+    host::loadAddOn(session(), library);
 }
 
 void KeyFrameWindowTest::chooseByKeys(Qt::Key menu, Qt::Key entry) {
@@ -55,7 +55,7 @@ void KeyFrameWindowTest::playAnd(const DialogUser& dialog, const QString& button
     renderer.clear();
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &window(), [&] {
-        if (app().status().isActive() && renderer.renders() >= 5) {
+        if (session().status().isActive() && renderer.renders() >= 5) {
             look.stop();
             action();
         }
@@ -67,7 +67,7 @@ void KeyFrameWindowTest::playAnd(const DialogUser& dialog, const QString& button
 }
 
 void KeyFrameWindowTest::runCommand(const std::string& command) {
-    app().perform("EXTCOMMAND", {"Key Frame Animation", command});
+    program().perform("EXTCOMMAND", {"Key Frame Animation", command});
 }
 
 } // namespace corvane::test

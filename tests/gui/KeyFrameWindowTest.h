@@ -31,8 +31,8 @@ protected:
                  const std::function<void()>& action);
     /// As for a macro: without windows.
     void runCommand(const std::string& command);
-    std::vector<std::string> errors() const { return dialogs.shown(ShownDialog::Kind::Error); }
-    std::vector<std::string> notices() const { return dialogs.shown(ShownDialog::Kind::Notice); }
+    std::vector<std::string> errors() const { return prompts.shown(ShownDialog::Kind::Error); }
+    std::vector<std::string> notices() const { return prompts.shown(ShownDialog::Kind::Notice); }
 
     const QString title = QStringLiteral("Key Frame Animation");
     const TempFolder folder;

@@ -1,7 +1,7 @@
 // What a user does in the main window, and what comes of it.
-#include "host/gui/window/DrawingArea.h"
-#include "host/gui/window/TimePlayer.h"
-#include "host/gui/window/ViewMotion.h"
+#include "host/gui/time/TimePlayer.h"
+#include "host/gui/view/DrawingArea.h"
+#include "host/gui/view/ViewMotion.h"
 #include "tests/gui/WindowTest.h"
 #include "tests/support/MemoryData.h"
 #include "tests/support/TempFolder.h"
@@ -55,8 +55,8 @@ TEST_F(MainWindow, openingDataShowsThemInThePixelsOfTheArea) {
 TEST_F(MainWindow, aFailedOpeningSaysWhyAndChangesNothing) {
     const auto before = frame().data();
     reader.failNext("broken.pvd cannot be read: it is empty.");
-    EXPECT_FALSE(workbench().files().openData({QStringLiteral("broken.pvd")}));
-    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error),
+    EXPECT_FALSE(controller().files().openData({QStringLiteral("broken.pvd")}));
+    EXPECT_THAT(prompts.shown(ShownDialog::Kind::Error),
                 ElementsAre("broken.pvd cannot be read: it is empty."));
     EXPECT_EQ(frame().data(), before);
 }
@@ -65,7 +65,7 @@ TEST_F(MainWindow, aResizedWindowIsFilledByItsOneFrame) {
     window().resize(window().width() - 200, window().height() - 100);
     ASSERT_TRUE(
         waitUntil([this] { return drawingArea().image().size() == drawingArea().pixels(); }));
-    const host::Placement area = app().page().regionOf(ExportRegion_WorkArea);
+    const host::Placement area = session().page().regionOf(ExportRegion_WorkArea);
     EXPECT_EQ(frame().placement, area);
     EXPECT_DOUBLE_EQ(area.width, 8.0);
 }
@@ -129,19 +129,19 @@ TEST_F(MainWindow, aClickMakesTheFrameUnderItActive) {
     host::Placement half = frame().placement;
     half.width /= 4;
     half.height /= 4;
-    app().perform("FRAME",
-                  {"CREATE", "X", "=", "0", "Y", "=", "0", "Width", "=", std::to_string(half.width),
-                   "Height", "=", std::to_string(half.height)});
+    program().perform("FRAME",
+                      {"CREATE", "X", "=", "0", "Y", "=", "0", "Width", "=",
+                       std::to_string(half.width), "Height", "=", std::to_string(half.height)});
     settle();
     ASSERT_NE(frame().id(), first);
     QTest::mouseClick(&drawingArea(), Qt::LeftButton, {},
                       {drawingArea().width() - 10, drawingArea().height() / 2});
     EXPECT_EQ(frame().id(), first);
-    EXPECT_THAT(dialogs.shown(), IsEmpty());
+    EXPECT_THAT(prompts.shown(), IsEmpty());
 }
 
 TEST_F(MainWindow, theSidebarChangesStylesByCommands) {
-    app().recorder().start();
+    program().recorder().start();
     auto& legend = part<QCheckBox>("Contour/ShowLegend");
     ASSERT_TRUE(legend.isChecked());
     legend.click();
@@ -151,18 +151,18 @@ TEST_F(MainWindow, theSidebarChangesStylesByCommands) {
     colors.setCurrentIndex(plasma);
     Q_EMIT colors.activated(plasma);
     EXPECT_EQ(frame().style.contour.colorMap, "Plasma");
-    EXPECT_THAT(app().recorder().stop(), ElementsAre(HasSubstr("Contour/ShowLegend = false"),
-                                                     HasSubstr("Contour/ColorMap = ")));
+    EXPECT_THAT(program().recorder().stop(), ElementsAre(HasSubstr("Contour/ShowLegend = false"),
+                                                         HasSubstr("Contour/ColorMap = ")));
 }
 
 TEST_F(MainWindow, theSidebarFollowsWhatChangesElsewhereAndFiresNothing) {
-    app().recorder().start();
-    app().setStyle({"Contour", "ShowLegend"}, 0L);
-    app().setStyle({"Annotations", "Title"}, std::string("Wake"));
+    program().recorder().start();
+    session().setStyle({"Contour", "ShowLegend"}, 0L);
+    session().setStyle({"Annotations", "Title"}, std::string("Wake"));
     auto& legend = part<QCheckBox>("Contour/ShowLegend");
     EXPECT_TRUE(waitUntil([&] { return !legend.isChecked(); }));
     EXPECT_EQ(part<QLineEdit>("Annotations/Title").text(), QStringLiteral("Wake"));
-    EXPECT_THAT(app().recorder().stop(), IsEmpty());
+    EXPECT_THAT(program().recorder().stop(), IsEmpty());
 }
 
 TEST_F(MainWindow, aRecordingBeginsWithTheSceneThatIsThere) {
@@ -173,7 +173,7 @@ TEST_F(MainWindow, aRecordingBeginsWithTheSceneThatIsThere) {
             action->trigger();
         }
     }
-    EXPECT_THAT(app().recorder().stop(),
+    EXPECT_THAT(program().recorder().stop(),
                 ::testing::IsSupersetOf({HasSubstr("$!FRAME CREATE"), HasSubstr("$!READDATA"),
                                          HasSubstr("Annotations/Title = Before"),
                                          HasSubstr("$!VIEW SET")}));
@@ -188,21 +188,21 @@ TEST_F(MainWindow, aCheckInTheListShowsASlice) {
 }
 
 TEST_F(MainWindow, theSliderShowsATimeAndIsRecorded) {
-    app().recorder().start();
+    program().recorder().start();
     auto& slider = part<QSlider>("timeSlider");
     ASSERT_EQ(slider.maximum(), 2);
     slider.setValue(2);
     EXPECT_EQ(frame().solutionTime, 2.0);
-    EXPECT_THAT(app().recorder().stop(), ElementsAre("$!SOLUTIONTIME = 2"));
-    app().setSolutionTime(1.0);
+    EXPECT_THAT(program().recorder().stop(), ElementsAre("$!SOLUTIONTIME = 2"));
+    session().setSolutionTime(1.0);
     EXPECT_TRUE(waitUntil([&] { return slider.value() == 1; }));
 }
 
 TEST_F(MainWindow, playingShowsEveryTimeAndStopsAtTheLast) {
     renderer.clear();
     part<QToolButton>("timePlay").click();
-    EXPECT_TRUE(workbench().time().isPlaying());
-    ASSERT_TRUE(waitUntil([this] { return !workbench().time().isPlaying(); }));
+    EXPECT_TRUE(controller().time().isPlaying());
+    ASSERT_TRUE(waitUntil([this] { return !controller().time().isPlaying(); }));
     std::vector<double> times;
     for (const RenderedState& state : renderer.states()) {
         times.push_back(state.solutionTime);
@@ -218,21 +218,21 @@ TEST_F(MainWindow, dataWithoutTimesHaveNoTimeBar) {
 
 TEST_F(MainWindow, aRecordedMacroLeadsToTheSameState) {
     const TempFolder folder;
-    app().recorder().start();
-    ASSERT_TRUE(workbench().files().openData({QStringLiteral("flow.pvd")}));
+    program().recorder().start();
+    ASSERT_TRUE(controller().files().openData({QStringLiteral("flow.pvd")}));
     drag(Qt::LeftButton, middle(), middle() + QPoint(33, 21));
     drag(Qt::RightButton, middle(), middle() + QPoint(0, -30));
     part<QCheckBox>("Contour/ShowLegend").click();
     part<QListWidget>("IsoSurface").item(1)->setCheckState(Qt::Checked);
     part<QSlider>("timeSlider").setValue(1);
     const QString macro = QString::fromStdString(folder.file("recorded.mcr"));
-    ASSERT_TRUE(workbench().macros().stopRecording(macro));
+    ASSERT_TRUE(controller().macros().stopRecording(macro));
     host::View3D view = frame().view;
     const host::FrameStyle style = frame().style;
     const double time = frame().solutionTime;
 
     startAgain();
-    ASSERT_TRUE(workbench().macros().play(macro)) << folder.read("recorded.mcr");
+    ASSERT_TRUE(controller().macros().play(macro)) << folder.read("recorded.mcr");
 
     view.width = frame().view.width; // means nothing with perspective
     EXPECT_EQ(frame().view, view);
@@ -242,36 +242,36 @@ TEST_F(MainWindow, aRecordedMacroLeadsToTheSameState) {
 
 TEST_F(MainWindow, aRecordingWhoseFileIsKnownIsWrittenWhenTheWindowCloses) {
     const TempFolder folder;
-    workbench().macros().recordTo(QString::fromStdString(folder.file("all.mcr")));
+    controller().macros().recordTo(QString::fromStdString(folder.file("all.mcr")));
     part<QCheckBox>("Contour/ShowLegend").click();
     EXPECT_TRUE(window().close());
     EXPECT_THAT(folder.read("all.mcr"), HasSubstr("Contour/ShowLegend = false"));
-    EXPECT_FALSE(app().recorder().isRecording());
-    EXPECT_THAT(dialogs.shown(), IsEmpty());
+    EXPECT_FALSE(program().recorder().isRecording());
+    EXPECT_THAT(prompts.shown(), IsEmpty());
 }
 
 TEST_F(MainWindow, aRecordingThatCannotBeWrittenIsNotLostUnasked) {
     const TempFolder folder;
-    workbench().macros().recordTo(QString::fromStdString(folder.file("no/folder/all.mcr")));
+    controller().macros().recordTo(QString::fromStdString(folder.file("no/folder/all.mcr")));
     part<QCheckBox>("Contour/ShowLegend").click();
     EXPECT_FALSE(window().close());
-    EXPECT_TRUE(app().recorder().isRecording());
-    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error), ElementsAre(HasSubstr("all.mcr")));
-    EXPECT_EQ(dialogs.shown(ShownDialog::Kind::Question).size(), 1U);
-    app().recorder().stop();
+    EXPECT_TRUE(program().recorder().isRecording());
+    EXPECT_THAT(prompts.shown(ShownDialog::Kind::Error), ElementsAre(HasSubstr("all.mcr")));
+    EXPECT_EQ(prompts.shown(ShownDialog::Kind::Question).size(), 1U);
+    program().recorder().stop();
 }
 
 TEST_F(MainWindow, aNoticeStaysInTheStatusLineWhenOtherThingsChange) {
     auto& text = part<QLabel>("statusText");
     const QString before = text.text();
-    desktop().tell("There are no streamtraces to show.");
+    windowedHost().tell("There are no streamtraces to show.");
     EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
     part<QCheckBox>("Contour/ShowLegend").click();
     settle();
     EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
-    app().status().start("Working", true, true);
+    session().status().start("Working", true, true);
     EXPECT_EQ(text.text(), QStringLiteral("Working"));
-    app().status().finish();
+    session().status().finish();
     EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
     EXPECT_NE(before, text.text());
 }
@@ -282,17 +282,17 @@ TEST_F(MainWindow, thePictureGetsTheSizeThatWasAskedFor) {
 }
 
 TEST_F(MainWindow, aFailedExportIsToldOnceAllIsPutAway) {
-    ASSERT_FALSE(app().exporter().start());
-    const std::string cause = app().exporter().failure();
-    app().status().start("Animating", true, true);
-    app().drawing().mark();
-    app().status().check(50);
-    EXPECT_THAT(dialogs.shown(), IsEmpty());
-    app().status().finish();
+    ASSERT_FALSE(session().exporter().start());
+    const std::string cause = session().exporter().failure();
+    session().status().start("Animating", true, true);
+    session().drawing().mark();
+    session().status().check(50);
+    EXPECT_THAT(prompts.shown(), IsEmpty());
+    session().status().finish();
     settle();
-    app().drawing().mark();
+    session().drawing().mark();
     settle();
-    EXPECT_THAT(dialogs.shown(ShownDialog::Kind::Error), ElementsAre(cause));
+    EXPECT_THAT(prompts.shown(ShownDialog::Kind::Error), ElementsAre(cause));
 }
 
 TEST_F(MainWindow, recentFilesOpenAgain) {
@@ -315,8 +315,8 @@ TEST_F(MainWindow, idleWorkWaitsForTheEndOfAnInnerLoop) {
     QTimer::singleShot(0, [&] {
         QEventLoop inner;
         isInner = true;
-        app().idle().add([&] { wasInner.push_back(isInner); });
-        app().drawing().mark();
+        session().idle().add([&] { wasInner.push_back(isInner); });
+        session().drawing().mark();
         const auto renders = renderer.renders();
         QTimer::singleShot(100, &inner, &QEventLoop::quit);
         inner.exec();

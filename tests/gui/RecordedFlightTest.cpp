@@ -1,6 +1,6 @@
 // A flight that was made by hand in the window, and recorded: the macro makes the same movie again.
-#include "host/gui/window/DrawingArea.h"
-#include "host/gui/window/ValueSlider.h"
+#include "host/gui/controls/ValueSlider.h"
+#include "host/gui/view/DrawingArea.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "host/movie/PngFiles.h"
 #include "host/scene/DataReaders.h"
@@ -9,7 +9,7 @@
 #include "tests/app/WakeFlight.h"
 #include "tests/gui/FileDialogUser.h"
 #include "tests/gui/KeyFrameWindowTest.h"
-#include "tests/unit/movie/DecodedMovie.h"
+#include "tests/unit/host/movie/DecodedMovie.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -191,7 +191,7 @@ TEST_F(RecordedFlight, isMadeAgainPictureByPicture) {
     animateToFile(makeFlight(), movie);
     stopRecording();
     EXPECT_EQ(user.boxes(), QStringList());
-    app().exportPicture(folder.file("window.png"), ExportRegion_WorkArea, 300, 2);
+    session().exportPicture(folder.file("window.png"), ExportRegion_WorkArea, 300, 2);
 
     ASSERT_TRUE(std::filesystem::exists(movie));
     std::filesystem::rename(movie, folder.file("window.avi"));

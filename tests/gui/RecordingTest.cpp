@@ -1,9 +1,9 @@
 // A recording leads to what was there when it ended, however it came about.
-#include "host/gui/window/ColorButton.h"
-#include "host/gui/window/DrawingArea.h"
-#include "host/gui/window/NumberEdit.h"
-#include "host/gui/window/SectionHeader.h"
-#include "host/gui/window/ValueSlider.h"
+#include "host/gui/controls/ColorButton.h"
+#include "host/gui/controls/NumberEdit.h"
+#include "host/gui/controls/SectionHeader.h"
+#include "host/gui/controls/ValueSlider.h"
+#include "host/gui/view/DrawingArea.h"
 #include "tests/gui/KeyFrameWindowTest.h"
 
 #include <QApplication>
@@ -33,17 +33,17 @@ protected:
     /// What the recorded macro makes of a window of its own is what there is now.
     void expectReplay() {
         const QString macro = QString::fromStdString(folder.file("recorded.mcr"));
-        ASSERT_TRUE(workbench().macros().stopRecording(macro));
+        ASSERT_TRUE(controller().macros().stopRecording(macro));
         const host::View3D view = frame().view;
         const host::FrameStyle style = frame().style;
         const double time = frame().solutionTime;
-        const host::WorkArea area = app().page().workArea;
+        const host::WorkArea area = session().page().workArea;
         startAgain();
-        ASSERT_TRUE(workbench().macros().play(macro)) << folder.read("recorded.mcr");
+        ASSERT_TRUE(controller().macros().play(macro)) << folder.read("recorded.mcr");
         EXPECT_EQ(frame().view, view);
         EXPECT_EQ(frame().style, style);
         EXPECT_EQ(frame().solutionTime, time);
-        EXPECT_EQ(app().page().workArea, area);
+        EXPECT_EQ(session().page().workArea, area);
     }
 
     QDockWidget& sidebar() { return part<QDockWidget>("plotSidebar"); }
@@ -123,7 +123,7 @@ TEST_F(Recording, holdsEveryControlOfTheSidebar) {
     typeInAll();
     tickAll();
     colorAll();
-    dialogs.clear(); // counts are whole, and were told so
+    prompts.clear(); // counts are whole, and were told so
     expectReplay();
 }
 
@@ -131,7 +131,7 @@ TEST_F(Recording, isToldInTheStatusLine) {
     auto& text = part<QLabel>("statusText");
     record();
     EXPECT_EQ(text.text(), QStringLiteral("Recording a macro"));
-    ASSERT_TRUE(workbench().macros().stopRecording(QString::fromStdString(folder.file("a.mcr"))));
+    ASSERT_TRUE(controller().macros().stopRecording(QString::fromStdString(folder.file("a.mcr"))));
     EXPECT_NE(text.text(), QStringLiteral("Recording a macro"));
 }
 
@@ -139,19 +139,19 @@ TEST_F(Recording, holdsAViewThatTheWheelHasJustZoomed) {
     record();
     wheel(3);
     part<QCheckBox>("Contour/ShowLegend").click();
-    EXPECT_THAT(app().recorder().lines().back(), HasSubstr("ShowLegend"));
+    EXPECT_THAT(program().recorder().lines().back(), HasSubstr("ShowLegend"));
     wheel(1);
     expectReplay();
 }
 
 TEST_F(Recording, holdsOneLineOfAMovement) {
     record();
-    const std::size_t scene = app().recorder().lines().size();
+    const std::size_t scene = program().recorder().lines().size();
     turn();
     wheel(2);
     settle();
     turn();
-    EXPECT_EQ(app().recorder().lines().size(), scene + 1);
+    EXPECT_EQ(program().recorder().lines().size(), scene + 1);
     expectReplay();
 }
 
@@ -160,12 +160,12 @@ TEST_F(Recording, holdsTheSizeOfAWindowThatWasResized) {
     window().resize(window().width() - 200, window().height() - 100);
     ASSERT_TRUE(
         waitUntil([this] { return drawingArea().image().size() == drawingArea().pixels(); }));
-    EXPECT_THAT(app().recorder().lines().back(), HasSubstr("$!WORKAREA"));
+    EXPECT_THAT(program().recorder().lines().back(), HasSubstr("$!WORKAREA"));
     expectReplay();
 }
 
 TEST_F(Recording, holdsASliderThatCameBackToItsPlace) {
-    app().perform("STYLE", {"Slice/1/Position", "=", "0.123456789"});
+    program().perform("STYLE", {"Slice/1/Position", "=", "0.123456789"});
     settle();
     record();
     QSlider& slider = part<gui::ValueSlider>("Position").slider();
@@ -180,7 +180,7 @@ TEST_F(Recording, holdsASliderThatCameBackToItsPlace) {
 TEST_F(Recording, holdsWhatAKeyFrameWasAppliedFor) {
     const DialogUser dialog = openDialog();
     capture(dialog, 1);
-    app().perform("SOLUTIONTIME", {"=", "2"});
+    program().perform("SOLUTIONTIME", {"=", "2"});
     record();
     dialog.activate();
     dialog.clickRow(0);
@@ -200,22 +200,23 @@ TEST_F(Recording, isEndedByTheFlightItself) {
     dialog.activate();
     dialog.click(QStringLiteral("Animate All"));
     settle();
-    EXPECT_THAT(app().recorder().stop().back(), HasSubstr("Animate AnimationDestination=OnScreen"));
+    EXPECT_THAT(program().recorder().stop().back(),
+                HasSubstr("Animate AnimationDestination=OnScreen"));
 }
 
 TEST_F(Recording, aMacroOfAnotherSizeLeavesTheWindowItsOwn) {
     const QSize size = drawingArea().pixels();
     const QString macro = QString::fromStdString(folder.write(
         "square.mcr", "$!WORKAREA Width = 300 Height = 300\n$!REDRAW\n$!PICTURE \"square.png\"\n"));
-    ASSERT_TRUE(workbench().macros().play(macro));
+    ASSERT_TRUE(controller().macros().play(macro));
     EXPECT_EQ(drawingArea().image().size(),
               size.scaled(size.height(), size.height(), Qt::IgnoreAspectRatio))
         << "all of it, as large as fits";
-    EXPECT_EQ(app().page().workArea.width, 300);
+    EXPECT_EQ(session().page().workArea.width, 300);
     settle();
     EXPECT_TRUE(waitUntil([&] { return drawingArea().image().size() == size; }));
-    EXPECT_EQ(app().page().workArea.width, size.width());
-    EXPECT_TRUE(app().page().isFilledByOneFrame());
+    EXPECT_EQ(session().page().workArea.width, size.width());
+    EXPECT_TRUE(session().page().isFilledByOneFrame());
 }
 
 } // namespace

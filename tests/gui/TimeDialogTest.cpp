@@ -148,11 +148,11 @@ TEST_F(TimeDialog, tabGoesFromTheOperationToTheCyclesToOk) {
 TEST_F(TimeDialog, escStopsWorkBehindAModalDialogAndNothingMore) {
     const DialogUser main = openDialog();
     const DialogUser dialog = openTimeDialog(main);
-    app().status().start("Working", true, true);
-    EXPECT_TRUE(app().status().check(10));
+    session().status().start("Working", true, true);
+    EXPECT_TRUE(session().status().check(10));
     dialog.press(Qt::Key_Escape);
-    EXPECT_TRUE(waitUntil([&] { return !app().status().check(20); }));
-    app().status().finish();
+    EXPECT_TRUE(waitUntil([&] { return !session().status().check(20); }));
+    session().status().finish();
     EXPECT_TRUE(DialogUser::isUp(timeTitle));
     dialog.press(Qt::Key_Escape);
     EXPECT_FALSE(DialogUser::isUp(timeTitle));

@@ -1,7 +1,7 @@
 // A test with a real main window over a host whose pictures and data are made in memory.
 #include "tests/gui/WindowTest.h"
 
-#include "host/gui/window/DrawingArea.h"
+#include "host/gui/view/DrawingArea.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -39,13 +39,13 @@ WindowTest::WindowTest(const WindowSurroundings& surroundings) : m_surroundings(
 }
 
 void WindowTest::open() {
-    m_desktop = std::make_unique<gui::Desktop>(
-        gui::DesktopParts{.renderer = orElse<host::Renderer>(m_surroundings.renderer, renderer),
-                          .reader = orElse<host::DataReader>(m_surroundings.reader, reader),
-                          .movies = orElse<host::MovieWriters>(m_surroundings.movies, movies),
-                          .pictures = orElse<host::PictureFiles>(m_surroundings.pictures, pictures),
-                          .dialogs = m_surroundings.hasRealDialogs ? nullptr : &dialogs,
-                          .helpFolder = {}});
+    m_windowedHost = std::make_unique<gui::WindowedHost>(gui::WindowedHostParts{
+        .renderer = orElse<host::Renderer>(m_surroundings.renderer, renderer),
+        .reader = orElse<host::DataReader>(m_surroundings.reader, reader),
+        .movies = orElse<host::MovieWriters>(m_surroundings.movies, movies),
+        .pictures = orElse<host::PictureFiles>(m_surroundings.pictures, pictures),
+        .prompts = m_surroundings.hasRealDialogs ? nullptr : &prompts,
+        .helpFolder = {}});
     window().show();
     if (!QTest::qWaitForWindowExposed(&window())) {
         throw std::runtime_error("The window does not come up.");
@@ -57,14 +57,14 @@ void WindowTest::open() {
 }
 
 void WindowTest::startAgain() {
-    m_desktop.reset();
+    m_windowedHost.reset();
     open();
 }
 
 void WindowTest::TearDown() {
-    EXPECT_EQ(app().locks().depth(), 0);
-    EXPECT_EQ(app().drawing().suspensions(), 0);
-    EXPECT_FALSE(app().status().isActive());
+    EXPECT_EQ(session().locks().depth(), 0);
+    EXPECT_EQ(session().drawing().suspensions(), 0);
+    EXPECT_FALSE(session().status().isActive());
 }
 
 gui::DrawingArea& WindowTest::drawingArea() {
@@ -72,7 +72,7 @@ gui::DrawingArea& WindowTest::drawingArea() {
 }
 
 host::Frame& WindowTest::frame() {
-    host::Frame* const active = app().page().active();
+    host::Frame* const active = session().page().active();
     if (active == nullptr) {
         throw std::logic_error("The page has no frame.");
     }
@@ -80,13 +80,13 @@ host::Frame& WindowTest::frame() {
 }
 
 void WindowTest::openData() {
-    ASSERT_TRUE(workbench().files().openData({QStringLiteral("flow.pvd")}));
+    ASSERT_TRUE(controller().files().openData({QStringLiteral("flow.pvd")}));
     settle();
 }
 
 void WindowTest::settle() {
     QTest::qWait(1);
-    EXPECT_TRUE(waitUntil([this] { return !app().drawing().isMarked(); }));
+    EXPECT_TRUE(waitUntil([this] { return !session().drawing().isMarked(); }));
     QTest::qWait(1);
 }
 

@@ -1,12 +1,12 @@
 // A test with a real main window over a host whose pictures and data are made in memory.
 #pragma once
 
-#include "host/gui/window/Desktop.h"
+#include "host/gui/desktop/WindowedHost.h"
 #include "tests/support/MemoryMovies.h"
 #include "tests/support/MemoryPictures.h"
 #include "tests/support/MemoryReader.h"
 #include "tests/support/MemoryRenderer.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ScriptedPrompts.h"
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -30,10 +30,11 @@ protected:
     explicit WindowTest(const WindowSurroundings& surroundings = {});
     void TearDown() override;
 
-    host::Application& app() { return m_desktop->application(); }
-    gui::Desktop& desktop() { return *m_desktop; }
-    gui::MainWindow& window() { return m_desktop->window(); }
-    gui::Workbench& workbench() { return m_desktop->workbench(); }
+    host::Host& program() { return m_windowedHost->host(); }
+    host::Session& session() { return program().session(); }
+    gui::WindowedHost& windowedHost() { return *m_windowedHost; }
+    gui::MainWindow& window() { return m_windowedHost->window(); }
+    gui::WindowController& controller() { return m_windowedHost->controller(); }
     gui::DrawingArea& drawingArea();
     host::Frame& frame(); ///< the active one; there must be one
 
@@ -59,13 +60,13 @@ protected:
     MemoryReader reader;
     MemoryMovies movies;
     MemoryPictures pictures;
-    ScriptedDialogs dialogs;
+    ScriptedPrompts prompts;
 
 private:
     void open();
 
     WindowSurroundings m_surroundings;
-    std::unique_ptr<gui::Desktop> m_desktop;
+    std::unique_ptr<gui::WindowedHost> m_windowedHost;
 };
 
 } // namespace corvane::test

@@ -36,7 +36,7 @@ private:
 
 class StateChangeNotifierTest : public test::HostTest {
 protected:
-    void notify(StateChange_e change) { host.app().stateChanges().notify(change); }
+    void notify(StateChange_e change) { host.session().stateChanges().notify(change); }
 
     StateChangeNotifier notifier{StateChangeMode_Synchronous};
     std::vector<std::string> log;
@@ -163,7 +163,7 @@ TEST(StateChangeNotifierLifeTest, mayOutliveTheHost) {
     notifier.reset();
 
     test::MemoryHost next;
-    next.app().stateChanges().notify(StateChange_FrameCreated);
+    next.session().stateChanges().notify(StateChange_FrameCreated);
     EXPECT_THAT(log, IsEmpty());
     EXPECT_THAT(next.misuse(), IsEmpty());
 }

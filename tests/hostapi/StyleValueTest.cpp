@@ -147,7 +147,7 @@ TEST_F(StyleValueTest, followsTheActiveFrame) {
     second.view.alpha = 0.0;
 
     EXPECT_EQ(value.set(2.0, "AlphaAngle"), StyleSet_Ok);
-    ASSERT_TRUE(host.app().page().activate(first.id()));
+    ASSERT_TRUE(host.session().page().activate(first.id()));
     EXPECT_EQ(value.set(1.0, "AlphaAngle"), StyleSet_Ok);
     EXPECT_EQ(first.view.alpha, 1.0);
     EXPECT_EQ(second.view.alpha, 2.0);
@@ -192,7 +192,7 @@ TEST_F(StyleValueTest, explicitListIsAppliedAsItIs) {
     args.appendDouble("DValue", 640.0);
 
     EXPECT_EQ(StyleValue::styleSetLowLevel(args), StyleSet_Ok);
-    EXPECT_EQ(host.app().exportSetup().imageWidth, 640);
+    EXPECT_EQ(host.session().exportSetup().imageWidth, 640);
 }
 
 TEST_F(StyleValueTest, longestPathHasRootOfFourAndTwoMore) {

@@ -8,18 +8,18 @@
 namespace corvane::test {
 
 MemoryHost::MemoryHost(bool hasWindows)
-    : m_app(std::make_unique<host::Application>(
+    : m_program(std::make_unique<host::Host>(
           host::Ports{.renderer = m_renderer,
                       .reader = m_reader,
                       .movies = m_movies,
                       .status = m_status,
-                      .dialogs = m_dialogs,
+                      .prompts = m_prompts,
                       .pictures = m_pictures,
                       .screen = &m_renderer,
                       .idleTimer = &m_idleTimer,
                       .widgets = hasWindows ? &m_widgets : nullptr,
                       .mainMenu = hasWindows ? &m_mainMenu : nullptr})) {
-    host::CallTrace& trace = m_app->trace();
+    host::CallTrace& trace = m_program->session().trace();
     trace.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
     trace.onMisuse = [this](const std::string& what) { m_misuse.push_back(what); };
     trace.onEnter = [this](const char* operation, bool hasResult) {
@@ -38,7 +38,7 @@ MemoryHost::MemoryHost() : MemoryHost(Empty{}) {
 MemoryHost::~MemoryHost() = default;
 
 host::Frame& MemoryHost::frame() {
-    host::Frame* const active = m_app->page().active();
+    host::Frame* const active = m_program->session().page().active();
     if (active == nullptr) {
         throw std::logic_error("The page has no frame.");
     }
@@ -46,7 +46,7 @@ host::Frame& MemoryHost::frame() {
 }
 
 host::Frame& MemoryHost::addFrame(host::Placement placement) {
-    host::Frame& added = m_app->page().createFrame(placement);
+    host::Frame& added = m_program->session().page().createFrame(placement);
     added.attachData(makeTransientData());
     host::chooseDefaultPlots(added);
     return added;
@@ -55,12 +55,13 @@ host::Frame& MemoryHost::addFrame(host::Placement placement) {
 void MemoryHost::setData(std::shared_ptr<const host::DataSet> data) {
     const bool isAttached = data != nullptr;
     frame().attachData(std::move(data));
-    m_app->pageChanged(isAttached ? StateChange_DataSetAttached : StateChange_DataSetRemoved);
+    m_program->session().pageChanged(isAttached ? StateChange_DataSetAttached
+                                                : StateChange_DataSetRemoved);
 }
 
 void MemoryHost::setPlotType(PlotType_e type) {
     frame();
-    m_app->setPlotType(type);
+    m_program->session().setPlotType(type);
 }
 
 std::vector<std::string> MemoryHost::callsOf(std::string_view prefix) const {
@@ -92,7 +93,7 @@ bool MemoryHost::isExpected(const std::string& misuse) const {
 }
 
 std::vector<std::string> MemoryHost::recordedCommands() {
-    std::vector<std::string> lines = m_app->recorder().stop();
+    std::vector<std::string> lines = m_program->recorder().stop();
     std::erase_if(lines, [](const std::string& line) { return !line.starts_with("$!EXTCOMMAND"); });
     return lines;
 }
@@ -112,16 +113,17 @@ std::vector<std::string> MemoryHost::leftBehind() const {
             findings.push_back("no misuse although it was expected: " + part);
         }
     }
-    if (m_app->locks().depth() != 0) {
-        findings.push_back("locks held: " + std::to_string(m_app->locks().depth()));
+    if (m_program->session().locks().depth() != 0) {
+        findings.push_back("locks held: " + std::to_string(m_program->session().locks().depth()));
     }
-    if (m_app->drawing().suspensions() != 0) {
-        findings.push_back("drawing suspended: " + std::to_string(m_app->drawing().suspensions()));
+    if (m_program->session().drawing().suspensions() != 0) {
+        findings.push_back("drawing suspended: " +
+                           std::to_string(m_program->session().drawing().suspensions()));
     }
-    if (m_app->status().isActive()) {
+    if (m_program->session().status().isActive()) {
         findings.push_back("the percent-done display is open");
     }
-    if (m_app->exporter().isRecording()) {
+    if (m_program->session().exporter().isRecording()) {
         findings.push_back("a movie is being recorded");
     }
     return findings;

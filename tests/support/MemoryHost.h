@@ -1,7 +1,7 @@
 // The host of the tests: the real core and C operations, with everything outside in memory.
 #pragma once
 
-#include "host/core/Application.h"
+#include "host/core/Host.h"
 #include "tests/support/MemoryData.h"
 #include "tests/support/MemoryMainMenu.h"
 #include "tests/support/MemoryMovies.h"
@@ -10,7 +10,7 @@
 #include "tests/support/MemoryRenderer.h"
 #include "tests/support/MemoryWidgets.h"
 #include "tests/support/ScriptedCalls.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/ScriptedPrompts.h"
 #include "tests/support/ScriptedStatus.h"
 
 #include <cstddef>
@@ -40,13 +40,14 @@ public:
     MemoryHost(const MemoryHost&) = delete;
     MemoryHost& operator=(const MemoryHost&) = delete;
 
-    host::Application& app() { return *m_app; }
+    host::Host& program() { return *m_program; }
+    host::Session& session() { return m_program->session(); }
     MemoryRenderer& renderer() { return m_renderer; }
     MemoryMovies& movies() { return m_movies; }
     MemoryPictures& pictures() { return m_pictures; }
     MemoryReader& reader() { return m_reader; }
     ScriptedStatus& status() { return m_status; }
-    ScriptedDialogs& dialogs() { return m_dialogs; }
+    ScriptedPrompts& prompts() { return m_prompts; }
     /// The dialogs of add-ons, for the user.
     MemoryWidgets& gui() { return m_widgets; }
     MemoryMainMenu& mainMenu() { return m_mainMenu; }
@@ -61,7 +62,7 @@ public:
     void setPlotType(PlotType_e type);
 
     /// What the event loop does when nothing is pending.
-    void runIdle() { m_app->onIdle(); }
+    void runIdle() { m_program->session().onIdle(); }
     /// How often the host asked for idle time.
     std::size_t idleRequests() const { return m_idleTimer.requests; }
 
@@ -121,7 +122,7 @@ private:
     MemoryPictures m_pictures;
     MemoryReader m_reader;
     ScriptedStatus m_status;
-    ScriptedDialogs m_dialogs;
+    ScriptedPrompts m_prompts;
     CountingTimer m_idleTimer;
     MemoryWidgets m_widgets;
     MemoryMainMenu m_mainMenu;
@@ -129,7 +130,7 @@ private:
     std::vector<host::TraceRecord> m_records;
     std::vector<std::string> m_misuse;
     std::vector<std::string> m_expectedMisuse;
-    std::unique_ptr<host::Application> m_app;
+    std::unique_ptr<host::Host> m_program;
 };
 
 } // namespace corvane::test

@@ -1,7 +1,7 @@
 // Movies that are counted instead of encoded.
 #include "tests/support/MemoryMovies.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 
 #include <fstream>
 #include <utility>

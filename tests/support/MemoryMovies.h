@@ -1,7 +1,7 @@
 // Movies that are counted instead of encoded.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <cstddef>
 #include <deque>

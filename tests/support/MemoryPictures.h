@@ -1,7 +1,7 @@
 // Picture files, kept in memory.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <string>
 #include <vector>

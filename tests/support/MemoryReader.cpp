@@ -1,7 +1,7 @@
 // Reads data that tests made.
 #include "tests/support/MemoryReader.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 #include "tests/support/MemoryData.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 // Reads data that tests made.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 // Draws nothing, and remembers what was to be drawn.
 #include "tests/support/MemoryRenderer.h"
 
-#include "host/core/HostError.h"
+#include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
 
 #include <utility>

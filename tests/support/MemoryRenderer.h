@@ -1,9 +1,9 @@
 // Draws nothing, and remembers what was to be drawn.
 #pragma once
 
-#include "host/core/Ports.h"
 #include "host/core/page/FrameStyle.h"
 #include "host/core/page/View3D.h"
+#include "host/core/ports/Ports.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,7 +1,7 @@
 // A percent-done display that remembers what it showed, and a user who stops on cue.
 #pragma once
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <cstddef>
 #include <string>

@@ -20,7 +20,7 @@ public:
     /// Makes a file in it, and gives its name.
     std::string write(const std::string& name, const std::string& content) const;
     std::string read(const std::string& name) const; ///< throws std::runtime_error without the file
-    std::set<std::string> names() const; ///< of what lies in it
+    std::set<std::string> names() const;             ///< of what lies in it
     bool has(const std::string& name) const { return std::filesystem::exists(m_path / name); }
 
 private:

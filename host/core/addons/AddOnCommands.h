@@ -8,7 +8,7 @@
 
 namespace corvane::host {
 
-/// Runs one add-on command, behind the exception wall of Application::callAddOn. Nothing: it
+/// Runs one add-on command, behind the guard of Session::callAddOn. Nothing: it
 /// succeeded; else what went wrong.
 using AddOnCommand = std::function<std::optional<std::string>(const std::string& command)>;
 

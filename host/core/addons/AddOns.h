@@ -17,8 +17,6 @@ struct CorAddOn_s {
 
 namespace corvane::host {
 
-class Application;
-
 /// The number of the contract that this host offers.
 inline constexpr int interfaceNumber = 110;
 
@@ -34,11 +32,5 @@ private:
     std::vector<std::unique_ptr<CorAddOn_s>> m_addOns;
     std::vector<void*> m_libraries;
 };
-
-/// Loads the library and calls its entry point behind the exception wall. The library stays loaded
-/// until the process ends, since its objects are destroyed then. What the entry point throws is
-/// shown to the user, and the add-on stays with what it has registered by then. Throws HostError
-/// for a file that is no add-on: the library, and what is wrong with it.
-void loadAddOn(Application& application, const std::string& library);
 
 } // namespace corvane::host

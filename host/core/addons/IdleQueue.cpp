@@ -1,7 +1,7 @@
 // Keeps work for idle time, and does it.
 #include "host/core/addons/IdleQueue.h"
 
-#include "host/core/Ports.h"
+#include "host/core/ports/Ports.h"
 
 #include <utility>
 
@@ -22,11 +22,7 @@ void IdleQueue::run() {
     for (std::size_t left = m_work.size(); left > 0 && !m_work.empty(); --left) {
         const Entry entry = std::move(m_work.front());
         m_work.pop_front();
-        if (caller) {
-            caller(ofOwner("idle work", entry.owner), entry.work);
-        } else {
-            entry.work();
-        }
+        m_caller(ofOwner("idle work", entry.owner), entry.work);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace corvane::host {
 
@@ -13,7 +14,9 @@ class IdleTimer;
 
 class IdleQueue {
 public:
-    explicit IdleQueue(IdleTimer* timer) : m_timer(timer) {}
+    /// timer may be null: there is no event loop. caller runs each entry.
+    explicit IdleQueue(IdleTimer* timer, AddOnCaller caller = callPlainly)
+        : m_timer(timer), m_caller(std::move(caller)) {}
 
     /// Each entry runs once, in order; duplicates are kept. owner names the add-on for the trace.
     /// Ignored after close().
@@ -24,8 +27,6 @@ public:
     bool isEmpty() const { return m_work.empty(); }
     void close(); ///< drops everything, for good
 
-    AddOnCaller caller; ///< of each entry
-
 private:
     struct Entry {
         std::function<void()> work;
@@ -33,6 +34,7 @@ private:
     };
 
     IdleTimer* m_timer;
+    AddOnCaller m_caller;
     std::deque<Entry> m_work;
     bool m_closed = false;
 };

@@ -42,11 +42,7 @@ void StateChanges::notify(StateChange_e change) {
 }
 
 void StateChanges::call(const std::string& owner, const std::function<void()>& work) const {
-    if (caller) {
-        caller(ofOwner("state change", owner), work);
-    } else {
-        work();
-    }
+    m_caller(ofOwner("state change", owner), work);
 }
 
 } // namespace corvane::host

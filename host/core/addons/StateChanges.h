@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace corvane::host {
@@ -13,6 +14,9 @@ namespace corvane::host {
 /// One call per change, after the host's own state is consistent; nothing is coalesced.
 class StateChanges {
 public:
+    /// caller calls callbacks and listeners.
+    explicit StateChanges(AddOnCaller caller = callPlainly) : m_caller(std::move(caller)) {}
+
     using Callback = void (*)(StateChange_e);
     using Listener = void (*)(StateChange_e, void*);
 
@@ -24,8 +28,6 @@ public:
     bool removeListener(Listener listener, void* clientData);
 
     void notify(StateChange_e change);
-
-    AddOnCaller caller; ///< of callbacks and listeners
 
 private:
     struct CallbackEntry {
@@ -42,6 +44,7 @@ private:
     };
     void call(const std::string& owner, const std::function<void()>& work) const;
 
+    AddOnCaller m_caller;
     std::vector<CallbackEntry> m_callbacks;
     std::vector<ListenerEntry> m_listeners;
 };

@@ -22,10 +22,10 @@ struct Box {
 };
 
 /// What an add-on wants to be told. Any of them may be empty.
-using Told = std::function<void()>;
-using ToldText = std::function<bool(const std::string&)>; ///< false: the text is refused
-using ToldPosition = std::function<void(long)>;           ///< from 1
-using ToldState = std::function<void(bool)>;
+using OnPress = std::function<void()>;
+using OnText = std::function<bool(const std::string&)>; ///< false: the text is refused
+using OnPosition = std::function<void(long)>;           ///< from 1
+using OnState = std::function<void(bool)>;
 
 struct Control {
     Control() = default;
@@ -52,15 +52,15 @@ struct Dialog : Control {
     int height = 0;
     bool isModal = false;
     bool isUp = false;
-    Told init;
-    Told ok;      ///< of modal dialogs
-    Told apply;   ///< empty: there is no Apply
-    Told dismiss; ///< cancel of a modal dialog, close of another
-    Told help;    ///< empty: there is no Help
+    OnPress init;
+    OnPress ok;      ///< of modal dialogs
+    OnPress apply;   ///< empty: there is no Apply
+    OnPress dismiss; ///< cancel of a modal dialog, close of another
+    OnPress help;    ///< empty: there is no Help
 };
 
 struct Button : PlacedControl {
-    Told pressed;
+    OnPress pressed;
 };
 
 struct Label : PlacedControl {};
@@ -70,33 +70,33 @@ struct GroupBox : PlacedControl {};
 struct TextField : PlacedControl {
     std::string shown;
     std::string committed; ///< what was committed or set last
-    ToldText told;
+    OnText callback;
 
     bool isPending() const { return shown != committed; }
 };
 
 struct SpinField : TextField {
-    Told up;
-    Told down;
+    OnPress up;
+    OnPress down;
 };
 
 struct Toggle : PlacedControl {
     bool isOn = false;
-    ToldState told;
+    OnState callback;
 };
 
 struct List : PlacedControl {
     bool isMulti = false;
     std::vector<std::string> rows;
     std::vector<long> selection; ///< positions, ascending
-    ToldPosition told;           ///< the first selected one, 0 for none
+    OnPosition callback;         ///< the first selected one, 0 for none
 };
 
 struct OptionMenu : PlacedControl {
     std::vector<std::string> items;
     /// Stays when the items go: it counts again when there are that many again.
     long wanted = 1;
-    ToldPosition told;
+    OnPosition callback;
 
     long chosen() const {
         const long count = static_cast<long>(items.size());
@@ -107,7 +107,7 @@ struct OptionMenu : PlacedControl {
 struct RadioBox : PlacedControl {
     std::vector<std::string> items;
     long chosen = 0; ///< 0: none is on
-    ToldPosition told;
+    OnPosition callback;
 };
 
 /// Menu bars and menus.
@@ -127,12 +127,12 @@ struct MenuEntry : Control {
 };
 
 struct MenuItem : MenuEntry {
-    Told told;
+    OnPress callback;
 };
 
 struct MenuToggle : MenuEntry {
     bool isOn = false;
-    ToldState told;
+    OnState callback;
 };
 
 /// Whether it, or what it is in, was made insensitive.

@@ -17,15 +17,16 @@ T* ControlActions::reachable(int handle) const {
     return control != nullptr && isReachable(*control) ? control : nullptr;
 }
 
-void ControlActions::tell(const Control& control, const Told& told) {
-    if (told) {
-        m_controls.caller(nameInTrace(control), told);
+void ControlActions::tell(const Control& control, const OnPress& callback) {
+    if (callback) {
+        m_controls.callAddOn(nameInTrace(control), callback);
     }
 }
 
-void ControlActions::tellPosition(const Control& control, const ToldPosition& told, long position) {
-    if (told) {
-        m_controls.caller(nameInTrace(control), [&] { told(position); });
+void ControlActions::tellPosition(const Control& control, const OnPosition& callback,
+                                  long position) {
+    if (callback) {
+        m_controls.callAddOn(nameInTrace(control), [&] { callback(position); });
     }
 }
 
@@ -35,12 +36,12 @@ bool ControlActions::commit(TextField& field) {
     }
     // First, since an error box of the add-on takes the focus, which commits again.
     field.committed = field.shown;
-    if (!field.told) {
+    if (!field.callback) {
         return true;
     }
     const std::string text = field.committed;
     bool isAccepted = false;
-    m_controls.caller(nameInTrace(field), [&] { isAccepted = field.told(text); });
+    m_controls.callAddOn(nameInTrace(field), [&] { isAccepted = field.callback(text); });
     return isAccepted;
 }
 
@@ -68,7 +69,7 @@ void ControlActions::press(int handle) {
 
 void ControlActions::trigger(int handle) {
     if (const auto* item = reachable<MenuItem>(handle); item != nullptr && prepare(*item)) {
-        tell(*item, item->told);
+        tell(*item, item->callback);
     }
 }
 
@@ -79,8 +80,8 @@ void ControlActions::switchOne(T& toggle, bool isOn) {
         return;
     }
     m_controls.setState(toggle, isOn);
-    if (toggle.told) {
-        m_controls.caller(nameInTrace(toggle), [&] { toggle.told(isOn); });
+    if (toggle.callback) {
+        m_controls.callAddOn(nameInTrace(toggle), [&] { toggle.callback(isOn); });
     }
 }
 
@@ -104,7 +105,7 @@ void ControlActions::select(int handle, std::vector<long> positions) {
     const std::vector<long> before = list->selection;
     m_controls.select(*list, std::move(positions));
     if (list->selection != before) {
-        tellPosition(*list, list->told, list->selection.empty() ? 0 : list->selection.front());
+        tellPosition(*list, list->callback, list->selection.empty() ? 0 : list->selection.front());
     }
 }
 
@@ -116,7 +117,7 @@ void ControlActions::chooseIn(T& control, long position) {
         return;
     }
     m_controls.choose(control, position);
-    tellPosition(control, control.told, position);
+    tellPosition(control, control.callback, position);
 }
 
 void ControlActions::choose(int handle, long position) {

@@ -51,8 +51,8 @@ private:
     bool commit(TextField& field);
     bool flush(const Dialog& dialog, const Control* except);
     bool prepare(const Control& control);
-    void tell(const Control& control, const Told& told);
-    void tellPosition(const Control& control, const ToldPosition& told, long position);
+    void tell(const Control& control, const OnPress& callback);
+    void tellPosition(const Control& control, const OnPosition& callback, long position);
     template <class T>
     void switchOne(T& toggle, bool isOn);
     template <class T>

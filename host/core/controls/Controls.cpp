@@ -94,7 +94,7 @@ void Controls::launch(Dialog& dialog) {
     }
     m_toolkit->show(dialog);
     if (dialog.init) {
-        caller("launch of " + nameInTrace(dialog), dialog.init);
+        callAddOn("launch of " + nameInTrace(dialog), dialog.init);
     }
 }
 

@@ -16,7 +16,9 @@ namespace corvane::host {
 /// set, and that is all. What users do is the business of ControlActions.
 class Controls {
 public:
-    explicit Controls(Widgets* toolkit) : m_toolkit(toolkit) {} ///< null: there are no windows
+    /// toolkit may be null: there are no windows. caller calls the add-ons.
+    explicit Controls(Widgets* toolkit, AddOnCaller caller = callPlainly)
+        : m_toolkit(toolkit), m_caller(std::move(caller)) {}
     ~Controls();
     Controls(const Controls&) = delete;
     Controls& operator=(const Controls&) = delete;
@@ -77,8 +79,10 @@ public:
     /// Shows what a control is, whatever the user has made of it.
     void show(const Control& control, ControlChange change) const;
 
-    /// Calls an add-on; the application puts its exception wall here.
-    AddOnCaller caller;
+    /// what says which control it is about, for the trace.
+    void callAddOn(const std::string& what, const std::function<void()>& call) const {
+        m_caller(what, call);
+    }
 
     /// Takes all windows away, for good. Nothing can be made afterwards.
     void close();
@@ -88,6 +92,7 @@ private:
     T& adopt(T control);
 
     Widgets* m_toolkit;
+    AddOnCaller m_caller;
     std::vector<std::unique_ptr<Control>> m_controls; ///< handles are indices
     std::vector<Dialog*> m_modal;                     ///< those that are up, the latest one last
     int m_modalLaunches = 0;

@@ -32,9 +32,9 @@ bool MenuOptions::add(const std::string& menu, std::string label, std::function<
     auto option = std::make_unique<MenuOption>();
     option->menu = withoutMnemonic(menu);
     option->label = std::move(label);
-    option->chosen = [this, &added = *option, told = std::move(callback), owner] {
+    option->chosen = [this, &added = *option, callback = std::move(callback), owner] {
         if (added.isSensitive) {
-            caller(ofOwner("the menu option \"" + added.label + '"', owner), told);
+            m_caller(ofOwner("the menu option \"" + added.label + '"', owner), callback);
         }
     };
     m_options.push_back(std::move(option));

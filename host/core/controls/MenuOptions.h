@@ -7,13 +7,16 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace corvane::host {
 
 class MenuOptions {
 public:
-    explicit MenuOptions(MainMenu* menu) : m_menu(menu) {} ///< null: there is no main window
+    /// menu may be null: there is no main window. caller calls the add-ons.
+    explicit MenuOptions(MainMenu* menu, AddOnCaller caller = callPlainly)
+        : m_menu(menu), m_caller(std::move(caller)) {}
     ~MenuOptions();
     MenuOptions(const MenuOptions&) = delete;
     MenuOptions& operator=(const MenuOptions&) = delete;
@@ -25,13 +28,11 @@ public:
     bool setSensitivity(const std::string& menu, const std::string& label, bool isSensitive);
     const std::vector<std::unique_ptr<MenuOption>>& all() const { return m_options; }
 
-    /// Calls an add-on; the application puts its exception wall here.
-    AddOnCaller caller;
-
     void close(); ///< takes the options away, for good
 
 private:
     MainMenu* m_menu;
+    AddOnCaller m_caller;
     std::vector<std::unique_ptr<MenuOption>> m_options;
 };
 

@@ -1,8 +1,8 @@
 // Macros on the disk.
 #include "host/core/macro/MacroFile.h"
 
-#include "host/core/HostError.h"
-#include "host/core/PartFile.h"
+#include "host/core/base/HostError.h"
+#include "host/core/base/PartFile.h"
 
 #include <cerrno>
 #include <cstring>

@@ -12,8 +12,8 @@ void MacroRecorder::start() {
     m_lines.clear();
     m_endsWithState = false;
     m_recording = true;
-    if (onStart) {
-        onStart();
+    if (m_listener != nullptr) {
+        m_listener->recordingStarted();
     }
 }
 
@@ -29,8 +29,8 @@ const std::vector<std::string>& MacroRecorder::lines() {
 }
 
 void MacroRecorder::catchUp() {
-    if (m_recording && onCatchUp) {
-        onCatchUp();
+    if (m_recording && m_listener != nullptr) {
+        m_listener->recordingCatchesUp();
     }
 }
 
@@ -58,8 +58,8 @@ void MacroRecorder::recordState(const std::string& line) {
 bool MacroRecorder::recordAddOnCommand(const std::string& macroName, const std::string& command) {
     const bool isKept = recordRaw("$!EXTCOMMAND " + quoted(MacroVariables::escaped(macroName)) +
                                   " " + quoted(MacroVariables::escaped(command)));
-    if (isKept && onAddOnCommand) {
-        onAddOnCommand();
+    if (isKept && m_listener != nullptr) {
+        m_listener->addOnCommandRecorded();
     }
     return isKept;
 }

@@ -1,11 +1,22 @@
 // Keeps the lines of a macro while it is being recorded.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace corvane::host {
+
+/// Told what happens to a recording, so that what changed without a command can be recorded in its
+/// place.
+class RecordingListener {
+public:
+    virtual ~RecordingListener() = default;
+    virtual void recordingStarted() = 0;
+    /// A line is about to be kept, or lines to be given away.
+    virtual void recordingCatchesUp() = 0;
+    /// The command of an add-on has been kept, which does again what it did.
+    virtual void addOnCommandRecorded() = 0;
+};
 
 /// While it is on, keeps the lines of a macro in order.
 class MacroRecorder {
@@ -25,17 +36,13 @@ public:
 
     const std::vector<std::string>& lines(); ///< up to now
 
-    /// Called when a recording has begun.
-    std::function<void()> onStart;
-    /// Called before a line is kept or lines are given away, so that what happened without a
-    /// command can be recorded in its place.
-    std::function<void()> onCatchUp;
-    /// Called when the command of an add-on has been kept, which does again what it did.
-    std::function<void()> onAddOnCommand;
+    /// There is one at most, and it takes itself away (null) before it ends.
+    void setListener(RecordingListener* listener) { m_listener = listener; }
 
 private:
     void catchUp();
 
+    RecordingListener* m_listener = nullptr;
     bool m_recording = false;
     bool m_endsWithState = false;
     std::vector<std::string> m_lines;

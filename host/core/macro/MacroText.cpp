@@ -97,7 +97,7 @@ private:
         const std::size_t begin = m_at;
         while (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
             if (m_text[m_at] == '"') {
-                throw std::invalid_argument("A quote stands within a word.");
+                throw HostError("A quote stands within a word.");
             }
             ++m_at;
         }
@@ -110,11 +110,11 @@ private:
             result += m_text[m_at] == '\\' ? escaped() : m_text[m_at];
         }
         if (atEnd()) {
-            throw std::invalid_argument("A closing quote is missing.");
+            throw HostError("A closing quote is missing.");
         }
         ++m_at;
         if (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
-            throw std::invalid_argument("A blank is missing behind a quoted word.");
+            throw HostError("A blank is missing behind a quoted word.");
         }
         return result;
     }
@@ -130,8 +130,7 @@ private:
         case 'n':
             return '\n';
         default:
-            throw std::invalid_argument(
-                "A backslash within quotes must be followed by \\, \" or n.");
+            throw HostError("A backslash within quotes must be followed by \\, \" or n.");
         }
     }
 
@@ -145,8 +144,8 @@ private:
 
 MacroError::MacroError(const std::string& file, unsigned long line, const std::string& text,
                        const std::string& cause)
-    : std::runtime_error(shown(file, longestCause) + ":" + std::to_string(line) + ": " +
-                         shown(text, longestShown) + "\n" + shown(cause, longestCause)) {}
+    : HostError(shown(file, longestCause) + ":" + std::to_string(line) + ": " +
+                shown(text, longestShown) + "\n" + shown(cause, longestCause)) {}
 
 std::string quoted(const std::string& text) {
     std::string result = "\"";
@@ -239,7 +238,7 @@ void MacroReader::parse(const std::string& text, MacroLine& line) const {
     line.text = text;
     try {
         line.words = splitWords(std::string(nameEnd, text.end()));
-    } catch (const std::invalid_argument& error) {
+    } catch (const HostError& error) {
         fail(text, error.what());
     }
 }

@@ -1,8 +1,9 @@
 // The text of macros: lines, words and quotes.
 #pragma once
 
+#include "host/core/base/HostError.h"
+
 #include <istream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,7 @@ namespace corvane::host {
 
 /// A macro that cannot be read or carried out. what() names file and line, shows the line and tells
 /// the cause; none of them does harm in a terminal, however long or odd the file is.
-class MacroError : public std::runtime_error {
+class MacroError : public HostError {
 public:
     MacroError(const std::string& file, unsigned long line, const std::string& text,
                const std::string& cause);
@@ -33,7 +34,7 @@ std::string quoted(const std::string& text);
 std::string macroLine(const std::string& name, const std::vector<std::string>& words);
 
 /// Words are separated by blanks and tabs; "=" is a word of its own outside quotes; a word in
-/// double quotes may hold anything, with \", \\ and \n as above. Throws std::invalid_argument with
+/// double quotes may hold anything, with \", \\ and \n as above. Throws HostError with
 /// the cause.
 std::vector<std::string> splitWords(const std::string& text);
 

@@ -8,7 +8,7 @@
 namespace corvane::host {
 
 /// Names are letters, digits and underscores, and do not begin with a digit; case counts. Functions
-/// throw std::invalid_argument with the cause.
+/// throw HostError with the cause.
 class MacroVariables {
 public:
     void set(const std::string& name, const std::string& value);

@@ -1,7 +1,7 @@
 // Reads values from the words of macros, the same way in every country.
 #include "host/core/macro/MacroWords.h"
 
-#include "host/core/Application.h"
+#include "host/core/base/HostError.h"
 #include "host/core/page/StyleTree.h"
 
 #include <array>
@@ -25,22 +25,12 @@ T parsed(const std::string& text) {
 
 } // namespace
 
-std::string MacroCall::path(const std::string& fileName) const {
-    return (std::filesystem::path(folder) / fileName).string();
-}
-
 std::string absoluteName(const std::string& fileName) {
     return std::filesystem::absolute(fileName).lexically_normal().string();
 }
 
-void expectNoAnimation(const Application& application) {
-    if (application.isAnimating()) {
-        reject("An animation is running.");
-    }
-}
-
 void reject(const std::string& cause) {
-    throw std::invalid_argument(cause);
+    throw HostError(cause);
 }
 
 void expect(bool isSo, const char* form) {

@@ -1,35 +1,19 @@
 // The words behind a macro command as values.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace corvane::host {
 
-class Application;
-
-/// One command on its way to be carried out.
-struct MacroCall {
-    Application& application;
-    const std::vector<std::string>& words; ///< behind the command
-    const std::string& folder;             ///< of the macro; file names are relative to it
-
-    /// The name of a file as it can be opened.
-    std::string path(const std::string& fileName) const;
-};
-
 /// The name of a file in a form that does not depend on the folder in which a macro is played.
 std::string absoluteName(const std::string& fileName);
 
-/// Throws std::invalid_argument with the cause.
+/// Throws HostError with the cause.
 [[noreturn]] void reject(const std::string& cause);
 /// Rejects with "Expected FORM." unless isSo.
 void expect(bool isSo, const char* form);
-
-/// For commands about the active frame and for those of add-ons, which would lose it.
-void expectNoAnimation(const Application& application);
 
 /// All of these reject texts that are none.
 double numberFrom(const std::string& text);

@@ -1,7 +1,7 @@
 // Frames and the data they show.
 #include "host/core/page/Frame.h"
 
-#include "host/core/page/FrameStyles.h"
+#include "host/core/page/StyleBindings.h"
 
 #include <algorithm>
 #include <utility>

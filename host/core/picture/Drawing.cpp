@@ -1,9 +1,9 @@
 // Decides when the page is drawn.
 #include "host/core/picture/Drawing.h"
 
-#include "host/core/Ports.h"
 #include "host/core/addons/Locks.h"
 #include "host/core/page/Page.h"
+#include "host/core/ports/Ports.h"
 
 namespace corvane::host {
 

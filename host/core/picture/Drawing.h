@@ -1,7 +1,7 @@
 // When pictures are made: at once on request, for a movie, or when it is due.
 #pragma once
 
-#include "host/core/picture/Picture.h"
+#include "host/core/ports/Picture.h"
 
 #include <cstdint>
 

@@ -1,13 +1,13 @@
 // Records movies, and cleans up after those that fail.
 #include "host/core/picture/Exporter.h"
 
-#include "host/core/HostError.h"
-#include "host/core/PartFile.h"
-#include "host/core/Ports.h"
+#include "host/core/base/HostError.h"
+#include "host/core/base/PartFile.h"
 #include "host/core/page/Page.h"
 #include "host/core/picture/Drawing.h"
 #include "host/core/picture/ExportSetup.h"
 #include "host/core/picture/PictureRequests.h"
+#include "host/core/ports/Ports.h"
 
 #include <new>
 

@@ -1,7 +1,7 @@
 // Writes a movie picture by picture, as an add-on asks for it.
 #pragma once
 
-#include "host/core/picture/Picture.h"
+#include "host/core/ports/Picture.h"
 
 #include <memory>
 #include <string>

@@ -1,9 +1,9 @@
 // From a region and a width to a picture that can be drawn.
 #include "host/core/picture/PictureRequests.h"
 
-#include "host/core/HostError.h"
-#include "host/core/Ports.h"
+#include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
+#include "host/core/ports/Ports.h"
 
 #include <algorithm>
 #include <cmath>

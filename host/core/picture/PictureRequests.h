@@ -1,7 +1,7 @@
 // From a region and a width to a picture that can be drawn.
 #pragma once
 
-#include "host/core/picture/Picture.h"
+#include "host/core/ports/Picture.h"
 
 namespace corvane::host {
 

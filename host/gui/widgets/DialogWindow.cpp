@@ -1,7 +1,7 @@
 // The window of a dialog of an add-on.
 #include "host/gui/widgets/DialogWindow.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 #include "host/gui/widgets/ScrolledArea.h"
 
 #include <QCloseEvent>

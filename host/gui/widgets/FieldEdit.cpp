@@ -1,7 +1,7 @@
 // A text field of an add-on.
 #include "host/gui/widgets/FieldEdit.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 // Entries in the menus of an add-on's dialog.
 #include "host/gui/widgets/MenuAction.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 #include "host/gui/widgets/PlainText.h"
 
 namespace corvane::gui {

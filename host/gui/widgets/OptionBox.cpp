@@ -1,7 +1,7 @@
 // An option menu of an add-on.
 #include "host/gui/widgets/OptionBox.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 
 namespace corvane::gui {
 

@@ -1,7 +1,7 @@
 // Texts of add-ons as Qt has to be given them, so that it takes nothing in them for mark-up.
 #include "host/gui/widgets/PlainText.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 
 #include <QTextDocument>
 

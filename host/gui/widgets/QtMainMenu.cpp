@@ -1,7 +1,7 @@
 // The options of add-ons in the menu bar of the main window.
 #include "host/gui/widgets/QtMainMenu.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 #include "host/gui/widgets/PlainText.h"
 
 #include <QAction>

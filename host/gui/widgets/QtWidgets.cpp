@@ -1,7 +1,7 @@
 // The dialogs and controls of add-ons, in Qt.
 #include "host/gui/widgets/QtWidgets.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 #include "host/gui/widgets/DialogWindow.h"
 #include "host/gui/widgets/FieldEdit.h"
 #include "host/gui/widgets/MenuAction.h"

@@ -1,7 +1,7 @@
 // A radio box of an add-on.
 #include "host/gui/widgets/RadioColumn.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 
 #include <QRadioButton>
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 // The rows of a list of an add-on, for Qt's views.
 #include "host/gui/widgets/RowsModel.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 
 namespace corvane::gui {
 

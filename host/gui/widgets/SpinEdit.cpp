@@ -1,7 +1,7 @@
 // A text field with two arrows of an add-on.
 #include "host/gui/widgets/SpinEdit.h"
 
-#include "host/gui/QtText.h"
+#include "host/gui/base/QtText.h"
 #include "host/gui/widgets/FieldEdit.h"
 
 #include <QKeyEvent>

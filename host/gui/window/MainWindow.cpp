@@ -1,8 +1,8 @@
 // The main window as furniture: menu bar, drawing area, side and bottom, without a host behind it.
 #include "host/gui/window/MainWindow.h"
 
-#include "host/gui/window/DrawingArea.h"
-#include "host/gui/window/ProgressStrip.h"
+#include "host/gui/status/ProgressStrip.h"
+#include "host/gui/view/DrawingArea.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>

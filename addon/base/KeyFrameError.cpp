@@ -1,0 +1,14 @@
+// The add-on's one exception for errors that are meant for the user.
+#include "addon/base/KeyFrameError.h"
+
+namespace corvane::corutiltools {
+
+KeyFrameError::KeyFrameError(std::string const& message) : m_message(message) {}
+
+KeyFrameError::~KeyFrameError() = default;
+
+char const* KeyFrameError::what() const noexcept {
+    return m_message.c_str();
+}
+
+} // namespace corvane::corutiltools

@@ -1,0 +1,21 @@
+// Carries out one command of a macro.
+#include "addon/replay/CommandExecuterAbstract.h"
+
+namespace corvane::corutiltools {
+
+CommandExecuterAbstract::~CommandExecuterAbstract() = default;
+
+std::string CommandExecuterAbstract::quotedKeyword(Parameter_e parameter) {
+    return '"' + EnumMap<Parameter_e>::instance().toString(parameter) + '"';
+}
+
+bool CommandExecuterAbstract::convert(std::string const& text, std::string& value) {
+    value = text;
+    return true;
+}
+
+bool CommandExecuterAbstract::convert(std::string const& text, Destination_e& value) {
+    return EnumMap<Destination_e>::instance().fromString(text, value);
+}
+
+} // namespace corvane::corutiltools

@@ -1,8 +1,0 @@
-// The add-on's identity towards the host.
-#include "addon/shell/AddOnID.h"
-
-namespace corvane::corutiltools {
-
-CorAddOnID AddOnID = nullptr;
-
-} // namespace corvane::corutiltools

@@ -1,0 +1,145 @@
+// The state of the host and the rules by which it changes.
+#pragma once
+
+#include "host/core/addons/AddOnCommands.h"
+#include "host/core/addons/AddOns.h"
+#include "host/core/addons/CallTrace.h"
+#include "host/core/addons/IdleQueue.h"
+#include "host/core/addons/Locks.h"
+#include "host/core/addons/StateChanges.h"
+#include "host/core/controls/ControlActions.h"
+#include "host/core/controls/Controls.h"
+#include "host/core/controls/MenuOptions.h"
+#include "host/core/page/Page.h"
+#include "host/core/page/StyleTree.h"
+#include "host/core/picture/Drawing.h"
+#include "host/core/picture/ExportSetup.h"
+#include "host/core/picture/Exporter.h"
+#include "host/core/ports/Ports.h"
+#include "host/core/session/AddOnCallGuard.h"
+#include "host/core/session/StatusLine.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace corvane::host {
+
+/// References must outlive the session.
+struct Ports {
+    Renderer& renderer;
+    DataReader& reader;
+    MovieWriters& movies;
+    StatusDisplay& status;
+    UserPrompts& prompts;
+    PictureFiles& pictures;
+    Screen* screen = nullptr;       ///< null: nobody looks
+    IdleTimer* idleTimer = nullptr; ///< null: no event loop
+    Widgets* widgets = nullptr;     ///< null: add-ons can make no dialogs
+    MainMenu* mainMenu = nullptr;   ///< null: add-ons can add no menu options
+};
+
+/// Everything here belongs to the one user-interface thread, the one that made it. Knows nothing of
+/// the macro language: see Host.
+class Session {
+public:
+    explicit Session(Ports ports);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    Page& page() { return m_page; }
+    Locks& locks() { return m_locks; }
+    Drawing& drawing() { return m_drawing; }
+    IdleQueue& idle() { return m_idle; }
+    StateChanges& stateChanges() { return m_stateChanges; }
+    StatusLine& status() { return m_status; }
+    ExportSetup& exportSetup() { return m_exportSetup; }
+    Exporter& exporter() { return m_exporter; }
+    AddOns& addOns() { return m_addOns; }
+    AddOnCommands& addOnCommands() { return m_addOnCommands; }
+    CallTrace& trace() { return m_trace; }
+    UserPrompts& prompts() { return m_ports.prompts; }
+    Controls& controls() { return m_controls; }
+    ControlActions& controlActions() { return m_controlActions; }
+    MenuOptions& menuOptions() { return m_menuOptions; }
+
+    /// Style values of the frame in question (Page::current) and of the application ("Interface",
+    /// "ExportSetup"). Without a frame, or with one that is not 3D, the frame's paths answer
+    /// StyleSet_NotAllowed and StyleGet_NotAvailable.
+    StyleSetResult_e setStyle(const StylePath& path, const StyleInput& value);
+    StyleGetResult_e getStyle(const StylePath& path, StyleInput& value) const;
+    /// What kind of value stands there; null without one, and where the others do not answer.
+    const StyleLeaf* findStyle(const StylePath& path) const;
+
+    /// Reads the files into the active frame (made when there is none), chooses plots and view, and
+    /// tells the listeners. Throws HostError; the data loaded before stay then.
+    void openData(const std::vector<std::string>& files);
+    /// Without data or with a time that is not finite: false, and nothing changes.
+    bool setSolutionTime(double time);
+    /// False without a 3D frame, for an unknown axis and for degrees that are not finite.
+    bool rotateView(RotateAxis_e axis, double degrees);
+    /// False without a 3D frame. The values must lie within the bounds of the styles of the view.
+    bool setView(const View3D& view);
+    bool fitView();                    ///< false without a 3D frame and data with an extent
+    bool setPlotType(PlotType_e type); ///< false without a frame
+    /// On top of the stack and active.
+    Frame& createFrame(const Placement& placement);
+    /// False without such a frame.
+    bool placeFrame(long id, const Placement& placement);
+    bool raiseFrame(long id);
+    bool lowerFrame(long id);
+    /// See Page::resizeWorkArea.
+    void resizeWorkArea(const WorkArea& area);
+    /// False without such a frame.
+    bool activateFrame(long id);
+    bool deleteFrame(long id);
+    /// Writes a PNG file, whole or not at all. The height follows from the region. Throws
+    /// HostError.
+    void exportPicture(const std::string& fileName, ExportRegion_e region, int width,
+                       int supersample);
+    /// Announces a change made to the page, and marks it for drawing.
+    void pageChanged(StateChange_e change);
+
+    /// Calls into an add-on, behind the guard. Answers the text of what it threw, empty when
+    /// nothing.
+    std::string callAddOn(const std::string& what, const std::function<void()>& call);
+
+    /// Whether an add-on plays or records a flight.
+    bool isAnimating() const { return m_status.isActive() || m_exporter.isRecording(); }
+
+    /// To be called by the event loop when nothing else is to be done.
+    void onIdle();
+    /// Tells the listeners that the host ends, and drops idle work. Only the first call counts.
+    void quit();
+
+private:
+    void bindOwnStyles();
+    const StyleTree* treeFor(const StylePath& path) const;
+    void announce(StyleEffect effect);
+    void announceIfMoved(const Frame& frame, const View3D& before);
+    AddOnCaller addOnCaller();   ///< calls behind the guard, and tells the user what was thrown
+    Frame* spatialFrame() const; ///< the frame in question when it shows 3D
+
+    Ports m_ports;
+    CallTrace m_trace;
+    Page m_page;
+    Locks m_locks;
+    ExportSetup m_exportSetup;
+    bool m_useDisplayLists = true;
+    bool m_hasQuit = false;
+    StyleTree m_styles; ///< of the application
+    Drawing m_drawing;
+    IdleQueue m_idle;
+    StateChanges m_stateChanges;
+    StatusLine m_status;
+    Exporter m_exporter;
+    AddOns m_addOns;
+    AddOnCommands m_addOnCommands;
+    Controls m_controls;
+    ControlActions m_controlActions;
+    MenuOptions m_menuOptions;
+    AddOnCallGuard m_callGuard;
+};
+
+} // namespace corvane::host

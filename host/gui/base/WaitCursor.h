@@ -1,0 +1,17 @@
+// The pointer of a program that works, for as long as the object lives.
+#pragma once
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace corvane::gui {
+
+class WaitCursor {
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::BusyCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace corvane::gui

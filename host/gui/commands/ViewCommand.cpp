@@ -1,0 +1,20 @@
+// Views as commands of the macro language.
+#include "host/gui/commands/ViewCommand.h"
+
+#include "host/core/Host.h"
+#include "host/core/commands/SceneMacro.h"
+
+namespace corvane::gui {
+
+host::Frame* spatialFrameWithData(host::Session& session) {
+    host::Frame* const frame = session.page().active();
+    const bool isSpatial =
+        frame != nullptr && frame->data() && frame->plotType == PlotType_Cartesian3D;
+    return isSpatial ? frame : nullptr;
+}
+
+void setView(const Commands& commands, const host::View3D& view) {
+    commands.perform("VIEW", host::viewWords(view));
+}
+
+} // namespace corvane::gui

@@ -1,0 +1,72 @@
+// Ties the window to the host: what the user does there, and what the host shows there.
+#pragma once
+
+#include "host/gui/commands/Commands.h"
+#include "host/gui/commands/StateWatcher.h"
+#include "host/gui/menus/FileActions.h"
+#include "host/gui/menus/FrameActions.h"
+#include "host/gui/menus/HelpActions.h"
+#include "host/gui/menus/MacroActions.h"
+#include "host/gui/menus/PlotActions.h"
+#include "host/gui/menus/TimeActions.h"
+#include "host/gui/menus/ViewActions.h"
+#include "host/gui/menus/WindowActions.h"
+#include "host/gui/time/TimePlayer.h"
+#include "host/gui/view/ViewMouse.h"
+#include "host/gui/view/WorkAreaFitter.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace corvane::gui {
+
+class IdleDriver;
+class MainWindow;
+class PlotSidebar;
+class TimeBar;
+
+/// Host, window and driver must outlive the controller.
+class WindowController : public QObject {
+    Q_OBJECT
+
+public:
+    WindowController(host::Host& host, MainWindow& window, IdleDriver& idle);
+    ~WindowController() override;
+
+    FileActions& files() { return m_files; }
+    MacroActions& macros() { return m_macros; }
+    TimePlayer& time() { return m_time; }
+    PlotSidebar& sidebar() { return *m_sidebar; }
+
+private:
+    void addToolBar();
+    void restoreWindow();
+    void keepWindow() const;
+    /// Looks at everything again; much may have changed since the last time.
+    void refresh();
+    void refreshTitle();
+    void refreshStatus();
+    void showExportFailure();
+    bool mayClose();
+
+    Commands m_commands;
+    MainWindow& m_window;
+    IdleDriver& m_idle;
+    WorkAreaFitter m_workArea;
+    PlotSidebar* m_sidebar;
+    TimePlayer m_time;
+    FileActions m_files;
+    ViewActions m_view;
+    WindowActions m_windowActions;
+    PlotActions m_plot;
+    FrameActions m_frames;
+    TimeActions m_timeActions;
+    MacroActions m_macros;
+    HelpActions m_help;
+    ViewMouse m_mouse;
+    TimeBar* m_timeBar;
+    QTimer m_refresh;
+    StateWatcher m_watcher;
+};
+
+} // namespace corvane::gui

@@ -1,0 +1,19 @@
+// The program, its add-ons, and what it is built with.
+#pragma once
+
+#include <QDialog>
+
+namespace corvane::host {
+class Session;
+}
+
+namespace corvane::gui {
+
+class AboutBox : public QDialog {
+    Q_OBJECT
+
+public:
+    AboutBox(host::Session& session, QWidget* parent);
+};
+
+} // namespace corvane::gui

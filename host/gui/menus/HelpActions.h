@@ -1,0 +1,26 @@
+// Keys, add-ons and the program itself: the Help menu.
+#pragma once
+
+#include "host/gui/commands/Commands.h"
+
+#include <QObject>
+
+namespace corvane::gui {
+
+class MainWindow;
+
+class HelpActions : public QObject {
+    Q_OBJECT
+
+public:
+    HelpActions(const Commands& commands, MainWindow& window);
+
+private:
+    void showKeys();
+    void showAbout();
+
+    Commands m_commands;
+    MainWindow& m_window;
+};
+
+} // namespace corvane::gui

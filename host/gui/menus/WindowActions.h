@@ -1,0 +1,36 @@
+// What concerns the window alone: its colours, its sidebar, what the data are.
+#pragma once
+
+#include "host/gui/commands/Commands.h"
+
+#include <QObject>
+
+class QAction;
+class QDockWidget;
+
+namespace corvane::gui {
+
+class MainWindow;
+
+class WindowActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// The sidebar is switched on and off by an action; it must outlive the actions.
+    WindowActions(const Commands& commands, MainWindow& window, QDockWidget& sidebar);
+
+    QAction& sidebarAction() const { return *m_sidebar; }
+    void refresh();
+
+private:
+    void addAppearances();
+    void showData();
+    void setFullScreen(bool isFull);
+
+    Commands m_commands;
+    MainWindow& m_window;
+    QAction* m_sidebar;
+    QAction* m_data;
+};
+
+} // namespace corvane::gui

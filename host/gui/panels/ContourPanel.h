@@ -1,0 +1,23 @@
+// What plots are coloured by.
+#pragma once
+
+#include "host/gui/panels/StylePanel.h"
+
+namespace corvane::gui {
+
+class ContourPanel : public StylePanel {
+    Q_OBJECT
+
+public:
+    explicit ContourPanel(const Commands& commands);
+
+    void refresh() override;
+
+private:
+    void beginWithFullRange();
+
+    NumberEdit* m_minimum;
+    NumberEdit* m_maximum;
+};
+
+} // namespace corvane::gui

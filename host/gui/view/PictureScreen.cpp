@@ -1,0 +1,26 @@
+// The host's screen: draws the page into the drawing area.
+#include "host/gui/view/PictureScreen.h"
+
+#include "host/core/page/Page.h"
+#include "host/gui/view/DrawingArea.h"
+
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace corvane::gui {
+
+void PictureScreen::present(const host::Page& page, bool /*allFrames*/) {
+    const host::WorkArea& area = page.workArea;
+    if (page.frames().empty() || area.width <= 0 || area.height <= 0) {
+        m_area.clear();
+        return;
+    }
+    const QScopedValueRollback drawing(m_isDrawing, true);
+    // While a macro plays that has chosen a size, the area shows all of it as large as it can.
+    const QSize size = QSize(area.width, area.height).scaled(m_area.pixels(), Qt::KeepAspectRatio);
+    m_area.show(m_renderer.draw(
+        page, {ExportRegion_WorkArea, std::max(size.width(), 1), std::max(size.height(), 1), 1}));
+    m_pacer.pictureShown();
+}
+
+} // namespace corvane::gui

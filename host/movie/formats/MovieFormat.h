@@ -1,0 +1,19 @@
+// One entry of the menu of movie formats.
+#pragma once
+
+#include "host/core/ports/Ports.h"
+#include "host/movie/libav/PictureSink.h"
+
+#include <memory>
+
+namespace corvane::movie {
+
+class MovieFormat {
+public:
+    virtual ~MovieFormat() = default;
+    /// Starts a movie as the request's options for this format say. Throws HostError when such a
+    /// movie cannot be written.
+    virtual std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const = 0;
+};
+
+} // namespace corvane::movie

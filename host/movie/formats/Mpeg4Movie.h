@@ -1,0 +1,25 @@
+// An MPEG-4 movie being written.
+#pragma once
+
+#include "host/movie/libav/MovieFile.h"
+
+#include <string>
+
+namespace corvane::movie {
+
+/// Fragmented while it is written, so that what a killed process leaves can be played; plain when
+/// it is finished, for the widest choice of players.
+class Mpeg4Movie : public PictureSink {
+public:
+    Mpeg4Movie(const host::MovieRequest& request, const VideoSettings& settings);
+
+    std::string note() const override { return m_file.note(); }
+    void write(const host::Picture& picture) override { m_file.write(picture); }
+    void finish() override;
+
+private:
+    std::string m_path;
+    MovieFile m_file;
+};
+
+} // namespace corvane::movie

@@ -1,0 +1,90 @@
+// Copies the packets of a fragmented MP4 file into a plain one.
+#include "host/movie/formats/PlainMp4.h"
+
+#include "host/core/base/HostError.h"
+#include "host/movie/libav/LibavCheck.h"
+#include "host/movie/libav/LibavHandles.h"
+#include "host/movie/libav/OutputContainer.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace corvane::movie {
+
+namespace {
+
+/// Removes its file unless that was moved away.
+class CopyFile {
+public:
+    explicit CopyFile(std::string path) : m_path(std::move(path)) {}
+    ~CopyFile() {
+        std::error_code ignored;
+        if (std::filesystem::is_regular_file(m_path, ignored))
+            std::filesystem::remove(m_path, ignored);
+    }
+    CopyFile(const CopyFile&) = delete;
+    CopyFile& operator=(const CopyFile&) = delete;
+
+    const std::string& path() const { return m_path; }
+    void replace(const std::string& original) const { std::filesystem::rename(m_path, original); }
+
+private:
+    std::string m_path;
+};
+
+InputHandle openInput(const LibavCheck& check) {
+    AVFormatContext* input = nullptr;
+    check(avformat_open_input(&input, fileUrl(check.path()).c_str(), av_find_input_format("mp4"),
+                              nullptr),
+          "reading the pictures back");
+    return InputHandle(input);
+}
+
+void copyPackets(AVFormatContext& input, OutputContainer& output, const LibavCheck& check) {
+    const PacketHandle packet(check.made(av_packet_alloc()));
+    for (;;) {
+        const int code = av_read_frame(&input, packet.get());
+        if (code == AVERROR_EOF)
+            return;
+        check(code, "reading the pictures back");
+        output.write(packet.get());
+        av_packet_unref(packet.get());
+    }
+}
+
+void copyPlain(const std::string& from, const std::string& to) {
+    const LibavCheck fromCheck(from);
+    const LibavCheck toCheck(to);
+    const InputHandle input = openInput(fromCheck);
+    if (input->nb_streams != 1)
+        fromCheck.fail("it has no pictures");
+    const AVStream& stream = *input->streams[0];
+    StreamShape shape;
+    shape.codec = stream.codecpar;
+    shape.timeBase = stream.time_base;
+    OutputContainer output("mp4", toCheck);
+    output.begin(shape, {{"movflags", "+faststart"}});
+    copyPackets(*input, output, fromCheck);
+    output.finish();
+}
+
+} // namespace
+
+bool rearrangeAsPlainMp4(const std::string& path) {
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored))
+        return false; // a device or pipe must not be replaced by a file
+    const CopyFile copy(path + ".plain");
+    try {
+        copyPlain(path, copy.path());
+        copy.replace(path);
+        return true;
+    } catch (const host::HostError&) {
+        return false;
+    } catch (const std::filesystem::filesystem_error&) {
+        return false;
+    }
+}
+
+} // namespace corvane::movie

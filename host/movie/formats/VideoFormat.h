@@ -1,0 +1,16 @@
+// A movie format that libav writes from pictures to file.
+#pragma once
+
+#include "host/movie/formats/MovieFormat.h"
+#include "host/movie/libav/VideoSettings.h"
+
+namespace corvane::movie {
+
+class VideoFormat : public MovieFormat {
+public:
+    std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const override;
+
+    virtual VideoSettings settings(const host::MovieRequest& request) const = 0;
+};
+
+} // namespace corvane::movie

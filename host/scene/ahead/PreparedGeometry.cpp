@@ -1,0 +1,119 @@
+// The polygons of plots: built once, kept while there is room, and built ahead.
+#include "host/scene/ahead/PreparedGeometry.h"
+
+#include "host/scene/geometry/StreamTubes.h"
+#include "host/scene/vtk/VtkMessages.h"
+
+#include <algorithm>
+
+namespace corvane::scene {
+
+namespace {
+
+std::size_t bytesOf(const PreparedGeometry::Polygons& polygons) {
+    return polygons->GetActualMemorySize() * std::size_t{1024};
+}
+
+std::vector<MeshId> meshesOf(const PictureContent& content, const SceneDataSet& data) {
+    std::vector<MeshId> meshes;
+    for (const int zone : content.zones)
+        meshes.push_back(data.meshId(zone));
+    return meshes;
+}
+
+bool hasAnyOf(const std::vector<MeshId>& meshes, const std::vector<MeshId>& others) {
+    return std::any_of(others.begin(), others.end(), [&](const MeshId& mesh) {
+        return std::find(meshes.begin(), meshes.end(), mesh) != meshes.end();
+    });
+}
+
+} // namespace
+
+// Plots, traces and tubes share the budget evenly enough for each to hold many steps.
+PreparedGeometry::PreparedGeometry(std::size_t budget, std::shared_ptr<SceneStatistics> statistics)
+    : m_statistics(std::move(statistics)),
+      m_plots(budget / 2, bytesOf),
+      m_traces(budget / 4, bytesOf),
+      m_tubes(budget / 4, bytesOf) {}
+
+PreparedGeometry::Polygons PreparedGeometry::plot(const PlotRequest& request,
+                                                  const SceneDataSet& data) {
+    if (m_plots.has(request.recipe))
+        return build(request, data);
+    const std::lock_guard lock(m_ahead.meshMutex());
+    return build(request, data);
+}
+
+PreparedGeometry::Streams PreparedGeometry::streams(const StreamRequest& request,
+                                                    const SceneDataSet& data) {
+    if (hasStreams(request))
+        return buildStreams(request, data);
+    const std::lock_guard lock(m_ahead.meshMutex());
+    return buildStreams(request, data);
+}
+
+void PreparedGeometry::prepare(const void* owner, std::shared_ptr<const SceneDataSet> data,
+                               const PictureContent& next, const PictureContent& shown) {
+    const std::vector<MeshId> inUse = meshesOf(shown, *data);
+    ReadAhead::Steps steps;
+    for (const PlotRequest& request : next.plots)
+        if (!hasAnyOf(inUse, {request.recipe.mesh}))
+            steps.emplace_back([this, data, request] { build(request, *data); });
+    if (next.streams && !hasAnyOf(inUse, next.streams->recipe.meshes))
+        steps.emplace_back([this, data, request = *next.streams] { buildStreams(request, *data); });
+    m_ahead.start(owner, std::move(steps));
+}
+
+void PreparedGeometry::makeWay(const void* owner) {
+    m_ahead.start(owner, {});
+    const std::lock_guard wait(m_ahead.meshMutex());
+}
+
+void PreparedGeometry::forget(long dataSet) {
+    const auto isOfDataSet = [dataSet](const StreamRecipe& recipe) {
+        return !recipe.meshes.empty() && recipe.meshes.front().dataSet == dataSet;
+    };
+    m_plots.forget([&](const Recipe& recipe) { return recipe.mesh.dataSet == dataSet; });
+    m_traces.forget(isOfDataSet);
+    m_tubes.forget([&](const TubeKey& key) { return isOfDataSet(key.first); });
+}
+
+PreparedGeometry::Polygons PreparedGeometry::build(const PlotRequest& request,
+                                                   const SceneDataSet& data) {
+    return m_plots.get(request.recipe, [&] {
+        const VtkMessages silenced;
+        return buildGeometry(request.recipe, data.mesh(request.zone), *m_statistics);
+    });
+}
+
+PreparedGeometry::Polygons PreparedGeometry::trace(const StreamRequest& request,
+                                                   const SceneDataSet& data) {
+    return m_traces.get(request.recipe, [&] {
+        const VtkMessages silenced;
+        std::vector<vtkSmartPointer<vtkDataSet>> meshes;
+        for (const int zone : request.zones)
+            meshes.push_back(data.mesh(zone));
+        ++m_statistics->streamRuns;
+        return traceStreams(request.recipe, meshes);
+    });
+}
+
+PreparedGeometry::Streams PreparedGeometry::buildStreams(const StreamRequest& request,
+                                                         const SceneDataSet& data) {
+    const Polygons traces = trace(request, data);
+    if (request.tubeRadius <= 0.0)
+        return {traces, nullptr};
+    const auto tubes = m_tubes.get({request.recipe, request.tubeRadius}, [&] {
+        const VtkMessages silenced;
+        ++m_statistics->tubeRuns;
+        return tubesAround(*traces, request.tubeRadius);
+    });
+    return {traces, tubes};
+}
+
+bool PreparedGeometry::hasStreams(const StreamRequest& request) const {
+    return m_traces.has(request.recipe) &&
+           (request.tubeRadius <= 0.0 || m_tubes.has({request.recipe, request.tubeRadius}));
+}
+
+} // namespace corvane::scene

@@ -1,0 +1,104 @@
+// OpenFOAM cases (.foam).
+#include "host/scene/formats/OpenFoamFile.h"
+
+#include "host/scene/mesh/ReadError.h"
+
+#include <vtkCellData.h>
+#include <vtkDummyController.h>
+#include <vtkNew.h>
+#include <vtkPOpenFOAMReader.h>
+#include <vtkPointData.h>
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <string_view>
+#include <utility>
+
+namespace corvane::scene {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isTimeFolder(const fs::directory_entry& entry) {
+    const std::string name = entry.path().filename().string();
+    double time = 0.0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), time);
+    return error == std::errc{} && end == name.data() + name.size() && entry.is_directory();
+}
+
+std::ptrdiff_t countTimes(const fs::path& folder) {
+    std::error_code error;
+    const fs::directory_iterator entries(folder, error);
+    return std::count_if(begin(entries), end(entries), isTimeFolder);
+}
+
+/// Groups of patches are left out, since all their patches are parts already.
+void selectPatches(vtkOpenFOAMReader& reader) {
+    for (int i = 0; i < reader.GetNumberOfPatchArrays(); ++i) {
+        const std::string name = reader.GetPatchArrayName(i);
+        const bool isGroup =
+            name.starts_with("group/") || name.find("/group/") != std::string::npos;
+        reader.SetPatchArrayStatus(name.c_str(), isGroup ? 0 : 1);
+    }
+}
+
+/// VTK puts patches into a block of their own.
+std::string withoutBoundary(std::string name) {
+    constexpr std::string_view boundary = "boundary/";
+    const auto at = name.find(boundary);
+    if (at == 0 || (at != std::string::npos && name[at - 1] == '/'))
+        name.erase(at, boundary.size());
+    return name;
+}
+
+/// What the points have too is not needed twice.
+void dropCellCopies(vtkDataSet& mesh) {
+    vtkCellData& cells = *mesh.GetCellData();
+    for (int i = cells.GetNumberOfArrays() - 1; i >= 0; --i)
+        if (mesh.GetPointData()->HasArray(cells.GetArrayName(i)) != 0)
+            cells.RemoveArray(i);
+}
+
+} // namespace
+
+vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
+    const fs::path folder = fs::path(path()).parent_path();
+    const fs::path divided = folder / "processor0";
+    const bool isDivided = countTimes(divided) > countTimes(folder);
+    const fs::path constant = (isDivided ? divided : folder) / "constant";
+    if (!fs::is_directory(constant))
+        throw readError(path(),
+                        "no OpenFOAM case is around it: there is no folder " + constant.string());
+
+    auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
+    const vtkNew<vtkDummyController> controller;
+    reader->SetController(controller);
+    reader->SetFileName(path().c_str());
+    reader->SetCaseType(isDivided ? vtkPOpenFOAMReader::DECOMPOSED_CASE
+                                  : vtkPOpenFOAMReader::RECONSTRUCTED_CASE);
+    reader->SkipZeroTimeOff();
+    reader->CreateCellToPointOn();
+    // VTK cuts whole polyhedra better than the pieces, whose extra points bend isosurfaces.
+    reader->DecomposePolyhedraOff();
+    reader->UpdateInformation();
+    selectPatches(*reader);
+    return reader;
+}
+
+std::vector<MeshPart> OpenFoamFile::partsOf(vtkAlgorithm& reader) const {
+    auto parts = TimedMeshFile::partsOf(reader);
+    for (MeshPart& part : parts) {
+        part.name = withoutBoundary(std::move(part.name));
+        dropCellCopies(*part.mesh);
+    }
+    return parts;
+}
+
+/// The fields of time 0 are written by hand, with directives that only OpenFOAM understands.
+bool OpenFoamFile::mayMissVariables(double time) const {
+    return time == 0.0;
+}
+
+} // namespace corvane::scene

@@ -1,0 +1,86 @@
+// EnSight Gold cases (.case).
+#include "host/scene/formats/ensight/EnSightFile.h"
+
+#include "host/scene/formats/ensight/EnSightCase.h"
+#include "host/scene/formats/ensight/EnSightGeometry.h"
+#include "host/scene/formats/ensight/EnSightValues.h"
+#include "host/scene/mesh/MeshCheck.h"
+#include "host/scene/mesh/ReadError.h"
+
+#include <filesystem>
+#include <set>
+#include <stdexcept>
+
+namespace corvane::scene {
+
+namespace {
+
+/// Says which of the files that a case names is meant.
+template <class Work>
+auto aboutFile(const std::string& casePath, const std::string& path, Work work) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        throw readError(casePath, "it names " + path + ", which is no file");
+    try {
+        return work();
+    } catch (const std::runtime_error& failure) {
+        throw readError(casePath, "its file " + path + " " + failure.what());
+    }
+}
+
+std::vector<MeshPart> partsOf(EnSightParts& read) {
+    std::vector<MeshPart> parts;
+    std::set<std::string> names;
+    for (auto& [number, part] : read) {
+        if (part.mesh->GetNumberOfPoints() == 0)
+            continue;
+        const std::string name = part.name.empty() ? "part" : part.name;
+        const bool isNew = names.insert(name).second;
+        parts.push_back({isNew ? name : name + " " + std::to_string(number), part.mesh});
+    }
+    return parts;
+}
+
+} // namespace
+
+EnSightFile::EnSightFile(const std::string& path) : MeshFile(path) {}
+
+EnSightFile::~EnSightFile() = default;
+
+std::vector<double> EnSightFile::times() const {
+    return caseText().times();
+}
+
+std::vector<MeshPart> EnSightFile::read(int step) const {
+    const EnSightCase& text = caseText();
+    const double time =
+        text.times().empty() ? 0.0 : text.times().at(static_cast<std::size_t>(step));
+    const auto place = text.placeOf(text.geometry(), time);
+    EnSightInput::Kind kind = EnSightInput::Kind::Text;
+    EnSightParts read = aboutFile(path(), place.path, [&] {
+        kind = EnSightInput::kindOf(place.path);
+        EnSightInput input(place.path, kind);
+        return readEnSightGeometry(input, place.index);
+    });
+    for (const EnSightVariable& variable : text.variables()) {
+        const auto at = text.placeOf(variable.files, time);
+        aboutFile(path(), at.path, [&] {
+            EnSightInput input(at.path, kind);
+            readEnSightValues(input, at.index, variable, read);
+        });
+    }
+    auto parts = partsOf(read);
+    if (parts.empty())
+        throw readError(path(), "it holds no mesh");
+    for (const MeshPart& part : parts)
+        if (!isSound(*part.mesh))
+            throw readError(path(), "its part \"" + part.name + "\" is damaged");
+    return parts;
+}
+
+const EnSightCase& EnSightFile::caseText() const {
+    std::call_once(m_caseRead, [this] { m_case = std::make_unique<EnSightCase>(path()); });
+    return *m_case;
+}
+
+} // namespace corvane::scene

@@ -1,0 +1,26 @@
+// The values of a PLY file, one after the other.
+#pragma once
+
+#include "host/scene/formats/ply/PlyHeader.h"
+
+#include <istream>
+
+namespace corvane::scene {
+
+/// Where the stream ends too early, or holds no number, std::runtime_error gives the reason.
+class PlyValues {
+public:
+    PlyValues(std::istream& stream, PlyHeader::Format format)
+        : m_stream(stream), m_format(format) {}
+
+    double next(PlyHeader::Type type);
+
+private:
+    template <class Number>
+    double nextBinary();
+
+    std::istream& m_stream;
+    PlyHeader::Format m_format;
+};
+
+} // namespace corvane::scene

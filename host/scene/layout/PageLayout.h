@@ -1,0 +1,30 @@
+// Where the frames of a page lie in a picture.
+#pragma once
+
+#include "host/core/page/Page.h"
+#include "host/core/ports/Picture.h"
+#include "host/scene/layout/PixelRect.h"
+
+#include <vector>
+
+namespace corvane::scene {
+
+struct FrameInPicture {
+    const host::Frame* frame = nullptr;
+    FrameArea area;
+};
+
+/// The frames that the picture shows, from the bottom of the stack up. The region of the current
+/// frame shows that frame alone, whatever lies over it.
+std::vector<FrameInPicture> framesInPicture(const host::Page& page,
+                                            const host::PictureRequest& request);
+
+/// The frames that a part of the picture shows, with areas from the corner of that part.
+std::vector<FrameInPicture> framesInTile(const std::vector<FrameInPicture>& frames,
+                                         const PixelRect& tile);
+
+/// Parts that make up the picture, none larger than the limit in either direction. Edges lie on
+/// whole pixels of the finished picture.
+std::vector<PixelRect> tilesOf(const host::PictureRequest& request, int largestSize);
+
+} // namespace corvane::scene

@@ -1,0 +1,21 @@
+// The HDF5 library is used by one thread at a time.
+#include "host/scene/mesh/Hdf5Mutex.h"
+
+#include <hdf5.h>
+
+namespace corvane::scene {
+
+std::mutex& hdf5Mutex() {
+    static std::mutex mutex;
+    return mutex;
+}
+
+void silenceHdf5() {
+    // What the library does at the end of the program serves files that were written, and writes to
+    // the terminal when a damaged one was read.
+    static const bool isQuietAtExit = H5dont_atexit() >= 0;
+    static_cast<void>(isQuietAtExit);
+    H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
+}
+
+} // namespace corvane::scene

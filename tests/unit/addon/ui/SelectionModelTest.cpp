@@ -1,0 +1,166 @@
+// The selection of a list.
+#include "addon/ui/ListMultiSelectionModel.h"
+#include "addon/ui/ListSingleSelectionModel.h"
+#include "tests/unit/addon/UiTest.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+namespace {
+
+using namespace corvane::test;
+using namespace corvane::corutiltools;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class RecordingObserver : public ListSelectionModelObserverInterface {
+public:
+    void selectionChanged(std::vector<unsigned long> const& selectedItems) override {
+        heard.push_back(selectedItems);
+        if (reaction)
+            reaction();
+    }
+
+    std::vector<std::vector<unsigned long>> heard;
+    std::function<void()> reaction;
+};
+
+// Five rows, with both kinds of selection model over it.
+class SelectionModelTest : public ControlTest {
+protected:
+    SelectionModelTest()
+        : list(CorGUIListAdd(dialog, 0, 0, 100, 100, TRUE, nullptr)),
+          view(list, ListViewInterface::SelectionModel_Multi),
+          single(view),
+          multi(view) {
+        for (char const* const row : {"a", "b", "c", "d", "e"})
+            CorGUIListAppendItem(list, row);
+        single.addObserver(observer);
+        multi.addObserver(observer);
+    }
+
+    std::vector<long> selection() { return window().list().selection(); }
+
+    int const list;
+    ListView view;
+    ListSingleSelectionModel single;
+    ListMultiSelectionModel multi;
+    RecordingObserver observer;
+};
+
+TEST_F(SelectionModelTest, readsIndicesFromZero) {
+    window().list().select({1, 4});
+    std::vector<unsigned long> items{7};
+    multi.getSelectedItems(items);
+    EXPECT_THAT(items, ElementsAre(0, 3));
+}
+
+TEST_F(SelectionModelTest, freesTheArrayOfTheHostUnderTheLock) {
+    window().list().select({1, 4});
+    host.clearCalls();
+    std::vector<unsigned long> items;
+    multi.getSelectedItems(items);
+    EXPECT_THAT(host.calls().front(), lockStart);
+    EXPECT_THAT(host.calls().back(), lockFinish);
+}
+
+TEST_F(SelectionModelTest, readsNothingFromNothing) {
+    std::vector<unsigned long> items{7};
+    multi.getSelectedItems(items);
+    EXPECT_THAT(items, IsEmpty());
+}
+
+TEST_F(SelectionModelTest, knowsTheOneSelectedItem) {
+    EXPECT_EQ(multi.getSelectedItem(), -1);
+    window().list().select({3});
+    EXPECT_EQ(multi.getSelectedItem(), 2);
+    window().list().select({3, 4});
+    EXPECT_EQ(multi.getSelectedItem(), -1);
+}
+
+TEST_F(SelectionModelTest, selectsOneItem) {
+    multi.setSelectedItem(4);
+    EXPECT_THAT(selection(), ElementsAre(5));
+    multi.setSelectedItem(0);
+    EXPECT_THAT(selection(), ElementsAre(1));
+    EXPECT_THAT(observer.heard, ElementsAre(ElementsAre(4), ElementsAre(0)));
+}
+
+TEST_F(SelectionModelTest, deselectsForAnIndexThatNoRowHas) {
+    for (int const item : {5, -1, 1000000}) {
+        window().list().select({2});
+        multi.setSelectedItem(item);
+        EXPECT_THAT(selection(), IsEmpty()) << item;
+    }
+    EXPECT_EQ(observer.heard.size(), 3u);
+}
+
+TEST_F(SelectionModelTest, ofOneRowTakesTheFirstGivenAndNotTheSmallest) {
+    single.setSelectedItems({4, 2});
+    EXPECT_THAT(selection(), ElementsAre(5));
+    EXPECT_THAT(observer.heard, ElementsAre(ElementsAre(4)));
+}
+
+TEST_F(SelectionModelTest, ofOneRowSkipsWhatDoesNotExist) {
+    single.setSelectedItems({5, 99, 1, 0});
+    EXPECT_THAT(selection(), ElementsAre(2));
+    single.setSelectedItems({5});
+    EXPECT_THAT(selection(), IsEmpty());
+    EXPECT_EQ(observer.heard.size(), 2u);
+}
+
+TEST_F(SelectionModelTest, ofManyRowsTakesAllThatExist) {
+    multi.setSelectedItems({3, 5, 0, 4294967295UL});
+    EXPECT_THAT(selection(), ElementsAre(1, 4));
+    EXPECT_THAT(observer.heard, ElementsAre(ElementsAre(0, 3)));
+}
+
+TEST_F(SelectionModelTest, ofManyRowsReplacesWhatWasSelected) {
+    window().list().select({1, 2});
+    host.clearCalls();
+    multi.setSelectedItems({});
+    EXPECT_THAT(selection(), IsEmpty());
+    EXPECT_EQ(host.count("CorGUIListDeselectAllItems"), 1u);
+    EXPECT_EQ(host.count("CorGUIListSetSelectedItems"), 1u);
+}
+
+TEST_F(SelectionModelTest, tellsWhatTheUserSelected) {
+    window().list().select({2, 3});
+    multi.selectionChanged();
+    EXPECT_THAT(observer.heard, ElementsAre(ElementsAre(1, 2)));
+}
+
+TEST_F(SelectionModelTest, tellsEachObserverOnce) {
+    multi.addObserver(observer);
+    multi.selectionChanged();
+    EXPECT_EQ(observer.heard.size(), 1u);
+    multi.removeObserver(observer);
+    multi.selectionChanged();
+    EXPECT_EQ(observer.heard.size(), 1u);
+}
+
+TEST_F(SelectionModelTest, letsObserversLeaveWhileTheyAreTold) {
+    RecordingObserver other;
+    multi.addObserver(other);
+    auto const leave = [&] {
+        multi.removeObserver(observer);
+        multi.removeObserver(other);
+    };
+    observer.reaction = leave;
+    other.reaction = leave;
+    multi.selectionChanged();
+    EXPECT_EQ(observer.heard.size() + other.heard.size(), 1u);
+}
+
+TEST_F(SelectionModelTest, releasesItsLockWhenAnObserverThrows) {
+    observer.reaction = [] { throw std::runtime_error("observer"); };
+    EXPECT_THROW(multi.setSelectedItems({1}), std::runtime_error);
+    EXPECT_THROW(single.setSelectedItems({1}), std::runtime_error);
+    EXPECT_THROW(multi.setSelectedItem(1), std::runtime_error);
+    EXPECT_EQ(lockDepth(), 0);
+}
+
+} // namespace

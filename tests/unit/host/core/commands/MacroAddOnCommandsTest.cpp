@@ -1,0 +1,101 @@
+// Tests of the commands that add-ons offer to macros, and of the movies that they make.
+#include "tests/support/TempFolder.h"
+#include "tests/unit/host/core/commands/MacroTest.h"
+
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <string>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+using MacroAddOnCommandsTest = MacroTest;
+
+TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOns) {
+    std::vector<std::string> commands;
+    session.addOnCommands().add("Key Frames", [&commands](const std::string& command) {
+        commands.push_back(command);
+        return std::nullopt;
+    });
+    play("$!EXTCOMMAND \"Key Frames\" \"LOAD \\\"a b\\\"\"\n"
+         "$!EXTCOMMAND \"Key Frames\" \"\"\n");
+    EXPECT_THAT(commands, ElementsAre("LOAD \"a b\"", ""));
+}
+
+TEST_F(MacroAddOnCommandsTest, CommandsThatFailTellTheirCause) {
+    session.addOnCommands().add("A", [](const std::string& text) { return "No " + text + "."; });
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A \"key frames\""), "No key frames.");
+    EXPECT_THAT(causeOf("$!EXTCOMMAND B go"), HasSubstr("There is no add-on \"B\""));
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A"), "Expected \"add-on\" \"command\".");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A b c"), "Expected \"add-on\" \"command\".");
+}
+
+TEST_F(MacroAddOnCommandsTest, NoCommandRunsDuringAnAnimation) {
+    int runs = 0;
+    session.addOnCommands().add("A", [&runs](const std::string&) {
+        ++runs;
+        return std::nullopt;
+    });
+    session.status().start("Playing", true, true);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    session.status().finish();
+    EXPECT_EQ(runs, 0);
+    play("$!EXTCOMMAND A go");
+    EXPECT_EQ(runs, 1);
+}
+
+/// An add-on that records a movie of one picture more than can be written.
+class MacroMovieTest : public MacroTest {
+protected:
+    MacroMovieTest() {
+        play("$!READDATA x\n$!EXPORTSETUP ImageWidth = 8\n");
+        session.exportSetup().fileName = folder.file("movie.avi");
+        host.movies.failAdd = 2;
+    }
+    void addCommand(const std::optional<std::string>& reported) {
+        session.addOnCommands().add("A", [this, reported](const std::string&) {
+            session.exporter().start();
+            session.exporter().nextFrame();
+            session.exporter().cancel();
+            return reported;
+        });
+    }
+
+    test::TempFolder folder;
+};
+
+TEST_F(MacroMovieTest, TheCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
+    addCommand("Animation canceled.");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroMovieTest, AFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
+    addCommand(std::nullopt);
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+}
+
+TEST_F(MacroMovieTest, AnOlderFailureIsForgotten) {
+    session.exporter().start();
+    session.exporter().nextFrame();
+    session.exporter().cancel();
+    ASSERT_TRUE(session.exporter().hasFailed());
+    session.addOnCommands().add("Idle", [](const std::string&) { return std::nullopt; });
+    play("$!EXTCOMMAND Idle go");
+    EXPECT_FALSE(session.exporter().hasFailed());
+}
+
+TEST_F(MacroMovieTest, NoCommandRunsWhileAMovieIsRecorded) {
+    addCommand(std::nullopt);
+    ASSERT_TRUE(session.exporter().start());
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");
+    EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 9"),
+              "ImageWidth cannot be set now. A movie is being recorded.");
+    EXPECT_TRUE(session.exporter().isRecording());
+}
+
+} // namespace
+} // namespace corvane::host

@@ -1,0 +1,141 @@
+// Tests of when pictures are made.
+#include "tests/unit/host/core/Fakes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+
+class DrawingTest : public testing::Test {
+protected:
+    Page page;
+    Locks locks;
+    fakes::FakeRenderer renderer;
+    fakes::FakeScreen screen;
+    fakes::FakeIdleTimer timer;
+    Drawing drawing{page, locks, renderer, &screen, &timer};
+};
+
+TEST_F(DrawingTest, AMarkDrawsNothingAndAsksForIdleTimeOnce) {
+    drawing.mark();
+    drawing.mark();
+    EXPECT_TRUE(drawing.isMarked());
+    EXPECT_EQ(drawing.renders(), 0U);
+    EXPECT_EQ(timer.requests, 1);
+}
+
+TEST_F(DrawingTest, DrawsAllFramesOnceWhenDue) {
+    drawing.mark();
+    drawing.drawIfDue();
+    drawing.drawIfDue();
+    EXPECT_THAT(screen.presented, ElementsAre(true));
+    EXPECT_EQ(drawing.renders(), 1U);
+    EXPECT_FALSE(drawing.isMarked());
+}
+
+TEST_F(DrawingTest, IsNotDueWithoutAMark) {
+    drawing.drawIfDue();
+    EXPECT_EQ(drawing.renders(), 0U);
+}
+
+TEST_F(DrawingTest, IsNotDueWhileALockIsHeld) {
+    locks.start(nullptr);
+    drawing.mark();
+    drawing.drawIfDue();
+    EXPECT_EQ(drawing.renders(), 0U);
+    locks.finish(nullptr);
+    drawing.drawIfDue();
+    EXPECT_EQ(drawing.renders(), 1U);
+}
+
+TEST_F(DrawingTest, IsNotDueWhileSuspendedAtAnyDepth) {
+    drawing.suspend();
+    drawing.suspend();
+    drawing.mark();
+    EXPECT_EQ(timer.requests, 0);
+    EXPECT_TRUE(drawing.resume());
+    drawing.drawIfDue();
+    EXPECT_EQ(drawing.renders(), 0U);
+    EXPECT_EQ(timer.requests, 0);
+    EXPECT_TRUE(drawing.resume());
+    EXPECT_EQ(drawing.renders(), 0U) << "resuming must not draw by itself";
+    EXPECT_EQ(timer.requests, 1);
+    drawing.drawIfDue();
+    EXPECT_EQ(drawing.renders(), 1U);
+}
+
+TEST_F(DrawingTest, IgnoresOneResumeTooMany) {
+    EXPECT_FALSE(drawing.resume());
+    EXPECT_EQ(drawing.suspensions(), 0);
+    drawing.suspend();
+    EXPECT_EQ(drawing.suspensions(), 1);
+}
+
+TEST_F(DrawingTest, RedrawsAtOnceAtAnyDepthOfLocks) {
+    locks.start(nullptr);
+    drawing.mark();
+    EXPECT_TRUE(drawing.redraw(false));
+    EXPECT_TRUE(drawing.redraw(true));
+    EXPECT_THAT(screen.presented, ElementsAre(false, true));
+    EXPECT_FALSE(drawing.isMarked());
+}
+
+TEST_F(DrawingTest, RedrawWhileSuspendedOnlyMarks) {
+    drawing.suspend();
+    EXPECT_FALSE(drawing.redraw(true));
+    EXPECT_EQ(drawing.renders(), 0U);
+    EXPECT_TRUE(drawing.isMarked());
+}
+
+TEST_F(DrawingTest, RestoresTheDepthOfSuspensions) {
+    drawing.suspend();
+    drawing.suspend();
+    drawing.mark();
+    drawing.restoreSuspensions(0);
+    EXPECT_EQ(drawing.suspensions(), 0);
+    EXPECT_EQ(timer.requests, 1);
+}
+
+TEST_F(DrawingTest, APictureNeitherMarksNorUnmarks) {
+    const PictureRequest request{ExportRegion_WorkArea, 6, 4, 2};
+    EXPECT_EQ(drawing.picture(request).width, 6);
+    EXPECT_FALSE(drawing.isMarked());
+    drawing.mark();
+    drawing.suspend();
+    drawing.picture(request);
+    EXPECT_TRUE(drawing.isMarked());
+    EXPECT_THAT(renderer.requests, ElementsAre(request, request));
+    EXPECT_EQ(drawing.renders(), 2U);
+    EXPECT_TRUE(screen.presented.empty());
+}
+
+TEST_F(DrawingTest, CountsNoPictureThatFailed) {
+    renderer.failAt = 1;
+    EXPECT_THROW(drawing.picture({ExportRegion_WorkArea, 6, 4, 1}), HostError);
+    EXPECT_EQ(drawing.renders(), 0U);
+}
+
+TEST_F(DrawingTest, DoesNotTryAFailedPictureAgain) {
+    screen.fails = true;
+    drawing.mark();
+    EXPECT_THROW(drawing.drawIfDue(), HostError);
+    EXPECT_NO_THROW(drawing.drawIfDue());
+    EXPECT_EQ(screen.presented.size(), 1U);
+}
+
+TEST_F(DrawingTest, MakesNoPictureThatNobodySees) {
+    Drawing unseen(page, locks, renderer, nullptr, nullptr);
+    unseen.mark();
+    unseen.drawIfDue();
+    EXPECT_TRUE(unseen.isMarked());
+    EXPECT_TRUE(unseen.redraw(true));
+    EXPECT_FALSE(unseen.isMarked());
+    EXPECT_EQ(unseen.renders(), 0U);
+    EXPECT_TRUE(renderer.requests.empty());
+}
+
+} // namespace
+} // namespace corvane::host

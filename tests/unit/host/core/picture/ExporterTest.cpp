@@ -1,0 +1,287 @@
+// Tests of recording: what is refused, what is written, and what a failure leaves behind.
+#include "host/core/picture/Exporter.h"
+
+#include "tests/support/TempFolder.h"
+#include "tests/unit/host/core/Fakes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace corvane::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class ExporterTest : public testing::Test {
+protected:
+    ExporterTest() {
+        renderer.log = &movies.log;
+        page.createFrame({0, 0, 4, 3});
+        setup.fileName = folder.file("movie.avi");
+        setup.imageWidth = 40;
+        folder.write("movie.avi", "older");
+    }
+
+    /// No movie came into being, and the one that was there is untouched.
+    void expectNothingWritten() const {
+        EXPECT_FALSE(exporter.isRecording());
+        EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
+        EXPECT_EQ(folder.read("movie.avi"), "older");
+    }
+    void expectRefused(const char* reason) {
+        EXPECT_FALSE(exporter.start());
+        EXPECT_THAT(exporter.failure(), HasSubstr(reason));
+        EXPECT_THAT(movies.log, IsEmpty()) << "refused before anything is drawn or opened";
+        expectNothingWritten();
+    }
+
+    test::TempFolder folder;
+    Page page;
+    Locks locks;
+    ExportSetup setup;
+    fakes::FakeRenderer renderer;
+    fakes::FakeMovies movies;
+    Drawing drawing{page, locks, renderer, nullptr, nullptr};
+    Exporter exporter{page, setup, drawing, renderer, movies};
+};
+
+TEST_F(ExporterTest, RecordsTheCurrentPictureFirstAndOneForEachCall) {
+    EXPECT_TRUE(exporter.start());
+    EXPECT_TRUE(exporter.isRecording());
+    EXPECT_EQ(exporter.frames(), 1U);
+    EXPECT_TRUE(exporter.nextFrame());
+    EXPECT_EQ(folder.read("movie.avi"), "older");
+    EXPECT_TRUE(exporter.finish());
+    EXPECT_FALSE(exporter.isRecording());
+    EXPECT_EQ(exporter.frames(), 2U);
+    EXPECT_EQ(drawing.renders(), 2U);
+    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "add", "draw", "add", "finish", "close"));
+    EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
+    EXPECT_EQ(folder.read("movie.avi"), "ppe");
+    EXPECT_FALSE(exporter.hasFailed());
+}
+
+TEST_F(ExporterTest, HandsTheSetupToTheWriter) {
+    setup.format = ExportFormat_FlashSWF;
+    setup.animationSpeed = 12.5;
+    setup.aviCompression = AVICompression_ColorPreserving;
+    setup.flashImageType = FlashImageType_JPEG;
+    setup.flashCompressionType = FlashCompressionType_SmallestSize;
+    ASSERT_TRUE(exporter.start());
+    const MovieRequest& request = movies.requests.at(0);
+    EXPECT_EQ(request.path, folder.file("movie.avi.part"));
+    EXPECT_EQ(request.format, ExportFormat_FlashSWF);
+    EXPECT_EQ(request.width, 40);
+    EXPECT_EQ(request.height, 30);
+    EXPECT_EQ(request.framesPerSecond, 12.5);
+    EXPECT_EQ(request.aviCompression, AVICompression_ColorPreserving);
+    EXPECT_EQ(request.flashImageType, FlashImageType_JPEG);
+    EXPECT_EQ(request.flashCompression, FlashCompressionType_SmallestSize);
+}
+
+TEST_F(ExporterTest, TheHeightFollowsFromTheRegion) {
+    setup.imageWidth = 33;
+    page.active()->placement = {0, 0, 4, 1};
+    ASSERT_TRUE(exporter.start());
+    exporter.cancel();
+    setup.region = ExportRegion_WorkArea; // 16 : 9
+    ASSERT_TRUE(exporter.start());
+    exporter.cancel();
+    setup.imageWidth = 4;
+    setup.region = ExportRegion_CurrentFrame;
+    page.active()->placement = {0, 0, 100, 1};
+    ASSERT_TRUE(exporter.start());
+    EXPECT_THAT(renderer.requests, ElementsAre(PictureRequest{ExportRegion_CurrentFrame, 33, 8, 1},
+                                               PictureRequest{ExportRegion_WorkArea, 33, 19, 1},
+                                               PictureRequest{ExportRegion_CurrentFrame, 4, 1, 1}));
+}
+
+TEST_F(ExporterTest, SupersamplesOnlyWhenItIsOn) {
+    setup.superSampleFactor = 4;
+    ASSERT_TRUE(exporter.start());
+    exporter.cancel();
+    setup.useSuperSampleAntiAliasing = true;
+    ASSERT_TRUE(exporter.start());
+    EXPECT_EQ(renderer.requests[0].supersample, 1);
+    EXPECT_EQ(renderer.requests[1].supersample, 4);
+}
+
+TEST_F(ExporterTest, KeepsTheSizeOfItsPicturesWhateverChanges) {
+    ASSERT_TRUE(exporter.start());
+    page.active()->placement = {0, 0, 1, 9};
+    setup.imageWidth = 999;
+    ASSERT_TRUE(exporter.nextFrame());
+    EXPECT_EQ(renderer.requests[1], renderer.requests[0]);
+}
+
+TEST_F(ExporterTest, RefusesASecondMovieAndGoesOnWithTheFirst) {
+    ASSERT_TRUE(exporter.start());
+    EXPECT_FALSE(exporter.start());
+    EXPECT_FALSE(exporter.hasFailed());
+    EXPECT_TRUE(exporter.nextFrame());
+    EXPECT_TRUE(exporter.finish());
+    EXPECT_EQ(folder.read("movie.avi"), "ppe");
+}
+
+TEST_F(ExporterTest, RefusesAFormatWithoutMovies) {
+    setup.format = 5;
+    expectRefused("The export format 5 holds no movies.");
+}
+
+TEST_F(ExporterTest, RefusesAnEmptyFileName) {
+    setup.fileName.clear();
+    expectRefused("no file name");
+}
+
+TEST_F(ExporterTest, RefusesAPageWithoutFrames) {
+    page.deleteFrame(page.active()->id());
+    expectRefused("no frame");
+}
+
+TEST_F(ExporterTest, RefusesARegionWithoutExtent) {
+    setup.region = ExportRegion_WorkArea;
+    page.workArea.height = 0;
+    expectRefused("Choose another region");
+    page.workArea = {0, 0, 160};
+    expectRefused("Choose another region");
+}
+
+TEST_F(ExporterTest, RefusesPicturesTooLargeToDraw) {
+    setup.useSuperSampleAntiAliasing = true; // 3 times
+    renderer.largest = 119;
+    expectRefused("120 pixels");
+    renderer.largest = 120;
+    EXPECT_TRUE(exporter.start());
+}
+
+TEST_F(ExporterTest, RefusesPicturesTooHighToDraw) {
+    page.active()->placement = {0, 0, 1, 500};
+    expectRefused("20000 pixels");
+}
+
+TEST_F(ExporterTest, RefusesAFolderThatIsMissing) {
+    setup.fileName = folder.file("missing/movie.avi");
+    expectRefused("there is no folder");
+}
+
+TEST_F(ExporterTest, AWriterThatCannotBeOpenedLeavesNothing) {
+    movies.failOpen = "There is no such encoder.";
+    EXPECT_FALSE(exporter.start());
+    EXPECT_EQ(exporter.failure(), "There is no such encoder.");
+    EXPECT_THAT(movies.log, ElementsAre("open"));
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, AWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
+    movies.failOpen = "The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.";
+    EXPECT_FALSE(exporter.start());
+    EXPECT_EQ(exporter.failure(), "The movie \"" + folder.file("movie.avi") + "\" has no encoder.");
+}
+
+TEST_F(ExporterTest, AFirstPictureThatCannotBeDrawnLeavesNothing) {
+    renderer.failAt = 1;
+    EXPECT_FALSE(exporter.start());
+    EXPECT_EQ(exporter.failure(), "The picture cannot be drawn.");
+    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "close"));
+    EXPECT_EQ(exporter.frames(), 0U);
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, AFirstPictureThatCannotBeWrittenLeavesNothing) {
+    movies.failAdd = 1;
+    EXPECT_FALSE(exporter.start());
+    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, AFailureWithoutATextHasOneAllTheSame) {
+    movies.throwsNothingKnown = true;
+    EXPECT_FALSE(exporter.start());
+    EXPECT_TRUE(exporter.hasFailed());
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, RemembersTheFirstFailureAndRefusesFurtherPictures) {
+    movies.failAdd = 2;
+    ASSERT_TRUE(exporter.start());
+    EXPECT_FALSE(exporter.nextFrame());
+    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    EXPECT_TRUE(exporter.isRecording()) << "until the add-on cancels or finishes it";
+    EXPECT_FALSE(exporter.nextFrame());
+    EXPECT_EQ(drawing.renders(), 2U);
+    EXPECT_EQ(exporter.frames(), 1U);
+    EXPECT_TRUE(exporter.cancel());
+    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, FinishingAfterAFailureFailsAndLeavesNothing) {
+    movies.failAdd = 2;
+    ASSERT_TRUE(exporter.start());
+    EXPECT_FALSE(exporter.nextFrame());
+    EXPECT_FALSE(exporter.finish());
+    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    EXPECT_EQ(movies.log.back(), "close");
+    EXPECT_THAT(movies.log, testing::Not(testing::Contains("finish")));
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, AFinishThatFailsLeavesNothing) {
+    movies.failFinish = "The end cannot be written.";
+    ASSERT_TRUE(exporter.start());
+    EXPECT_FALSE(exporter.finish());
+    EXPECT_EQ(exporter.failure(), "The end cannot be written.");
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, AMovieThatCannotTakeItsPlaceLeavesNothing) {
+    ASSERT_TRUE(exporter.start());
+    std::filesystem::remove(folder.file("movie.avi"));
+    std::filesystem::create_directory(folder.file("movie.avi"));
+    EXPECT_FALSE(exporter.finish());
+    EXPECT_THAT(exporter.failure(), HasSubstr(folder.file("movie.avi")));
+    EXPECT_FALSE(exporter.isRecording());
+    EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
+}
+
+TEST_F(ExporterTest, CancelClosesTheWriterAndRemovesThePart) {
+    ASSERT_TRUE(exporter.start());
+    EXPECT_THAT(folder.names(), ElementsAre("movie.avi", "movie.avi.part"));
+    EXPECT_TRUE(exporter.cancel());
+    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "add", "close"));
+    EXPECT_FALSE(exporter.hasFailed());
+    expectNothingWritten();
+}
+
+TEST_F(ExporterTest, WithoutARecordingThereIsNothingToDo) {
+    EXPECT_FALSE(exporter.nextFrame());
+    EXPECT_FALSE(exporter.finish());
+    EXPECT_FALSE(exporter.cancel());
+    EXPECT_FALSE(exporter.hasFailed());
+    EXPECT_THAT(movies.log, IsEmpty());
+}
+
+TEST_F(ExporterTest, ANewMovieForgetsTheFailureOfTheLast) {
+    movies.failAdd = 1;
+    EXPECT_FALSE(exporter.start());
+    movies.failAdd = 0;
+    EXPECT_TRUE(exporter.start());
+    EXPECT_FALSE(exporter.hasFailed());
+    EXPECT_EQ(exporter.frames(), 1U);
+}
+
+TEST_F(ExporterTest, ItsEndRemovesAMovieThatIsNotComplete) {
+    {
+        Exporter other(page, setup, drawing, renderer, movies);
+        ASSERT_TRUE(other.start());
+    }
+    EXPECT_EQ(movies.log.back(), "close");
+    expectNothingWritten();
+}
+
+} // namespace
+} // namespace corvane::host

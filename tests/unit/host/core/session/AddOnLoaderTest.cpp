@@ -1,0 +1,106 @@
+// Tests of add-ons and of loading their libraries.
+#include "host/core/session/AddOnLoader.h"
+
+#include "tests/support/TempFolder.h"
+#include "tests/unit/host/core/Fakes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+
+#include <filesystem>
+
+namespace corvane::host {
+namespace {
+
+using testing::HasSubstr;
+
+std::string library(const std::string& name) {
+    return CORVANE_BINARY_DIR "/tests/libraries/" + name + ".so";
+}
+
+bool isLoaded(const std::string& file) {
+    void* handle = ::dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (handle != nullptr) {
+        ::dlclose(handle);
+    }
+    return handle != nullptr;
+}
+
+class AddOnsTest : public testing::Test {
+protected:
+    std::string failureOf(const std::string& file) {
+        try {
+            loadAddOn(session, file);
+        } catch (const HostError& error) {
+            return error.what();
+        }
+        return {};
+    }
+
+    fakes::FakeHost host;
+    Session& session = host.session;
+};
+
+TEST_F(AddOnsTest, KeepsAddOnsAtTheirAddress) {
+    AddOns addOns;
+    const CorAddOnID first = addOns.add({110, "A", "1", "x"});
+    for (int i = 0; i < 100; ++i) {
+        addOns.add({});
+    }
+    EXPECT_EQ(first->name, "A");
+    EXPECT_EQ(addOns.all().size(), 101U);
+    EXPECT_TRUE(addOns.isKnown(first));
+    EXPECT_FALSE(addOns.isKnown(nullptr));
+    CorAddOn_s stranger;
+    EXPECT_FALSE(addOns.isKnown(&stranger));
+}
+
+TEST_F(AddOnsTest, LoadsALibraryAndCallsItsEntryPoint) {
+    loadAddOn(session, library("WellBehaved"));
+    ASSERT_EQ(session.addOns().all().size(), 1U);
+    EXPECT_EQ(session.addOns().all()[0]->name, "Well behaved");
+    EXPECT_TRUE(isLoaded(library("WellBehaved")));
+}
+
+TEST_F(AddOnsTest, LoadsALibraryOnce) {
+    loadAddOn(session, library("WellBehaved"));
+    EXPECT_THAT(failureOf(library("WellBehaved")), HasSubstr("it is loaded already"));
+    EXPECT_EQ(session.addOns().all().size(), 1U);
+}
+
+TEST_F(AddOnsTest, ABareNameMeansAFileHere) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(CORVANE_BINARY_DIR "/tests/libraries");
+    const std::string failure = failureOf("WellBehaved.so");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(failure, "");
+    EXPECT_EQ(session.addOns().all().size(), 1U);
+}
+
+TEST_F(AddOnsTest, ALibraryWithoutEntryPointIsUnloadedAgain) {
+    const std::string failure = failureOf(library("NoEntryPoint"));
+    EXPECT_THAT(failure, HasSubstr(library("NoEntryPoint")));
+    EXPECT_THAT(failure, HasSubstr("InitCorAddOn113"));
+    EXPECT_FALSE(isLoaded(library("NoEntryPoint")));
+}
+
+TEST_F(AddOnsTest, AnEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
+    EXPECT_EQ(failureOf(library("Throwing")), "") << "the host goes on";
+    ASSERT_EQ(host.prompts.errors.size(), 1U);
+    EXPECT_THAT(host.prompts.errors[0], HasSubstr(library("Throwing")));
+    EXPECT_THAT(host.prompts.errors[0], HasSubstr("no menus here"));
+    EXPECT_EQ(session.locks().depth(), 0);
+    EXPECT_TRUE(isLoaded(library("Throwing"))) << "its objects may be in use";
+}
+
+TEST_F(AddOnsTest, FilesThatAreNoLibrariesAreNamed) {
+    const test::TempFolder folder;
+    EXPECT_THAT(failureOf(folder.file("missing.so")), HasSubstr(folder.file("missing.so")));
+    const std::string text = folder.write("text.so", "not a library");
+    EXPECT_THAT(failureOf(text), HasSubstr("Cannot load the add-on " + text));
+}
+
+} // namespace
+} // namespace corvane::host
