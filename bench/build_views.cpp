@@ -45,13 +45,13 @@ KeyFrames longFlight(unsigned long frames) {
 
 // To and fro in short segments.
 KeyFrames flightOfManyKeyFrames(unsigned long frames) {
-    KeyFrames const ends = flightCase("TiltedOrbit").keyFrames;
+    const KeyFrames ends = flightCase("TiltedOrbit").keyFrames;
     KeyFrames keyFrames;
     for (unsigned long frame = 0; frame + 10 < frames; frame += 10) {
         keyFrames.push_back(ends[keyFrames.size() % 2]);
         keyFrames.back().frameCount = 10;
     }
-    unsigned long const left = frames - 1 - 10 * keyFrames.size();
+    const unsigned long left = frames - 1 - 10 * keyFrames.size();
     keyFrames.push_back(ends[keyFrames.size() % 2]);
     keyFrames.back().frameCount = left;
     keyFrames.push_back(ends[keyFrames.size() % 2]);
@@ -68,23 +68,23 @@ KeyFrames flightWithoutSteps(unsigned long frames) {
 }
 
 // All views look at the centre from the distance of the key frames.
-bool isOnTheSphere(View const& view) {
-    double const distance = std::hypot(view.x(), view.y(), view.z());
+bool isOnTheSphere(const View& view) {
+    const double distance = std::hypot(view.x(), view.y(), view.z());
     return std::abs(distance - 10.0) < 1e-6;
 }
 
-bool isRight(std::vector<View> const& views, unsigned long frames) {
+bool isRight(const std::vector<View>& views, unsigned long frames) {
     return views.size() == frames && isOnTheSphere(views[frames / 2]) &&
            isOnTheSphere(views[frames - 2]);
 }
 
 void buildViews(benchmark::State& state, KeyFrames (*flight)(unsigned long)) {
-    auto const frames = static_cast<unsigned long>(state.range(0));
-    KeyFrames const keyFrames = flight(frames);
+    const auto frames = static_cast<unsigned long>(state.range(0));
+    const KeyFrames keyFrames = flight(frames);
     QuietHost host;
     double bytes = 0.0;
     for ([[maybe_unused]] auto unused : state) {
-        AnimatorKeyFrame const animator(keyFrames, nullptr);
+        const AnimatorKeyFrame animator(keyFrames, nullptr);
         if (!isRight(animator.views(), frames)) {
             everyResultIsRight = false;
             state.SkipWithError("the views are wrong");

@@ -12,9 +12,10 @@ namespace corvane::corutiltools {
 
 // Inserts each pair of the forward map, turned round, into the reverse map.
 template <typename ForwardMap, typename BackwardMap>
-void ReverseMap(ForwardMap const& forward, BackwardMap& backward) {
-    for (auto const& [value, keyword] : forward)
+void ReverseMap(const ForwardMap& forward, BackwardMap& backward) {
+    for (const auto& [value, keyword] : forward) {
         backward.emplace(keyword, value);
+    }
 }
 
 // One keyword table for the whole process, made on first use. Whoever owns the enumeration T
@@ -22,27 +23,29 @@ void ReverseMap(ForwardMap const& forward, BackwardMap& backward) {
 template <typename T>
 class EnumMap {
 public:
-    static EnumMap const& instance() {
-        static EnumMap const theInstance;
+    static const EnumMap& instance() {
+        static const EnumMap theInstance;
         return theInstance;
     }
 
-    EnumMap(EnumMap const&) = delete;
-    EnumMap& operator=(EnumMap const&) = delete;
+    EnumMap(const EnumMap&) = delete;
+    EnumMap& operator=(const EnumMap&) = delete;
 
     // Throws std::out_of_range for a value without a row.
-    std::string const& toString(T value) const {
-        auto const row = m_keywords.find(value);
-        if (row == m_keywords.end())
+    const std::string& toString(T value) const {
+        const auto row = m_keywords.find(value);
+        if (row == m_keywords.end()) {
             throw std::out_of_range("Enumeration out of range.");
+        }
         return row->second;
     }
 
     // Ignores letter case. Answers false for an unknown keyword and leaves value alone then.
     bool fromString(std::string_view keyword, T& value) const {
-        auto const row = m_values.find(keyword);
-        if (row == m_values.end())
+        const auto row = m_values.find(keyword);
+        if (row == m_values.end()) {
             return false;
+        }
         value = row->second;
         return true;
     }

@@ -12,8 +12,8 @@ public:
     HostLock() { CorUtilLockStart(AddOnID); }
     ~HostLock() { CorUtilLockFinish(AddOnID); }
 
-    HostLock(HostLock const&) = delete;
-    HostLock& operator=(HostLock const&) = delete;
+    HostLock(const HostLock&) = delete;
+    HostLock& operator=(const HostLock&) = delete;
 };
 
 } // namespace corvane::corutiltools

@@ -3,11 +3,11 @@
 
 namespace corvane::corutiltools {
 
-KeyFrameError::KeyFrameError(std::string const& message) : m_message(message) {}
+KeyFrameError::KeyFrameError(const std::string& message) : m_message(message) {}
 
 KeyFrameError::~KeyFrameError() = default;
 
-char const* KeyFrameError::what() const noexcept {
+const char* KeyFrameError::what() const noexcept {
     return m_message.c_str();
 }
 

@@ -10,11 +10,11 @@ namespace corvane::corutiltools {
 // turns those into its out-of-memory message and lets this one pass.
 class KeyFrameError : public std::exception {
 public:
-    explicit KeyFrameError(std::string const& message);
+    explicit KeyFrameError(const std::string& message);
     ~KeyFrameError() override;
 
     // Valid as long as the exception lives.
-    char const* what() const noexcept override;
+    const char* what() const noexcept override;
 
 private:
     std::string m_message;

@@ -8,11 +8,12 @@ namespace corvane::corutiltools {
 
 OnIdleManager::~OnIdleManager() = default;
 
-void OnIdleManager::addCallback(boost::function<void()> const& callback) {
-    if (m_callback)
+void OnIdleManager::addCallback(const boost::function<void()>& callback) {
+    if (m_callback) {
         return;
+    }
     m_callback = callback;
-    HostLock const lock;
+    const HostLock lock;
     CorUtilOnIdleQueueAddCallback(onIdleCallback, reinterpret_cast<long>(this));
 }
 
@@ -26,7 +27,7 @@ void OnIdleManager::doCallback() {
 
         ~Clearing() { callback.clear(); }
     };
-    Clearing const afterwards{m_callback};
+    const Clearing afterwards{m_callback};
     m_callback();
 }
 

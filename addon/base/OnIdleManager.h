@@ -12,11 +12,11 @@ public:
     OnIdleManager() = default;
     virtual ~OnIdleManager();
 
-    OnIdleManager(OnIdleManager const&) = delete;
-    OnIdleManager& operator=(OnIdleManager const&) = delete;
+    OnIdleManager(const OnIdleManager&) = delete;
+    OnIdleManager& operator=(const OnIdleManager&) = delete;
 
     // Defers the callback to the next idle time, unless one is pending already.
-    void addCallback(boost::function<void()> const& callback);
+    void addCallback(const boost::function<void()>& callback);
 
     // For the host: runs the callback of the manager whose address it is given.
     static void onIdleCallback(long clientData);

@@ -5,30 +5,31 @@
 
 namespace corvane::corutiltools {
 
-StateChangeListener::StateChangeListener(Handler const& handler)
+StateChangeListener::StateChangeListener(const Handler& handler)
     : StateChangeListener(handler, HostLock()) {}
 
-StateChangeListener::StateChangeListener(Handler const& handler, HostLock const&)
+StateChangeListener::StateChangeListener(const Handler& handler, const HostLock&)
     : m_handler(handler), m_notifier(StateChangeMode_Synchronous) {}
 
 StateChangeListener::~StateChangeListener() = default;
 
 void StateChangeListener::startListening() {
-    HostLock const lock;
+    const HostLock lock;
     m_notifier.addListener(this);
 }
 
 void StateChangeListener::stopListening() {
-    HostLock const lock;
+    const HostLock lock;
     m_notifier.removeListener(this);
 }
 
-void StateChangeListener::stateChanged(toolbox::StateChangeEventInterface const& event,
+void StateChangeListener::stateChanged(const toolbox::StateChangeEventInterface& event,
                                        toolbox::StateChangeNotifierInterface& notifier) {
-    HostLock const lock;
+    const HostLock lock;
     m_handler(event, notifier);
-    if (event.stateChange() == StateChange_HostQuit)
+    if (event.stateChange() == StateChange_HostQuit) {
         stopListening();
+    }
 }
 
 } // namespace corvane::corutiltools

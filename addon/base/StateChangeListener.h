@@ -13,27 +13,27 @@ namespace corvane::corutiltools {
 // lock. Stops listening by itself when the host quits.
 class StateChangeListener : public virtual toolbox::StateChangeListenerInterface {
 public:
-    using Handler = boost::function<void(toolbox::StateChangeEventInterface const&,
+    using Handler = boost::function<void(const toolbox::StateChangeEventInterface&,
                                          toolbox::StateChangeNotifierInterface&)>;
 
     // Does not listen yet.
-    explicit StateChangeListener(Handler const& handler);
+    explicit StateChangeListener(const Handler& handler);
     ~StateChangeListener() override;
 
-    StateChangeListener(StateChangeListener const&) = delete;
-    StateChangeListener& operator=(StateChangeListener const&) = delete;
+    StateChangeListener(const StateChangeListener&) = delete;
+    StateChangeListener& operator=(const StateChangeListener&) = delete;
 
     // Starting twice counts once.
     void startListening();
     void stopListening();
 
     // Throws what the handler throws; boost::bad_function_call for an empty handler.
-    void stateChanged(toolbox::StateChangeEventInterface const& event,
+    void stateChanged(const toolbox::StateChangeEventInterface& event,
                       toolbox::StateChangeNotifierInterface& notifier) override;
 
 private:
     // The notifier registers with the host while the lock of the caller lives.
-    StateChangeListener(Handler const& handler, HostLock const& lock);
+    StateChangeListener(const Handler& handler, const HostLock& lock);
 
     Handler m_handler;
     toolbox::StateChangeNotifier m_notifier;

@@ -12,8 +12,8 @@ public:
     SuspendGraphics();
     virtual ~SuspendGraphics();
 
-    SuspendGraphics(SuspendGraphics const&) = delete;
-    SuspendGraphics& operator=(SuspendGraphics const&) = delete;
+    SuspendGraphics(const SuspendGraphics&) = delete;
+    SuspendGraphics& operator=(const SuspendGraphics&) = delete;
 
 private:
     HostLock m_lock;

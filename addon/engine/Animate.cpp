@@ -32,7 +32,7 @@ void playFrames(AnimationManager& manager, Status& status) {
 
 void recordFlight(Destination_e destination, MacroOption_e macroOption) {
     if (macroOption == MacroOption_Record && CorUtilMacroIsRecordingActive()) {
-        std::vector<std::pair<Parameter_e, std::string>> const parameters{
+        const std::vector<std::pair<Parameter_e, std::string>> parameters{
             {Parameter_AnimationDestination,
              EnumMap<Destination_e>::instance().toString(destination)}};
         MacroManager::instance().recordCommand(Command_Animate, parameters);
@@ -41,11 +41,11 @@ void recordFlight(Destination_e destination, MacroOption_e macroOption) {
 
 // What lives in here ends in reverse order: the display lists come back, the percent-done display
 // ends, and then the chain goes, putting back what it changed or finishing the file.
-void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, unsigned long count,
-          Settings_s const& settings, MacroOption_e macroOption) {
+void play(const std::vector<KeyFrame_s>& keyFrames, unsigned long startIndex, unsigned long count,
+          const Settings_s& settings, MacroOption_e macroOption) {
     AnimationManager manager(keyFrames, startIndex, count, settings);
     Status status(static_cast<double>(manager.numFrames()), "Animating....");
-    SuspendDisplayLists const displayListsOff;
+    const SuspendDisplayLists displayListsOff;
     playFrames(manager, status);
     recordFlight(settings.destination, macroOption);
 }
@@ -57,9 +57,9 @@ void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, un
 
 } // namespace
 
-void Animate(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex,
-             unsigned long count, Settings_s const& settings, MacroOption_e macroOption) {
-    HostLock const lock;
+void Animate(const std::vector<KeyFrame_s>& keyFrames, unsigned long startIndex,
+             unsigned long count, const Settings_s& settings, MacroOption_e macroOption) {
+    const HostLock lock;
     if (CorUtilFrameGetPlotType() != PlotType_Cartesian3D) {
         throw KeyFrameError("The current frame must be in 3D Cartesian mode.");
     }
@@ -67,9 +67,9 @@ void Animate(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex,
     // memory.
     try {
         play(keyFrames, startIndex, count, settings, macroOption);
-    } catch (std::logic_error const&) {
+    } catch (const std::logic_error&) {
         throwOutOfMemory();
-    } catch (std::bad_alloc const&) {
+    } catch (const std::bad_alloc&) {
         throwOutOfMemory();
     }
 }

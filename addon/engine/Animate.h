@@ -13,7 +13,7 @@ namespace corvane::corutiltools {
 // Throws KeyFrameError on every failure and when the user stops it. On every way out the host's
 // lock, status line, lists, light, axis, anchor and export are as they should be; the view of the
 // last drawn frame stays.
-void Animate(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex,
-             unsigned long count, Settings_s const& settings, MacroOption_e macroOption);
+void Animate(const std::vector<KeyFrame_s>& keyFrames, unsigned long startIndex,
+             unsigned long count, const Settings_s& settings, MacroOption_e macroOption);
 
 } // namespace corvane::corutiltools

@@ -9,7 +9,7 @@ namespace corvane::corutiltools {
 namespace {
 
 // Frames of the key frames in [first, end).
-unsigned long sumOfFrameCounts(std::vector<KeyFrame_s> const& keyFrames, unsigned long first,
+unsigned long sumOfFrameCounts(const std::vector<KeyFrame_s>& keyFrames, unsigned long first,
                                unsigned long end) {
     unsigned long sum = 0;
     for (unsigned long i = first; i < end; ++i) {
@@ -20,9 +20,9 @@ unsigned long sumOfFrameCounts(std::vector<KeyFrame_s> const& keyFrames, unsigne
 
 } // namespace
 
-AnimationManager::AnimationManager(std::vector<KeyFrame_s> const& keyFrames,
+AnimationManager::AnimationManager(const std::vector<KeyFrame_s>& keyFrames,
                                    unsigned long startIndex, unsigned long count,
-                                   Settings_s const& settings)
+                                   const Settings_s& settings)
     : m_animator(AnimatorAbstractFactory().createAnimator(keyFrames, settings)) {
     if (count == keyFrames.size()) {
         m_endFrame = GetTotalFrameCount(keyFrames);

@@ -16,12 +16,12 @@ public:
     // Plays everything if count is the number of key frames, otherwise from key frame startIndex up
     // to and including key frame startIndex + count. Throws what the animators throw, and
     // std::out_of_range for a range beyond the list.
-    AnimationManager(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex,
-                     unsigned long count, Settings_s const& settings);
+    AnimationManager(const std::vector<KeyFrame_s>& keyFrames, unsigned long startIndex,
+                     unsigned long count, const Settings_s& settings);
     virtual ~AnimationManager();
 
-    AnimationManager(AnimationManager const&) = delete;
-    AnimationManager& operator=(AnimationManager const&) = delete;
+    AnimationManager(const AnimationManager&) = delete;
+    AnimationManager& operator=(const AnimationManager&) = delete;
 
     bool hasNextFrame() const;
     void drawNextFrame();

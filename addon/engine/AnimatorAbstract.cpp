@@ -6,7 +6,7 @@
 
 namespace corvane::corutiltools {
 
-AnimatorAbstract::AnimatorAbstract(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* next)
+AnimatorAbstract::AnimatorAbstract(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* next)
     : m_next(next) {
     requireTwoKeyFrames(keyFrames.size());
     m_totalFrames = GetTotalFrameCount(keyFrames);

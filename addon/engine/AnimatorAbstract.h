@@ -17,7 +17,7 @@ class AnimatorAbstract : public virtual AnimatorInterface {
 public:
     // Takes over next, which may be null, also when the construction fails, here or in a derived
     // class. Throws KeyFrameError for fewer than two key frames.
-    AnimatorAbstract(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* next);
+    AnimatorAbstract(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* next);
 
     // First this animator's own share of the frame, then the rest of the chain.
     void drawFrame(unsigned long frameIndex) override;

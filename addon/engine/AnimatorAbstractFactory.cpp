@@ -16,7 +16,7 @@ namespace {
 
 using Chain = std::unique_ptr<AnimatorAbstract>;
 
-Chain innermost(std::vector<KeyFrame_s> const& keyFrames, Destination_e destination) {
+Chain innermost(const std::vector<KeyFrame_s>& keyFrames, Destination_e destination) {
     if (destination == Destination_OnScreen) {
         return std::make_unique<AnimatorOnScreen>(keyFrames, nullptr);
     }
@@ -29,8 +29,8 @@ AnimatorAbstractFactory::~AnimatorAbstractFactory() = default;
 
 // A plain new, not std::make_unique: it has its memory before it takes the chain, and from then on
 // the animator owns the chain even if its construction fails. So nothing can get lost in between.
-AnimatorInterface* AnimatorAbstractFactory::createAnimator(std::vector<KeyFrame_s> const& keyFrames,
-                                                           Settings_s const& settings) {
+AnimatorInterface* AnimatorAbstractFactory::createAnimator(const std::vector<KeyFrame_s>& keyFrames,
+                                                           const Settings_s& settings) {
     Chain chain = innermost(keyFrames, settings.destination);
     if (settings.timeOptions.animateTime) {
         chain.reset(new AnimatorTime(keyFrames, settings.timeOptions, chain.release()));

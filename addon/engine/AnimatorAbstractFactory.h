@@ -16,8 +16,8 @@ public:
     // The head of a new chain, owned by the caller: view, light, streamtraces, solution time, and
     // last the screen or the file, with only the effects that the settings ask for. What the
     // constructors of the animators throw passes through, and nothing of the chain is left then.
-    AnimatorInterface* createAnimator(std::vector<KeyFrame_s> const& keyFrames,
-                                      Settings_s const& settings);
+    AnimatorInterface* createAnimator(const std::vector<KeyFrame_s>& keyFrames,
+                                      const Settings_s& settings);
 };
 
 } // namespace corvane::corutiltools

@@ -17,10 +17,10 @@ toolbox::StyleValue orientationAxis() {
 
 } // namespace
 
-AnimatorFade::AnimatorFade(std::vector<KeyFrame_s> const& keyFrames, Settings_s const& settings,
+AnimatorFade::AnimatorFade(const std::vector<KeyFrame_s>& keyFrames, const Settings_s& settings,
                            AnimatorAbstract* inner)
     : AnimatorAbstract(keyFrames, inner), m_lightSource("GlobalThreeD", "LightSource") {
-    unsigned long const length = fadeLength(numTotalFrames());
+    const unsigned long length = fadeLength(numTotalFrames());
     m_fadeInFrameCount = settings.fadeIn ? length : 0;
     m_fadeOutFrameCount = settings.fadeOut ? length : 0;
     m_lightSource.getDouble(m_savedIntensity, "Intensity");

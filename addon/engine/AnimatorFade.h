@@ -11,7 +11,7 @@ namespace corvane::corutiltools {
 // failing there ends the program, as a destructor must not throw.
 class AnimatorFade : public AnimatorAbstract {
 public:
-    AnimatorFade(std::vector<KeyFrame_s> const& keyFrames, Settings_s const& settings,
+    AnimatorFade(const std::vector<KeyFrame_s>& keyFrames, const Settings_s& settings,
                  AnimatorAbstract* inner);
     ~AnimatorFade() override;
 

@@ -15,8 +15,8 @@ public:
 
     virtual ~AnimatorInterface() = default;
 
-    AnimatorInterface(AnimatorInterface const&) = delete;
-    AnimatorInterface& operator=(AnimatorInterface const&) = delete;
+    AnimatorInterface(const AnimatorInterface&) = delete;
+    AnimatorInterface& operator=(const AnimatorInterface&) = delete;
 };
 
 } // namespace corvane::corutiltools

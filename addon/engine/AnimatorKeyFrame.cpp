@@ -8,7 +8,7 @@
 
 namespace corvane::corutiltools {
 
-AnimatorKeyFrame::AnimatorKeyFrame(std::vector<KeyFrame_s> const& keyFrames,
+AnimatorKeyFrame::AnimatorKeyFrame(const std::vector<KeyFrame_s>& keyFrames,
                                    AnimatorAbstract* inner)
     : AnimatorAbstract(keyFrames, inner) {
     std::vector<View> views;
@@ -24,8 +24,8 @@ void AnimatorKeyFrame::drawFrameAtIndex(unsigned long index) {
     m_views.at(index).apply();
 }
 
-void AnimatorKeyFrame::buildViewList(std::vector<View> const& views,
-                                     std::vector<unsigned long> const& frameCounts) {
+void AnimatorKeyFrame::buildViewList(const std::vector<View>& views,
+                                     const std::vector<unsigned long>& frameCounts) {
     requireTwoKeyFrames(views.size());
     m_views.clear();
     m_views.reserve(numTotalFrames());

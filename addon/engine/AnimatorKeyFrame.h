@@ -11,7 +11,7 @@ namespace corvane::corutiltools {
 class AnimatorKeyFrame : public AnimatorAbstract {
 public:
     // Throws KeyFrameError for fewer than two key frames and when the user stops the computation.
-    AnimatorKeyFrame(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* inner);
+    AnimatorKeyFrame(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* inner);
     ~AnimatorKeyFrame() override;
 
     // Applies the view of the frame. Throws std::out_of_range for a frame without view, and applies
@@ -19,12 +19,12 @@ public:
     void drawFrameAtIndex(unsigned long index) override;
 
     // The views of all frames in order.
-    std::vector<View> const& views() const { return m_views; }
+    const std::vector<View>& views() const { return m_views; }
 
     // Computes the views of all frames anew: every view that has a frame count of its own, each
     // followed by the steps to the next one, and the last view. Throws as the constructor does.
-    void buildViewList(std::vector<View> const& views,
-                       std::vector<unsigned long> const& frameCounts);
+    void buildViewList(const std::vector<View>& views,
+                       const std::vector<unsigned long>& frameCounts);
 
 private:
     std::vector<View> m_views;

@@ -5,7 +5,7 @@
 
 namespace corvane::corutiltools {
 
-AnimatorOnScreen::AnimatorOnScreen(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* next)
+AnimatorOnScreen::AnimatorOnScreen(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* next)
     : AnimatorAbstract(keyFrames, next) {}
 
 AnimatorOnScreen::~AnimatorOnScreen() = default;

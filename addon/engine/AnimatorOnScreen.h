@@ -7,7 +7,7 @@ namespace corvane::corutiltools {
 
 class AnimatorOnScreen : public AnimatorAbstract {
 public:
-    AnimatorOnScreen(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* next);
+    AnimatorOnScreen(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* next);
     ~AnimatorOnScreen() override;
 
     // Shows the plot as the rest of the chain has set it up.

@@ -3,7 +3,7 @@
 
 namespace corvane::corutiltools {
 
-AnimatorStreams::AnimatorStreams(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* inner)
+AnimatorStreams::AnimatorStreams(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* inner)
     : AnimatorAbstract(keyFrames, inner), m_timing("StreamAttributes", "StreamTiming") {
     m_timing.getDouble(m_savedAnchor, "TimeAnchor");
     m_anchor = m_savedAnchor;

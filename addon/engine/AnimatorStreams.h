@@ -11,7 +11,7 @@ namespace corvane::corutiltools {
 // a destructor must not throw.
 class AnimatorStreams : public AnimatorAbstract {
 public:
-    AnimatorStreams(std::vector<KeyFrame_s> const& keyFrames, AnimatorAbstract* inner);
+    AnimatorStreams(const std::vector<KeyFrame_s>& keyFrames, AnimatorAbstract* inner);
     ~AnimatorStreams() override;
 
     void drawFrameAtIndex(unsigned long index) override;

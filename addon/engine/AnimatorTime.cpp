@@ -17,7 +17,7 @@ struct TimeRange_s {
 
 // Without enabled zones the range is the current time alone, so that every frame keeps it.
 TimeRange_s solutionTimeRange() {
-    double const current = CorUtilSolutionTimeGetCurrent();
+    const double current = CorUtilSolutionTimeGetCurrent();
     TimeRange_s range{current, current};
     GetSolutionTimeMinMax(range.minimum, range.maximum);
     return range;
@@ -25,8 +25,8 @@ TimeRange_s solutionTimeRange() {
 
 } // namespace
 
-AnimatorTime::AnimatorTime(std::vector<KeyFrame_s> const& keyFrames,
-                           TimeAnimationOptions_s const& options, AnimatorAbstract* inner)
+AnimatorTime::AnimatorTime(const std::vector<KeyFrame_s>& keyFrames,
+                           const TimeAnimationOptions_s& options, AnimatorAbstract* inner)
     : AnimatorAbstract(keyFrames, inner) {
     m_solutionTimes.reserve(numTotalFrames());
     calculateSolutionTimes(keyFrames, options);
@@ -42,14 +42,14 @@ void AnimatorTime::createInterpolatedTimes(double start, double end, unsigned lo
                                            std::vector<double>& out) {
     out.clear();
     out.reserve(count);
-    double const step = (end - start) / (static_cast<double>(count) - 1.0);
+    const double step = (end - start) / (static_cast<double>(count) - 1.0);
     for (unsigned long i = 0; i < count; ++i) {
         out.push_back(static_cast<double>(i) * step + start);
     }
 }
 
-void AnimatorTime::calculateSolutionTimes(std::vector<KeyFrame_s> const& keyFrames,
-                                          TimeAnimationOptions_s const& options) {
+void AnimatorTime::calculateSolutionTimes(const std::vector<KeyFrame_s>& keyFrames,
+                                          const TimeAnimationOptions_s& options) {
     switch (options.operation) {
     case TimeAnimationOperation_Forward:
         calculatedSolutionTimesForward();
@@ -71,16 +71,16 @@ void AnimatorTime::calculatedSolutionTimesForward() {
 }
 
 void AnimatorTime::calculatedSolutionTimesLoop(unsigned long cycles) {
-    unsigned long const wanted = std::max(cycles, 1UL);
-    TimeRange_s const range = solutionTimeRange();
+    const unsigned long wanted = std::max(cycles, 1UL);
+    const TimeRange_s range = solutionTimeRange();
     std::vector<double> cycle;
     createInterpolatedTimes(range.minimum, range.maximum, numTotalFrames() / wanted, cycle);
     repeatCycle(cycle, wanted, range.maximum);
 }
 
 void AnimatorTime::calculatedSolutionTimesBounce(unsigned long cycles) {
-    unsigned long const wanted = std::max(cycles, 1UL);
-    TimeRange_s const range = solutionTimeRange();
+    const unsigned long wanted = std::max(cycles, 1UL);
+    const TimeRange_s range = solutionTimeRange();
     std::vector<double> up;
     createInterpolatedTimes(range.minimum, range.maximum, numTotalFrames() / wanted / 2, up);
     // The turning values come twice in a row.
@@ -91,7 +91,7 @@ void AnimatorTime::calculatedSolutionTimesBounce(unsigned long cycles) {
     repeatCycle(cycle, wanted, range.maximum);
 }
 
-void AnimatorTime::calculateSolutionTimesAsCaptured(std::vector<KeyFrame_s> const& keyFrames) {
+void AnimatorTime::calculateSolutionTimesAsCaptured(const std::vector<KeyFrame_s>& keyFrames) {
     std::vector<unsigned long> counts;
     ExtractFrameCounts(keyFrames, counts);
     std::vector<double> times;
@@ -105,7 +105,7 @@ void AnimatorTime::calculateSolutionTimesAsCaptured(std::vector<KeyFrame_s> cons
     m_solutionTimes.push_back(times.back());
 }
 
-void AnimatorTime::repeatCycle(std::vector<double> const& cycle, unsigned long cycles,
+void AnimatorTime::repeatCycle(const std::vector<double>& cycle, unsigned long cycles,
                                double padding) {
     // More cycles than frames leave no frame to a cycle; without values there is nothing to repeat.
     for (unsigned long i = 0; i < cycles && !cycle.empty(); ++i) {

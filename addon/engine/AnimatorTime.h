@@ -9,7 +9,7 @@ namespace corvane::corutiltools {
 // list covers all frames, except that an unknown operation gives none at all.
 class AnimatorTime : public AnimatorAbstract {
 public:
-    AnimatorTime(std::vector<KeyFrame_s> const& keyFrames, TimeAnimationOptions_s const& options,
+    AnimatorTime(const std::vector<KeyFrame_s>& keyFrames, const TimeAnimationOptions_s& options,
                  AnimatorAbstract* inner);
     ~AnimatorTime() override;
 
@@ -23,15 +23,15 @@ public:
                                         std::vector<double>& out);
 
 private:
-    void calculateSolutionTimes(std::vector<KeyFrame_s> const& keyFrames,
-                                TimeAnimationOptions_s const& options);
+    void calculateSolutionTimes(const std::vector<KeyFrame_s>& keyFrames,
+                                const TimeAnimationOptions_s& options);
     void calculatedSolutionTimesForward();
     void calculatedSolutionTimesLoop(unsigned long cycles);
     void calculatedSolutionTimesBounce(unsigned long cycles);
-    void calculateSolutionTimesAsCaptured(std::vector<KeyFrame_s> const& keyFrames);
+    void calculateSolutionTimesAsCaptured(const std::vector<KeyFrame_s>& keyFrames);
 
     // Lists the cycle as often as given, and the padding for the frames that are left over.
-    void repeatCycle(std::vector<double> const& cycle, unsigned long cycles, double padding);
+    void repeatCycle(const std::vector<double>& cycle, unsigned long cycles, double padding);
 
     std::vector<double> m_solutionTimes;
 };

@@ -21,13 +21,13 @@ bool isAnimationFormat(long format) {
 
 bool animationFormatIsChosen() {
     long format = 0;
-    toolbox::StyleValue const setup("ExportSetup");
+    const toolbox::StyleValue setup("ExportSetup");
     return setup.getInteger(format, "ExportFormat") == StyleGet_Ok && isAnimationFormat(format);
 }
 
 } // namespace
 
-AnimatorToFile::AnimatorToFile(std::vector<KeyFrame_s> const& keyFrames)
+AnimatorToFile::AnimatorToFile(const std::vector<KeyFrame_s>& keyFrames)
     : AnimatorAbstract(keyFrames, nullptr) {}
 
 AnimatorToFile::~AnimatorToFile() {

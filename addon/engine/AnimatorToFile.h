@@ -10,7 +10,7 @@ namespace corvane::corutiltools {
 // destructor must not throw.
 class AnimatorToFile : public virtual AnimatorAbstract {
 public:
-    explicit AnimatorToFile(std::vector<KeyFrame_s> const& keyFrames);
+    explicit AnimatorToFile(const std::vector<KeyFrame_s>& keyFrames);
     ~AnimatorToFile() override;
 
     // Adds the picture as it is set up now; frames land in the file in the order of the calls. The

@@ -13,8 +13,8 @@ public:
     FramePopperAbstract();
     virtual ~FramePopperAbstract();
 
-    FramePopperAbstract(FramePopperAbstract const&) = delete;
-    FramePopperAbstract& operator=(FramePopperAbstract const&) = delete;
+    FramePopperAbstract(const FramePopperAbstract&) = delete;
+    FramePopperAbstract& operator=(const FramePopperAbstract&) = delete;
 
     // Goes to the next frame; false when there is none.
     virtual bool next() = 0;

@@ -5,10 +5,10 @@
 
 namespace corvane::corutiltools {
 
-Status::Status(double total, std::string const& message, int messageMode,
-               std::string const& cancelHint)
+Status::Status(double total, const std::string& message, int messageMode,
+               const std::string& cancelHint)
     : m_total(total), m_messageMode(messageMode), m_cancelHint(cancelHint) {
-    CorBool const hasSteps = m_total > 0.0 ? TRUE : FALSE;
+    const CorBool hasSteps = m_total > 0.0 ? TRUE : FALSE;
     CorUtilStatusStartPercentDone(buildStatusMessage(message).c_str(), hasSteps, hasSteps);
 }
 
@@ -16,7 +16,7 @@ Status::~Status() {
     CorUtilStatusFinishPercentDone();
 }
 
-void Status::setMessage(std::string const& message) const {
+void Status::setMessage(const std::string& message) const {
     CorUtilStatusSetPercentDoneText(buildStatusMessage(message).c_str());
 }
 
@@ -30,12 +30,12 @@ void Status::update() {
     if (!(m_total > 0.0)) {
         return;
     }
-    double const percent = m_count / m_total * 100.0;
-    int const shown = percent > 100.0 ? 100 : static_cast<int>(percent);
+    const double percent = m_count / m_total * 100.0;
+    const int shown = percent > 100.0 ? 100 : static_cast<int>(percent);
     m_canceled = !CorUtilStatusCheckPercentDone(shown);
 }
 
-std::string Status::buildStatusMessage(std::string const& message) const {
+std::string Status::buildStatusMessage(const std::string& message) const {
     return m_messageMode == messagesUnchanged ? message : message + m_cancelHint;
 }
 

@@ -17,15 +17,15 @@ public:
     //   nor a
     //                Stop button, and nothing is reported
     //   cancelHint   follows the message directly, so it begins with its own blank
-    Status(double total, std::string const& message, int messageMode = 0,
-           std::string const& cancelHint = " Press [Esc] or click [Stop] to cancel.");
+    Status(double total, const std::string& message, int messageMode = 0,
+           const std::string& cancelHint = " Press [Esc] or click [Stop] to cancel.");
     // Ends the display.
     ~Status();
 
-    Status(Status const&) = delete;
-    Status& operator=(Status const&) = delete;
+    Status(const Status&) = delete;
+    Status& operator=(const Status&) = delete;
 
-    void setMessage(std::string const& message) const;
+    void setMessage(const std::string& message) const;
 
     // One step further: counts it and reports.
     Status& operator++();
@@ -33,7 +33,7 @@ public:
     // Reports the steps done so far, never more than 100 percent.
     void update();
 
-    std::string buildStatusMessage(std::string const& message) const;
+    std::string buildStatusMessage(const std::string& message) const;
 
     // What the host said at the last report.
     bool isCanceled() const { return m_canceled; }

@@ -12,8 +12,8 @@ public:
     SuspendDisplayLists();
     ~SuspendDisplayLists();
 
-    SuspendDisplayLists(SuspendDisplayLists const&) = delete;
-    SuspendDisplayLists& operator=(SuspendDisplayLists const&) = delete;
+    SuspendDisplayLists(const SuspendDisplayLists&) = delete;
+    SuspendDisplayLists& operator=(const SuspendDisplayLists&) = delete;
 
 private:
     toolbox::StyleValue m_interface;

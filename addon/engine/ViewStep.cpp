@@ -31,25 +31,25 @@ void rotateByAngles(double psi, double theta, double alpha) {
 // What is left to do from one view to another, as a view of differences. A trial turn over the
 // whole way shows where the turn alone carries the viewer; only what remains from there is moved in
 // a straight line.
-View wholeWay(View const& from, View const& target) {
+View wholeWay(const View& from, const View& target) {
     from.apply();
-    double const psi = shortWay(from.psi(), target.psi());
-    double const theta = shortWay(from.theta(), target.theta());
-    double const alpha = shortWay(from.alpha(), target.alpha());
-    HostLock const lock;
+    const double psi = shortWay(from.psi(), target.psi());
+    const double theta = shortWay(from.theta(), target.theta());
+    const double alpha = shortWay(from.alpha(), target.alpha());
+    const HostLock lock;
     rotateByAngles(psi, theta, alpha);
-    View const rotated = GetCurrentView();
+    const View rotated = GetCurrentView();
     return View(target.x() - rotated.x(), target.y() - rotated.y(), target.z() - rotated.z(), psi,
                 theta, alpha, target.width() - rotated.width());
 }
 
-void moveHost(View const& from, View const& step) {
+void moveHost(const View& from, const View& step) {
     // Undoes the trial turn.
     from.apply();
-    HostLock const lock;
-    SuspendGraphics const suspended;
+    const HostLock lock;
+    const SuspendGraphics suspended;
     rotateByAngles(step.psi(), step.theta(), step.alpha());
-    View const rotated = GetCurrentView();
+    const View rotated = GetCurrentView();
     ViewStyle style;
     style.setViewerPosition(rotated.x() + step.x(), rotated.y() + step.y(), rotated.z() + step.z());
     style.setWidth(rotated.width() + step.width());
@@ -57,7 +57,7 @@ void moveHost(View const& from, View const& step) {
 
 } // namespace
 
-View StepTowards(View const& from, View const& target, double stepsToGo) {
+View StepTowards(const View& from, const View& target, double stepsToGo) {
     moveHost(from, wholeWay(from, target) / stepsToGo);
     return GetCurrentView();
 }

@@ -11,6 +11,6 @@ namespace corvane::corutiltools {
 // and no suspended drawing behind, also when the host throws. Throws KeyFrameError when the active
 // frame is no 3D Cartesian plot.
 //   stepsToGo   steps from the given view to the target, this one included; at least 1
-View StepTowards(View const& from, View const& target, double stepsToGo);
+View StepTowards(const View& from, const View& target, double stepsToGo);
 
 } // namespace corvane::corutiltools

@@ -17,7 +17,7 @@ constexpr std::string_view whiteSpace = " \t\r\n\v\f";
 constexpr double largestWidth = 1e150;
 
 bool equalIgnoringCase(std::string_view left, std::string_view right) {
-    CaseInsensitiveStringCompareObj const less;
+    const CaseInsensitiveStringCompareObj less;
     return !less(left, right) && !less(right, left);
 }
 
@@ -27,13 +27,13 @@ void removeOuterWhiteSpace(std::string& line) {
 }
 
 template <typename T>
-std::string const& keyword(T value) {
+const std::string& keyword(T value) {
     return EnumMap<T>::instance().toString(value);
 }
 
 // A line of a block: "\n ", the keyword and the values, each after one space.
 template <typename Key, typename... Values>
-void writeItem(std::ostream& stream, Key key, Values const&... values) {
+void writeItem(std::ostream& stream, Key key, const Values&... values) {
     stream << "\n " << keyword(key);
     ((stream << ' ' << values), ...);
 }
@@ -44,28 +44,31 @@ KeyFrameFile::KeyFrameFile() {
     m_lineStream.imbue(std::locale::classic());
 }
 
-void KeyFrameFile::saveFile(std::string const& fileName, Settings_s const& settings,
-                            ListModelKeyFrame const& model) const {
-    if (model.size() == 0)
+void KeyFrameFile::saveFile(const std::string& fileName, const Settings_s& settings,
+                            const ListModelKeyFrame& model) const {
+    if (model.size() == 0) {
         throw KeyFrameError(model.emptyModelMessage());
+    }
     std::ofstream stream(fileName);
-    if (!stream)
+    if (!stream) {
         throw KeyFrameError("Unable to open file for writing.");
+    }
     write(stream, settings, model);
-    if (!stream.flush())
+    if (!stream.flush()) {
         throw KeyFrameError("Error during file write.");
+    }
 }
 
-void KeyFrameFile::write(std::ostream& stream, Settings_s const& settings,
-                         ListModelKeyFrame const& model) const {
+void KeyFrameFile::write(std::ostream& stream, const Settings_s& settings,
+                         const ListModelKeyFrame& model) const {
     stream.imbue(std::locale::classic());
     stream << std::boolalpha << m_headerToken << ' ' << m_version;
     writeSettings(stream, settings);
     writeModel(stream, model);
 }
 
-void KeyFrameFile::writeSettings(std::ostream& stream, Settings_s const& settings) const {
-    TimeAnimationOptions_s const& timeOptions = settings.timeOptions;
+void KeyFrameFile::writeSettings(std::ostream& stream, const Settings_s& settings) const {
+    const TimeAnimationOptions_s& timeOptions = settings.timeOptions;
     stream << "\n\n" << keyword(Section_Settings);
     writeItem(stream, Setting_AnimateTime, timeOptions.animateTime);
     writeItem(stream, Setting_TimeAnimationOperation, keyword(timeOptions.operation));
@@ -76,10 +79,10 @@ void KeyFrameFile::writeSettings(std::ostream& stream, Settings_s const& setting
     stream << '\n' << keyword(Section_Settings);
 }
 
-void KeyFrameFile::writeModel(std::ostream& stream, ListModelKeyFrame const& model) const {
+void KeyFrameFile::writeModel(std::ostream& stream, const ListModelKeyFrame& model) const {
     for (unsigned long index = 0; index < model.size(); ++index) {
-        KeyFrame_s const& keyFrame = model.data(index);
-        View const& view = keyFrame.view;
+        const KeyFrame_s& keyFrame = model.data(index);
+        const View& view = keyFrame.view;
         stream << "\n\n" << keyword(Section_KeyFrameView);
         writeItem(stream, KeyFrameItem_Name, '"' + keyFrame.name + '"');
         writeItem(stream, KeyFrameItem_Position, view.x(), view.y(), view.z());
@@ -91,11 +94,12 @@ void KeyFrameFile::writeModel(std::ostream& stream, ListModelKeyFrame const& mod
     }
 }
 
-void KeyFrameFile::readFile(std::string const& fileName, Settings_s& settings,
+void KeyFrameFile::readFile(const std::string& fileName, Settings_s& settings,
                             ListModelKeyFrame& model) {
     std::ifstream stream(fileName);
-    if (!stream)
+    if (!stream) {
         throw KeyFrameError("Unable to open file for reading.");
+    }
     read(stream, settings, model);
 }
 
@@ -105,21 +109,24 @@ void KeyFrameFile::read(std::istream& stream, Settings_s& settings, ListModelKey
     Settings_s settingsCopy = settings;
     std::vector<KeyFrame_s> keyFrames;
     readBlocks(stream, settingsCopy, keyFrames);
-    if (stream.fail() && !stream.eof())
+    if (stream.fail() && !stream.eof()) {
         throwError("Error during file read.", true);
+    }
     settings = settingsCopy;
     model.setDataList(keyFrames);
 }
 
 void KeyFrameFile::readFileHeader(std::istream& stream) {
     readLine(stream, m_lineStream);
-    std::string const token = readWord(m_lineStream);
+    const std::string token = readWord(m_lineStream);
     std::int32_t version = 0;
     m_lineStream >> version;
-    if (stream.fail() || !equalIgnoringCase(token, m_headerToken))
+    if (stream.fail() || !equalIgnoringCase(token, m_headerToken)) {
         throw KeyFrameError("Invalid file header.");
-    if (version > m_version)
+    }
+    if (version > m_version) {
         throw KeyFrameError("File created with a newer version of the Key Frame add-on.");
+    }
 }
 
 void KeyFrameFile::readBlocks(std::istream& stream, Settings_s& settings,
@@ -128,8 +135,9 @@ void KeyFrameFile::readBlocks(std::istream& stream, Settings_s& settings,
     // A last line without line feed has taken the stream to its end and is not looked at.
     for (readLine(stream, line, true); stream.good(); readLine(stream, line, true)) {
         Section_e section{};
-        if (!EnumMap<Section_e>::instance().fromString(line, section))
+        if (!EnumMap<Section_e>::instance().fromString(line, section)) {
             throwError("Unknown section header: " + line, true);
+        }
         if (section == Section_Settings) {
             readSettings(stream, settings);
         } else {
@@ -143,18 +151,21 @@ void KeyFrameFile::readBlocks(std::istream& stream, Settings_s& settings,
 void KeyFrameFile::readSettings(std::istream& stream, Settings_s& settings) {
     do {
         readLine(stream, m_lineStream);
-        std::string const word = readWord(m_lineStream);
-        if (word.empty() && !stream.good())
+        const std::string word = readWord(m_lineStream);
+        if (word.empty() && !stream.good()) {
             return;
+        }
         Section_e section{};
         if (EnumMap<Section_e>::instance().fromString(word, section)) {
-            if (section != Section_Settings)
+            if (section != Section_Settings) {
                 throwError("Missing end marker for Settings section.", true);
+            }
             return;
         }
         Setting_e setting{};
-        if (!EnumMap<Setting_e>::instance().fromString(word, setting))
+        if (!EnumMap<Setting_e>::instance().fromString(word, setting)) {
             throwError("Unrecognized setting entry.", true);
+        }
         readSetting(m_lineStream, setting, settings);
     } while (stream.good());
 }
@@ -190,28 +201,32 @@ std::string KeyFrameFile::readWord(std::istringstream& lineStream) {
 }
 
 bool KeyFrameFile::readBoolean(std::istringstream& lineStream, Setting_e setting) {
-    std::string const word = readWord(lineStream);
-    if (word != "true" && word != "false")
+    const std::string word = readWord(lineStream);
+    if (word != "true" && word != "false") {
         throwError("Invalid value for " + keyword(setting) +
                        " setting.\nValue must be \"true\" or \"false\".",
                    true);
+    }
     return word == "true";
 }
 
 TimeAnimationOperation_e KeyFrameFile::readOperation(std::istringstream& lineStream) {
     TimeAnimationOperation_e operation{};
-    if (!EnumMap<TimeAnimationOperation_e>::instance().fromString(readWord(lineStream), operation))
+    if (!EnumMap<TimeAnimationOperation_e>::instance().fromString(readWord(lineStream),
+                                                                  operation)) {
         throwError("Invalid value for TimeAnimationOperation setting.", true);
+    }
     return operation;
 }
 
 unsigned long KeyFrameFile::readNumCycles(std::istringstream& lineStream) {
     std::int32_t numCycles = 0;
     // One cycle is fine; the text has always said otherwise.
-    if (!(lineStream >> numCycles) || numCycles <= 0)
+    if (!(lineStream >> numCycles) || numCycles <= 0) {
         throwError("Invalid value for NumCycles setting.\n"
                    "Value must be an integer greater than 1.",
                    true);
+    }
     return static_cast<unsigned long>(numCycles);
 }
 
@@ -224,16 +239,18 @@ void KeyFrameFile::readKeyFrameView(std::istream& stream, View& view, unsigned l
     name.clear();
     solutionTime = 0.0;
     for (readLine(stream, m_lineStream); stream.good(); readLine(stream, m_lineStream)) {
-        std::string const word = readWord(m_lineStream);
+        const std::string word = readWord(m_lineStream);
         Section_e section{};
         if (EnumMap<Section_e>::instance().fromString(word, section)) {
-            if (section != Section_KeyFrameView)
+            if (section != Section_KeyFrameView) {
                 throwError("Missing end marker for KeyFrameView section.", true);
+            }
             break;
         }
         KeyFrameItem_e item{};
-        if (!EnumMap<KeyFrameItem_e>::instance().fromString(word, item))
+        if (!EnumMap<KeyFrameItem_e>::instance().fromString(word, item)) {
             throwError("Unrecognized KeyFrameItem entry.", true);
+        }
         switch (item) {
         case KeyFrameItem_Name:
             name = readName(m_lineStream);
@@ -262,30 +279,35 @@ void KeyFrameFile::readKeyFrameView(std::istream& stream, View& view, unsigned l
 
 // The same kind of error as reading past the end of the values, but with a text that tells users
 // what to mend.
-void KeyFrameFile::requireItem(std::vector<double> const& values, KeyFrameItem_e item) const {
-    if (values.empty())
+void KeyFrameFile::requireItem(const std::vector<double>& values, KeyFrameItem_e item) const {
+    if (values.empty()) {
         throw std::out_of_range("The key frame view that ends on line number " +
                                 std::to_string(m_lineCounter) + " of the key frame file has no " +
                                 keyword(item) + " entry.");
+    }
 }
 
-std::string KeyFrameFile::readName(std::istringstream const& lineStream) {
-    std::string_view const line = lineStream.view();
-    auto const opening = line.find('"');
-    auto const closing = opening == std::string_view::npos ? opening : line.find('"', opening + 1);
-    if (closing == std::string_view::npos)
+std::string KeyFrameFile::readName(const std::istringstream& lineStream) {
+    const std::string_view line = lineStream.view();
+    const auto opening = line.find('"');
+    const auto closing = opening == std::string_view::npos ? opening : line.find('"', opening + 1);
+    if (closing == std::string_view::npos) {
         throwError("View name must be surrounded in quotation marks.", true);
-    if (closing == opening + 1)
+    }
+    if (closing == opening + 1) {
         throwError("Unable to read view name.", true);
+    }
     return std::string(line.substr(opening + 1, closing - opening - 1));
 }
 
 double KeyFrameFile::readWidth(std::istringstream& lineStream) {
     double width = 0.0;
-    if (!(lineStream >> width))
+    if (!(lineStream >> width)) {
         throwError("Unable to read width value.", true);
-    if (width > largestWidth || width < -largestWidth)
+    }
+    if (width > largestWidth || width < -largestWidth) {
         throwError("Invalid width value. Width must be between -1e150 and 1e150", true);
+    }
     return width;
 }
 
@@ -293,17 +315,20 @@ unsigned long KeyFrameFile::readFrameCount(std::istringstream& lineStream) {
     unsigned long frameCount = 0;
     // Streams read -1 as the largest number. The text speaks of the width on purpose.
     lineStream >> std::ws;
-    if (lineStream.peek() == '-' || !(lineStream >> frameCount))
+    if (lineStream.peek() == '-' || !(lineStream >> frameCount)) {
         throwError("Unable to read width value.", true);
-    if (frameCount == 0)
+    }
+    if (frameCount == 0) {
         throwError("Invalid frameCount value.", true);
+    }
     return frameCount;
 }
 
 double KeyFrameFile::readSolutionTime(std::istringstream& lineStream) {
     double solutionTime = 0.0;
-    if (!(lineStream >> solutionTime))
+    if (!(lineStream >> solutionTime)) {
         throwError("Unable to read solution time value.", true);
+    }
     return solutionTime;
 }
 
@@ -312,13 +337,13 @@ void KeyFrameFile::readValuesFromStream(std::istringstream& lineStream, std::siz
                                         std::vector<T>& values) {
     values.clear();
     while (!(lineStream >> std::ws).eof()) {
-        auto const wordStart = lineStream.tellg();
+        const auto wordStart = lineStream.tellg();
         T value{};
         if (!(lineStream >> value)) {
-            auto const state = lineStream.rdstate();
+            const auto state = lineStream.rdstate();
             lineStream.clear();
             lineStream.seekg(wordStart);
-            std::string const word = readWord(lineStream);
+            const std::string word = readWord(lineStream);
             lineStream.setstate(state);
             throwError("Error reading item from file.\n"
                        "Unable to convert input to appropriate value: " +
@@ -327,12 +352,13 @@ void KeyFrameFile::readValuesFromStream(std::istringstream& lineStream, std::siz
         }
         values.push_back(value);
     }
-    if (values.size() != expectedCount)
+    if (values.size() != expectedCount) {
         throwError("Mismatch between number of expected values and number of values that could be "
                    "read.\nNumber of expected values: " +
                        std::to_string(expectedCount) +
                        "\nNumber of values read: " + std::to_string(values.size()),
                    true);
+    }
 }
 
 void KeyFrameFile::readLine(std::istream& stream, std::string& line, bool skipBlankLines) {
@@ -341,8 +367,9 @@ void KeyFrameFile::readLine(std::istream& stream, std::string& line, bool skipBl
         std::getline(stream, line);
         ++m_lineCounter;
         removeOuterWhiteSpace(line);
-        if (!skipBlankLines || !line.empty())
+        if (!skipBlankLines || !line.empty()) {
             return;
+        }
     }
 }
 
@@ -357,10 +384,11 @@ void KeyFrameFile::readLine(std::istream& stream, std::istringstream& lineStream
     readLine(stream, lineStream, true);
 }
 
-void KeyFrameFile::throwError(std::string const& message, bool withLineNumber) const {
+void KeyFrameFile::throwError(const std::string& message, bool withLineNumber) const {
     std::string text = "Error reading key frame settings file.\n\n" + message;
-    if (withLineNumber && m_lineCounter != 0)
+    if (withLineNumber && m_lineCounter != 0) {
         text += "\n\nError occurred on line number " + std::to_string(m_lineCounter) + ".";
+    }
     throw KeyFrameError(text);
 }
 

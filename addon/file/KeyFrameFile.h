@@ -51,25 +51,25 @@ public:
     // Replaces the file. Throws KeyFrameError when there are no key frames (no file is made then),
     // or the file cannot be opened or written, and std::out_of_range for a value without keyword.
     // What was written before a failure stays.
-    void saveFile(std::string const& fileName, Settings_s const& settings,
-                  ListModelKeyFrame const& model) const;
+    void saveFile(const std::string& fileName, const Settings_s& settings,
+                  const ListModelKeyFrame& model) const;
 
     // The same text into a stream, with or without key frames. The stream's state tells of
     // failures; its locale and its way of writing booleans are changed.
-    void write(std::ostream& stream, Settings_s const& settings,
-               ListModelKeyFrame const& model) const;
+    void write(std::ostream& stream, const Settings_s& settings,
+               const ListModelKeyFrame& model) const;
 
     // Settings that the file does not mention keep their values; the list is replaced. Throws
     // KeyFrameError with the line number for text that is no key frame file, and std::out_of_range
     // for a key frame without position or angle. On an error settings and model are unchanged.
-    void readFile(std::string const& fileName, Settings_s& settings, ListModelKeyFrame& model);
+    void readFile(const std::string& fileName, Settings_s& settings, ListModelKeyFrame& model);
 
     // The same from a stream, whose locale is changed.
     void read(std::istream& stream, Settings_s& settings, ListModelKeyFrame& model);
 
 private:
-    void writeSettings(std::ostream& stream, Settings_s const& settings) const;
-    void writeModel(std::ostream& stream, ListModelKeyFrame const& model) const;
+    void writeSettings(std::ostream& stream, const Settings_s& settings) const;
+    void writeModel(std::ostream& stream, const ListModelKeyFrame& model) const;
 
     void readFileHeader(std::istream& stream);
     void readBlocks(std::istream& stream, Settings_s& settings, std::vector<KeyFrame_s>& keyFrames);
@@ -77,13 +77,13 @@ private:
     void readSetting(std::istringstream& lineStream, Setting_e setting, Settings_s& settings);
     void readKeyFrameView(std::istream& stream, View& view, unsigned long& frameCount,
                           std::string& name, double& solutionTime);
-    void requireItem(std::vector<double> const& values, KeyFrameItem_e item) const;
+    void requireItem(const std::vector<double>& values, KeyFrameItem_e item) const;
 
     static std::string readWord(std::istringstream& lineStream);
     bool readBoolean(std::istringstream& lineStream, Setting_e setting);
     TimeAnimationOperation_e readOperation(std::istringstream& lineStream);
     unsigned long readNumCycles(std::istringstream& lineStream);
-    std::string readName(std::istringstream const& lineStream);
+    std::string readName(const std::istringstream& lineStream);
     double readWidth(std::istringstream& lineStream);
     unsigned long readFrameCount(std::istringstream& lineStream);
     double readSolutionTime(std::istringstream& lineStream);
@@ -99,7 +99,7 @@ private:
     void readLine(std::istream& stream, std::istringstream& lineStream, bool skipBlankLines);
     void readLine(std::istream& stream, std::istringstream& lineStream);
 
-    [[noreturn]] void throwError(std::string const& message, bool withLineNumber) const;
+    [[noreturn]] void throwError(const std::string& message, bool withLineNumber) const;
 
     unsigned long m_lineCounter = 0;
 

@@ -18,36 +18,40 @@ public:
     using ChangeInfo_s = ListModelGenericInterface::ChangeInfo_s;
 
     ListModelAbstract() = default;
-    ListModelAbstract(ListModelAbstract const&) = delete;
-    ListModelAbstract& operator=(ListModelAbstract const&) = delete;
+    ListModelAbstract(const ListModelAbstract&) = delete;
+    ListModelAbstract& operator=(const ListModelAbstract&) = delete;
 
     void addObserver(ListModelObserverInterface& observer) override {
-        if (m_observers.empty())
+        if (m_observers.empty()) {
             this->rebuildModel();
+        }
         m_observers.insert(&observer);
     }
 
     void removeObserver(ListModelObserverInterface& observer) override {
-        if (m_observers.erase(&observer) != 0 && m_observers.empty())
+        if (m_observers.erase(&observer) != 0 && m_observers.empty()) {
             this->freeMemory();
+        }
     }
 
     unsigned long end() const override { return this->size() + 1; }
 
     std::string emptyModelMessage() const override { return "No items available."; }
 
-    void setData(unsigned long, T const&) override {}
+    void setData(unsigned long, const T&) override {}
 
-    unsigned long indexForData(T const& item) const override {
-        unsigned long const count = this->size();
-        for (unsigned long index = 0; index < count; ++index)
-            if (this->data(index) == item)
+    unsigned long indexForData(const T& item) const override {
+        const unsigned long count = this->size();
+        for (unsigned long index = 0; index < count; ++index) {
+            if (this->data(index) == item) {
                 return index;
+            }
+        }
         return this->end();
     }
 
-    void insertItem(unsigned long, T const&) override {}
-    void insertItems(unsigned long, std::vector<T> const&) override {}
+    void insertItem(unsigned long, const T&) override {}
+    void insertItems(unsigned long, const std::vector<T>&) override {}
     void removeItem(unsigned long) override {}
     void removeItems(unsigned long, unsigned long) override {}
     void rebuildModel() override {}
@@ -56,9 +60,10 @@ public:
 protected:
     // Reports one change. It is dropped when nobody observes, and while a reset is still to be
     // delivered, which covers it.
-    void notifyOfChange(ChangeInfo_s const& change) {
-        if (m_rebuildPending || m_observers.empty())
+    void notifyOfChange(const ChangeInfo_s& change) {
+        if (m_rebuildPending || m_observers.empty()) {
             return;
+        }
         m_pendingChanges.push_back(change);
         notifyObserversOfChange();
     }
@@ -68,21 +73,24 @@ protected:
     void notifyOfReset() {
         m_rebuildPending = true;
         m_pendingChanges.assign(1, ChangeInfo_s{ListModelGenericInterface::ModelReset, {}});
-        if (!m_observers.empty())
+        if (!m_observers.empty()) {
             notifyObserversOfChange();
+        }
     }
 
     // Delivers what is pending. When an observer throws, nothing stays pending and the exception
     // goes on. Changes that an observer makes meanwhile are delivered after the current ones, so
     // that every observer hears of all of them once and in the same order.
     void notifyObserversOfChange() {
-        if (m_deliveryRunning)
+        if (m_deliveryRunning) {
             return;
+        }
         m_deliveryRunning = true;
-        DeliveryEnd const deliveryEnd{*this};
+        const DeliveryEnd deliveryEnd{*this};
         do {
-            if (m_rebuildPending)
+            if (m_rebuildPending) {
                 this->rebuildModel();
+            }
             deliverPendingChanges();
         } while (!m_pendingChanges.empty());
     }
@@ -102,11 +110,14 @@ private:
     void deliverPendingChanges() {
         std::vector<ChangeInfo_s> changes;
         changes.swap(m_pendingChanges);
-        std::set<ListModelObserverInterface*> const observers = m_observers;
-        for (ListModelObserverInterface* const observer : observers)
-            for (ChangeInfo_s const& change : changes)
-                if (m_observers.count(observer) != 0)
+        const std::set<ListModelObserverInterface*> observers = m_observers;
+        for (ListModelObserverInterface* const observer : observers) {
+            for (const ChangeInfo_s& change : changes) {
+                if (m_observers.count(observer) != 0) {
                     observer->modelChanged(change);
+                }
+            }
+        }
     }
 
     std::set<ListModelObserverInterface*> m_observers;

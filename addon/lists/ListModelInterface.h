@@ -11,14 +11,14 @@ namespace corvane::corutiltools {
 template <typename T>
 class ListModelInterface : public virtual ListModelGenericInterface {
 public:
-    virtual T const& data(unsigned long index) const = 0;
-    virtual void setData(unsigned long index, T const& item) = 0;
+    virtual const T& data(unsigned long index) const = 0;
+    virtual void setData(unsigned long index, const T& item) = 0;
 
     // The first item equal to this one, or end().
-    virtual unsigned long indexForData(T const& item) const = 0;
+    virtual unsigned long indexForData(const T& item) const = 0;
 
-    virtual void insertItem(unsigned long index, T const& item) = 0;
-    virtual void insertItems(unsigned long index, std::vector<T> const& items) = 0;
+    virtual void insertItem(unsigned long index, const T& item) = 0;
+    virtual void insertItems(unsigned long index, const std::vector<T>& items) = 0;
     virtual void removeItem(unsigned long index) = 0;
     virtual void removeItems(unsigned long first, unsigned long count) = 0;
 

@@ -11,7 +11,7 @@ public:
 
     // The model has changed already. An exception reaches whoever changed it, and the observers
     // after this one hear nothing of the change.
-    virtual void modelChanged(ListModelGenericInterface::ChangeInfo_s const& change) = 0;
+    virtual void modelChanged(const ListModelGenericInterface::ChangeInfo_s& change) = 0;
 };
 
 } // namespace corvane::corutiltools

@@ -15,18 +15,18 @@ template <typename T>
 class ListModelPreMapped : public ListModelAbstract<T> {
 public:
     // Copies the rows.
-    ListModelPreMapped(PreMappedValue<T> const* rows, unsigned long count)
+    ListModelPreMapped(const PreMappedValue<T>* rows, unsigned long count)
         : m_rows(rows, rows + count) {}
 
     unsigned long size() const override { return m_rows.size(); }
     std::string displayString(unsigned long index) const override {
         return m_rows.at(index).displayString;
     }
-    T const& data(unsigned long index) const override { return m_rows.at(index).value; }
+    const T& data(unsigned long index) const override { return m_rows.at(index).value; }
     void rebuildModel() override {}
 
 private:
-    std::vector<PreMappedValue<T>> const m_rows;
+    const std::vector<PreMappedValue<T>> m_rows;
 };
 
 } // namespace corvane::corutiltools

@@ -26,28 +26,28 @@ public:
     // begins with a double quote goes on to the next one, delimiters included. Throws ErrorT for a
     // missing "=" or quote, and std::out_of_range for text that ends in a delimiter after a word:
     // hosts hand over commands without trailing blanks.
-    void tokenize(std::string const& text, std::vector<std::string>& tokens) const;
+    void tokenize(const std::string& text, std::vector<std::string>& tokens) const;
 
     // Values lose all double quotes at their ends. Duplicate parameters are kept, in order. Whether
     // a parameter suits the command is for the command's executer to say.
-    void parseMacroCommandString(std::string const& text, CommandT& command,
+    void parseMacroCommandString(const std::string& text, CommandT& command,
                                  Parameters& parameters) const;
 
     // Throws std::out_of_range for a command or parameter without keyword. A value that holds a
     // double quote is written as it stands, since the syntax has no escape character.
-    std::string buildMacroCommandString(CommandT command, Parameters const& parameters) const;
+    std::string buildMacroCommandString(CommandT command, const Parameters& parameters) const;
 
 private:
-    std::pair<ParameterT, std::string> parseParameter(std::string const& word) const;
+    std::pair<ParameterT, std::string> parseParameter(const std::string& word) const;
 
-    static std::string withoutOuterQuotes(std::string const& value);
+    static std::string withoutOuterQuotes(const std::string& value);
 
     std::string m_delimiters;
 };
 
 template <typename CommandT, typename ParameterT, typename ErrorT>
 void MacroCommandManager<CommandT, ParameterT, ErrorT>::tokenize(
-    std::string const& text, std::vector<std::string>& tokens) const {
+    const std::string& text, std::vector<std::string>& tokens) const {
     constexpr auto none = std::string::npos;
     std::vector<std::string> words;
     auto start = text.find_first_not_of(m_delimiters);
@@ -57,19 +57,23 @@ void MacroCommandManager<CommandT, ParameterT, ErrorT>::tokenize(
         // After trailing delimiters start is none while end is not, and substr refuses.
         words.push_back(text.substr(start, end - start));
         start = text.find_first_not_of(m_delimiters, end);
-        if (start == none)
+        if (start == none) {
             continue;
+        }
         // The sign may belong to a later word. Looking again only when it was passed keeps the work
         // in proportion to the text.
-        if (equals < start)
+        if (equals < start) {
             equals = text.find('=', start);
-        if (equals == none)
+        }
+        if (equals == none) {
             throw ErrorT("Invalid macro command string format.");
+        }
         auto searchStart = start;
         if (equals + 1 < text.size() && text[equals + 1] == '"') {
             searchStart = text.find('"', equals + 2);
-            if (searchStart == none)
+            if (searchStart == none) {
                 throw ErrorT("Invalid macro command string format. Unmatched quotation mark.");
+            }
         }
         end = text.find_first_of(m_delimiters, searchStart);
     }
@@ -78,50 +82,55 @@ void MacroCommandManager<CommandT, ParameterT, ErrorT>::tokenize(
 
 template <typename CommandT, typename ParameterT, typename ErrorT>
 void MacroCommandManager<CommandT, ParameterT, ErrorT>::parseMacroCommandString(
-    std::string const& text, CommandT& command, Parameters& parameters) const {
+    const std::string& text, CommandT& command, Parameters& parameters) const {
     std::vector<std::string> words;
     tokenize(text, words);
-    if (words.empty())
+    if (words.empty()) {
         throw ErrorT("Invalid macro command string.");
+    }
     CommandT parsedCommand{};
-    if (!EnumMap<CommandT>::instance().fromString(words.front(), parsedCommand))
+    if (!EnumMap<CommandT>::instance().fromString(words.front(), parsedCommand)) {
         throw ErrorT("Unknown macro command: " + words.front());
+    }
     Parameters parsedParameters;
     std::transform(words.begin() + 1, words.end(), std::back_inserter(parsedParameters),
-                   [this](std::string const& word) { return parseParameter(word); });
+                   [this](const std::string& word) { return parseParameter(word); });
     command = parsedCommand;
     parameters.swap(parsedParameters);
 }
 
 template <typename CommandT, typename ParameterT, typename ErrorT>
 std::pair<ParameterT, std::string>
-MacroCommandManager<CommandT, ParameterT, ErrorT>::parseParameter(std::string const& word) const {
-    auto const equals = word.find('=');
-    if (equals == std::string::npos)
+MacroCommandManager<CommandT, ParameterT, ErrorT>::parseParameter(const std::string& word) const {
+    const auto equals = word.find('=');
+    if (equals == std::string::npos) {
         throw ErrorT("Invalid macro parameter string: " + word);
-    std::string const keyword = word.substr(0, equals);
+    }
+    const std::string keyword = word.substr(0, equals);
     ParameterT parameter{};
-    if (!EnumMap<ParameterT>::instance().fromString(keyword, parameter))
+    if (!EnumMap<ParameterT>::instance().fromString(keyword, parameter)) {
         throw ErrorT("Unknown macro parameter: " + keyword);
+    }
     return {parameter, withoutOuterQuotes(word.substr(equals + 1))};
 }
 
 template <typename CommandT, typename ParameterT, typename ErrorT>
 std::string
-MacroCommandManager<CommandT, ParameterT, ErrorT>::withoutOuterQuotes(std::string const& value) {
-    auto const first = value.find_first_not_of('"');
-    if (first == std::string::npos)
+MacroCommandManager<CommandT, ParameterT, ErrorT>::withoutOuterQuotes(const std::string& value) {
+    const auto first = value.find_first_not_of('"');
+    if (first == std::string::npos) {
         return {};
+    }
     return value.substr(first, value.find_last_not_of('"') - first + 1);
 }
 
 template <typename CommandT, typename ParameterT, typename ErrorT>
 std::string MacroCommandManager<CommandT, ParameterT, ErrorT>::buildMacroCommandString(
-    CommandT command, Parameters const& parameters) const {
+    CommandT command, const Parameters& parameters) const {
     std::string text = EnumMap<CommandT>::instance().toString(command);
-    for (auto const& [parameter, value] : parameters) {
+    for (const auto& [parameter, value] : parameters) {
         text += m_delimiters + EnumMap<ParameterT>::instance().toString(parameter) + '=';
-        bool const needsQuotes = value.find_first_of(m_delimiters) != std::string::npos;
+        const bool needsQuotes = value.find_first_of(m_delimiters) != std::string::npos;
         text += needsQuotes ? '"' + value + '"' : value;
     }
     return text;

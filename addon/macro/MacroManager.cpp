@@ -14,13 +14,14 @@ MacroManager& MacroManager::instance() {
 MacroManager::MacroManager() : m_commandManager(" ") {}
 
 void MacroManager::recordCommand(
-    Command_e command, std::vector<std::pair<Parameter_e, std::string>> const& parameters) {
+    Command_e command, const std::vector<std::pair<Parameter_e, std::string>>& parameters) {
     // Locked twice on purpose: hosts are used to a command being recorded at this depth.
-    HostLock const outerLock;
-    HostLock const innerLock;
-    if (!CorUtilMacroIsRecordingActive())
+    const HostLock outerLock;
+    const HostLock innerLock;
+    if (!CorUtilMacroIsRecordingActive()) {
         return;
-    std::string const text = m_commandManager.buildMacroCommandString(command, parameters);
+    }
+    const std::string text = m_commandManager.buildMacroCommandString(command, parameters);
     CorUtilMacroRecordExtCommand(AddOnName, text.c_str());
 }
 

@@ -17,13 +17,13 @@ class MacroManager {
 public:
     static MacroManager& instance();
 
-    MacroManager(MacroManager const&) = delete;
-    MacroManager& operator=(MacroManager const&) = delete;
+    MacroManager(const MacroManager&) = delete;
+    MacroManager& operator=(const MacroManager&) = delete;
 
     // Adds the command to the macro that the host records; without a recording nothing happens.
     // Throws std::out_of_range for a command or parameter without keyword.
     void recordCommand(Command_e command,
-                       std::vector<std::pair<Parameter_e, std::string>> const& parameters);
+                       const std::vector<std::pair<Parameter_e, std::string>>& parameters);
 
     // Tells the host whom to call for the add-on's commands. To be called once, at load.
     static void registerCallback();
@@ -36,7 +36,7 @@ public:
 private:
     MacroManager();
 
-    void executeCommand(std::string const& commandString) const;
+    void executeCommand(const std::string& commandString) const;
 
     MacroCommandManager<Command_e, Parameter_e, KeyFrameError> m_commandManager;
 };

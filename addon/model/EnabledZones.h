@@ -13,8 +13,8 @@ public:
     EnabledZones();
     ~EnabledZones();
 
-    EnabledZones(EnabledZones const&) = delete;
-    EnabledZones& operator=(EnabledZones const&) = delete;
+    EnabledZones(const EnabledZones&) = delete;
+    EnabledZones& operator=(const EnabledZones&) = delete;
 
     // The zone after the given one, the first one after 0; 0 when there is no further one.
     long next(long zone) const;

@@ -32,23 +32,23 @@ std::string ListModelKeyFrame::emptyModelMessage() const {
     return "No Key Frames established.";
 }
 
-KeyFrame_s const& ListModelKeyFrame::data(unsigned long index) const {
+const KeyFrame_s& ListModelKeyFrame::data(unsigned long index) const {
     return m_keyFrames.at(index);
 }
 
-void ListModelKeyFrame::setData(unsigned long index, KeyFrame_s const& keyFrame) {
+void ListModelKeyFrame::setData(unsigned long index, const KeyFrame_s& keyFrame) {
     m_keyFrames.at(index) = keyFrame;
     notifyOfChange({ItemsChanged, {index}});
 }
 
-void ListModelKeyFrame::insertItem(unsigned long index, KeyFrame_s const& keyFrame) {
+void ListModelKeyFrame::insertItem(unsigned long index, const KeyFrame_s& keyFrame) {
     insertItems(index, {keyFrame});
 }
 
-void ListModelKeyFrame::insertItems(unsigned long index, std::vector<KeyFrame_s> const& keyFrames) {
-    unsigned long const count = size();
-    bool const beyondEnd = index > count;
-    auto const position = m_keyFrames.begin() + static_cast<long>(beyondEnd ? count : index);
+void ListModelKeyFrame::insertItems(unsigned long index, const std::vector<KeyFrame_s>& keyFrames) {
+    const unsigned long count = size();
+    const bool beyondEnd = index > count;
+    const auto position = m_keyFrames.begin() + static_cast<long>(beyondEnd ? count : index);
     m_keyFrames.insert(position, keyFrames.begin(), keyFrames.end());
     notifyOfChange({ItemsInserted, indexRange(beyondEnd ? index - 1 : index, keyFrames.size())});
 }
@@ -59,14 +59,14 @@ void ListModelKeyFrame::removeItem(unsigned long index) {
 }
 
 void ListModelKeyFrame::removeItems(unsigned long first, unsigned long count) {
-    auto const begin = m_keyFrames.begin() + static_cast<long>(first);
+    const auto begin = m_keyFrames.begin() + static_cast<long>(first);
     m_keyFrames.erase(begin, begin + static_cast<long>(count));
     notifyOfChange({ItemsRemoved, indexRange(first, count)});
 }
 
 void ListModelKeyFrame::rebuildModel() {}
 
-std::string const& ListModelKeyFrame::name(unsigned long index) const {
+const std::string& ListModelKeyFrame::name(unsigned long index) const {
     return m_keyFrames.at(index).name;
 }
 
@@ -78,7 +78,7 @@ unsigned long ListModelKeyFrame::frameCount(unsigned long index) const {
     return m_keyFrames.at(index).frameCount;
 }
 
-void ListModelKeyFrame::setName(unsigned long index, std::string const& name) {
+void ListModelKeyFrame::setName(unsigned long index, const std::string& name) {
     m_keyFrames.at(index).name = name;
     notifyOfChange({ItemsChanged, {index}});
 }
@@ -91,17 +91,17 @@ void ListModelKeyFrame::setFrameCount(unsigned long index, unsigned long frameCo
     m_keyFrames.at(index).frameCount = frameCount;
 }
 
-void ListModelKeyFrame::update(unsigned long index, View const& view) {
+void ListModelKeyFrame::update(unsigned long index, const View& view) {
     KeyFrame_s& keyFrame = m_keyFrames.at(index);
     keyFrame.view = view;
     keyFrame.solutionTime = CorUtilSolutionTimeGetCurrent();
 }
 
-std::vector<KeyFrame_s> const& ListModelKeyFrame::dataList() const {
+const std::vector<KeyFrame_s>& ListModelKeyFrame::dataList() const {
     return m_keyFrames;
 }
 
-void ListModelKeyFrame::setDataList(std::vector<KeyFrame_s> const& keyFrames) {
+void ListModelKeyFrame::setDataList(const std::vector<KeyFrame_s>& keyFrames) {
     std::vector<KeyFrame_s> copy(keyFrames);
     m_keyFrames.swap(copy);
     notifyOfReset();
@@ -111,10 +111,11 @@ void RedistributeSolutionTimes(ListModelKeyFrame& model) {
     double minimum = 0.0;
     double maximum = 0.0;
     GetSolutionTimeMinMax(minimum, maximum);
-    if (model.size() == 0)
+    if (model.size() == 0) {
         return;
-    unsigned long const intervals = GetTotalFrameCount(model.dataList()) - 1;
-    double const step = (maximum - minimum) / static_cast<double>(intervals);
+    }
+    const unsigned long intervals = GetTotalFrameCount(model.dataList()) - 1;
+    const double step = (maximum - minimum) / static_cast<double>(intervals);
     unsigned long framesBefore = 0;
     for (unsigned long index = 0; index < model.size(); ++index) {
         model.setSolutionTime(index, minimum + static_cast<double>(framesBefore) * step);

@@ -18,35 +18,35 @@ public:
     unsigned long size() const override;
     std::string displayString(unsigned long index) const override;
     std::string emptyModelMessage() const override;
-    KeyFrame_s const& data(unsigned long index) const override;
-    void setData(unsigned long index, KeyFrame_s const& keyFrame) override;
-    void insertItem(unsigned long index, KeyFrame_s const& keyFrame) override;
+    const KeyFrame_s& data(unsigned long index) const override;
+    void setData(unsigned long index, const KeyFrame_s& keyFrame) override;
+    void insertItem(unsigned long index, const KeyFrame_s& keyFrame) override;
 
     // An index beyond the end appends. The indices reported to observers begin at index - 1 then,
     // which is the right one only for size() + 1, the position that callers append with.
-    void insertItems(unsigned long index, std::vector<KeyFrame_s> const& keyFrames) override;
+    void insertItems(unsigned long index, const std::vector<KeyFrame_s>& keyFrames) override;
 
     void removeItem(unsigned long index) override;
     void removeItems(unsigned long first, unsigned long count) override;
     void rebuildModel() override;
 
-    std::string const& name(unsigned long index) const;
+    const std::string& name(unsigned long index) const;
     double solutionTime(unsigned long index) const;
     unsigned long frameCount(unsigned long index) const;
 
-    void setName(unsigned long index, std::string const& name);
+    void setName(unsigned long index, const std::string& name);
 
     // These three tell no observer, since a list shows nothing of what they change.
     void setSolutionTime(unsigned long index, double solutionTime);
     void setFrameCount(unsigned long index, unsigned long frameCount);
     // Also takes the host's current solution time.
-    void update(unsigned long index, View const& view);
+    void update(unsigned long index, const View& view);
 
-    std::vector<KeyFrame_s> const& dataList() const;
+    const std::vector<KeyFrame_s>& dataList() const;
 
     // Replaces all key frames. With nobody observing, the report of it stays pending and single
     // changes are not reported until it has been delivered.
-    void setDataList(std::vector<KeyFrame_s> const& keyFrames);
+    void setDataList(const std::vector<KeyFrame_s>& keyFrames);
 
 private:
     std::vector<KeyFrame_s> m_keyFrames;

@@ -8,7 +8,7 @@ namespace corvane::corutiltools {
 static_assert(offsetof(Settings_s, timeOptions) == 0);
 static_assert(sizeof(unsigned long) == 8, "frame counts are unsigned 64-bit numbers");
 
-bool operator==(KeyFrame_s const& left, KeyFrame_s const& right) {
+bool operator==(const KeyFrame_s& left, const KeyFrame_s& right) {
     return left.view == right.view && left.name == right.name &&
            left.frameCount == right.frameCount && left.solutionTime == right.solutionTime;
 }

@@ -32,7 +32,7 @@ struct KeyFrame_s {
 };
 
 // Equal in view, name, frame count and solution time.
-bool operator==(KeyFrame_s const& left, KeyFrame_s const& right);
+bool operator==(const KeyFrame_s& left, const KeyFrame_s& right);
 
 struct TimeAnimationOptions_s {
     bool animateTime;

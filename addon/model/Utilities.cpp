@@ -15,18 +15,18 @@ namespace {
 // Replaces the output by one value of each key frame. The output is touched only when all are
 // there.
 template <class Value>
-void extractColumn(std::vector<KeyFrame_s> const& keyFrames, Value KeyFrame_s::*field,
+void extractColumn(const std::vector<KeyFrame_s>& keyFrames, Value KeyFrame_s::*field,
                    std::vector<Value>& output) {
     std::vector<Value> column;
     column.reserve(keyFrames.size());
-    for (KeyFrame_s const& keyFrame : keyFrames) {
+    for (const KeyFrame_s& keyFrame : keyFrames) {
         column.push_back(keyFrame.*field);
     }
     output.swap(column);
 }
 
 unsigned long saturatedSum(unsigned long left, unsigned long right) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     return right > largest - left ? largest : left + right;
 }
 
@@ -48,21 +48,21 @@ void ClampAngleTo180(double& angle) {
     }
 }
 
-void ExtractViews(std::vector<KeyFrame_s> const& keyFrames, std::vector<View>& views) {
+void ExtractViews(const std::vector<KeyFrame_s>& keyFrames, std::vector<View>& views) {
     extractColumn(keyFrames, &KeyFrame_s::view, views);
 }
 
-void ExtractFrameCounts(std::vector<KeyFrame_s> const& keyFrames,
+void ExtractFrameCounts(const std::vector<KeyFrame_s>& keyFrames,
                         std::vector<unsigned long>& counts) {
     extractColumn(keyFrames, &KeyFrame_s::frameCount, counts);
 }
 
-void ExtractSolutionTimes(std::vector<KeyFrame_s> const& keyFrames, std::vector<double>& times) {
+void ExtractSolutionTimes(const std::vector<KeyFrame_s>& keyFrames, std::vector<double>& times) {
     extractColumn(keyFrames, &KeyFrame_s::solutionTime, times);
 }
 
-void ExtractFrameCountsForIndices(std::vector<KeyFrame_s> const& keyFrames,
-                                  std::vector<unsigned long> const& indices,
+void ExtractFrameCountsForIndices(const std::vector<KeyFrame_s>& keyFrames,
+                                  const std::vector<unsigned long>& indices,
                                   std::vector<unsigned long>& counts) {
     std::vector<unsigned long> chosen;
     chosen.reserve(indices.size());
@@ -72,7 +72,7 @@ void ExtractFrameCountsForIndices(std::vector<KeyFrame_s> const& keyFrames,
     counts.swap(chosen);
 }
 
-unsigned long GetTotalFrameCount(std::vector<KeyFrame_s> const& keyFrames) {
+unsigned long GetTotalFrameCount(const std::vector<KeyFrame_s>& keyFrames) {
     unsigned long total = 1;
     // The last key frame's own count leads nowhere and is ignored.
     for (std::size_t i = 0; i + 1 < keyFrames.size(); ++i) {
@@ -82,10 +82,10 @@ unsigned long GetTotalFrameCount(std::vector<KeyFrame_s> const& keyFrames) {
 }
 
 void GetSolutionTimeMinMax(double& minimum, double& maximum) {
-    EnabledZones const zones;
+    const EnabledZones zones;
     bool isFirst = true;
     for (long zone = zones.next(0); zone != 0; zone = zones.next(zone)) {
-        double const time = CorUtilZoneGetSolutionTime(zone);
+        const double time = CorUtilZoneGetSolutionTime(zone);
         minimum = isFirst ? time : std::min(minimum, time);
         maximum = isFirst ? time : std::max(maximum, time);
         isFirst = false;
@@ -96,7 +96,7 @@ bool DataSetIsTransient() {
     if (!CorUtilDataSetIsAvailable()) {
         return false;
     }
-    EnabledZones const zones;
+    const EnabledZones zones;
     for (long zone = zones.next(0); zone != 0; zone = zones.next(zone)) {
         if (CorUtilZoneGetStrandID(zone) > 0) {
             return true;
@@ -106,7 +106,7 @@ bool DataSetIsTransient() {
 }
 
 bool StreamtraceTimingIsEnabled() {
-    toolbox::StyleValue const timing("StreamAttributes", "StreamTiming");
+    const toolbox::StyleValue timing("StreamAttributes", "StreamTiming");
     bool showMarkers = false;
     timing.getBoolean(showMarkers, "ShowMarkers");
     bool showDashes = false;

@@ -12,21 +12,21 @@ namespace corvane::corutiltools {
 void ClampAngleTo180(double& angle);
 
 // The columns replace what the output held.
-void ExtractViews(std::vector<KeyFrame_s> const& keyFrames, std::vector<View>& views);
-void ExtractFrameCounts(std::vector<KeyFrame_s> const& keyFrames,
+void ExtractViews(const std::vector<KeyFrame_s>& keyFrames, std::vector<View>& views);
+void ExtractFrameCounts(const std::vector<KeyFrame_s>& keyFrames,
                         std::vector<unsigned long>& counts);
-void ExtractSolutionTimes(std::vector<KeyFrame_s> const& keyFrames, std::vector<double>& times);
+void ExtractSolutionTimes(const std::vector<KeyFrame_s>& keyFrames, std::vector<double>& times);
 
 // The frame counts of the key frames at the given indices, in the order of the indices, which may
 // repeat. Throws std::out_of_range for an index without key frame; counts is then unchanged.
-void ExtractFrameCountsForIndices(std::vector<KeyFrame_s> const& keyFrames,
-                                  std::vector<unsigned long> const& indices,
+void ExtractFrameCountsForIndices(const std::vector<KeyFrame_s>& keyFrames,
+                                  const std::vector<unsigned long>& indices,
                                   std::vector<unsigned long>& counts);
 
 // Number of frames of a flight through all key frames: the counts of all but the last one, and one
 // frame for the last one itself. A sum beyond the type stays at its largest value, so that a list
 // which nobody can hold is refused for want of memory. The list must not be empty.
-unsigned long GetTotalFrameCount(std::vector<KeyFrame_s> const& keyFrames);
+unsigned long GetTotalFrameCount(const std::vector<KeyFrame_s>& keyFrames);
 
 // Smallest and largest solution time of the enabled zones. Without any, both stay as they are.
 void GetSolutionTimeMinMax(double& minimum, double& maximum);

@@ -22,7 +22,7 @@ constexpr double degreesPerRadian = 57.29577951308232;
 View::View(double x, double y, double z, double psi, double theta, double alpha, double width)
     : m_x(x), m_y(y), m_z(z), m_psi(psi), m_theta(theta), m_alpha(alpha), m_width(width) {}
 
-void View::swap(View const& other) {
+void View::swap(const View& other) {
     *this = other;
 }
 
@@ -31,8 +31,8 @@ void View::storeCurrentView() {
 }
 
 void View::apply() const {
-    HostLock const lock;
-    SuspendGraphics const suspended;
+    const HostLock lock;
+    const SuspendGraphics suspended;
     ViewStyle style;
     style.setAngles(m_psi, m_theta, m_alpha);
     style.setViewerPosition(m_x, m_y, m_z);
@@ -48,13 +48,13 @@ std::string View::displayString() const {
     return text.str();
 }
 
-bool operator==(View const& left, View const& right) {
+bool operator==(const View& left, const View& right) {
     return left.x() == right.x() && left.y() == right.y() && left.z() == right.z() &&
            left.psi() == right.psi() && left.theta() == right.theta() &&
            left.alpha() == right.alpha() && left.width() == right.width();
 }
 
-View operator/(View const& view, double divisor) {
+View operator/(const View& view, double divisor) {
     return View(view.x() / divisor, view.y() / divisor, view.z() / divisor, view.psi() / divisor,
                 view.theta() / divisor, view.alpha() / divisor, view.width() / divisor);
 }

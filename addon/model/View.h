@@ -16,7 +16,7 @@ public:
 
     // Copies the other's values into this one and leaves the other alone: a one-way copy, not an
     // exchange, in spite of its name.
-    void swap(View const& other);
+    void swap(const View& other);
 
     double x() const { return m_x; }
     double y() const { return m_y; }
@@ -60,11 +60,11 @@ private:
 static_assert(sizeof(View) == 7 * sizeof(double));
 
 // Exact comparison of all seven values; a view with a NaN in it equals nothing, not even itself.
-bool operator==(View const& left, View const& right);
+bool operator==(const View& left, const View& right);
 
 // Every one of the seven values divided, angles and width included. A divisor of 0 gives infinities
 // or NaN.
-View operator/(View const& view, double divisor);
+View operator/(const View& view, double divisor);
 
 // The host's current view; see View::storeCurrentView for errors.
 View GetCurrentView();

@@ -9,12 +9,12 @@ std::string CommandExecuterAbstract::quotedKeyword(Parameter_e parameter) {
     return '"' + EnumMap<Parameter_e>::instance().toString(parameter) + '"';
 }
 
-bool CommandExecuterAbstract::convert(std::string const& text, std::string& value) {
+bool CommandExecuterAbstract::convert(const std::string& text, std::string& value) {
     value = text;
     return true;
 }
 
-bool CommandExecuterAbstract::convert(std::string const& text, Destination_e& value) {
+bool CommandExecuterAbstract::convert(const std::string& text, Destination_e& value) {
     return EnumMap<Destination_e>::instance().fromString(text, value);
 }
 

@@ -20,7 +20,7 @@ CommandExecuterAbstractFactory::getMacroExecuter(Command_e command) {
 }
 
 void CommandExecuterAbstractFactory::CommandExecuterOpenSettings::executeCommand(
-    std::vector<std::pair<Parameter_e, std::string>> const& parameters) {
+    const std::vector<std::pair<Parameter_e, std::string>>& parameters) {
     std::string fileName;
     getRequiredParameter(Parameter_FileName, parameters, fileName);
     DialogMain& dialog = DialogMain::instance();
@@ -32,14 +32,14 @@ void CommandExecuterAbstractFactory::CommandExecuterOpenSettings::executeCommand
 }
 
 void CommandExecuterAbstractFactory::CommandExecuterAnimate::executeCommand(
-    std::vector<std::pair<Parameter_e, std::string>> const& parameters) {
+    const std::vector<std::pair<Parameter_e, std::string>>& parameters) {
     Destination_e destination{};
     getRequiredParameter(Parameter_AnimationDestination, parameters, destination);
     DialogMain& dialog = DialogMain::instance();
     Settings_s settings = dialog.settings();
     settings.destination = destination;
     dialog.applySettings(settings);
-    std::vector<KeyFrame_s> const& keyFrames = dialog.model().dataList();
+    const std::vector<KeyFrame_s>& keyFrames = dialog.model().dataList();
     Animate(keyFrames, 0, keyFrames.size(), settings, MacroOption_Record);
 }
 

@@ -21,7 +21,7 @@ class CommandExecuterAbstractFactory::CommandExecuterOpenSettings : public Comma
 public:
     // An error leaves the dialog as it was.
     void
-    executeCommand(std::vector<std::pair<Parameter_e, std::string>> const& parameters) override;
+    executeCommand(const std::vector<std::pair<Parameter_e, std::string>>& parameters) override;
 };
 
 // Plays the main dialog's key frames to the destination named by the macro.
@@ -29,7 +29,7 @@ class CommandExecuterAbstractFactory::CommandExecuterAnimate : public CommandExe
 public:
     // The dialog keeps the destination, whatever becomes of the flight.
     void
-    executeCommand(std::vector<std::pair<Parameter_e, std::string>> const& parameters) override;
+    executeCommand(const std::vector<std::pair<Parameter_e, std::string>>& parameters) override;
 };
 
 } // namespace corvane::corutiltools

@@ -17,12 +17,13 @@ namespace {
 // this size from their traces.
 constexpr std::size_t fixedErrorLength = 29;
 
-void handErrorToHost(char const* message, char** errorMessage) {
-    HostLock const lock;
-    std::size_t const length = std::strlen(message) + fixedErrorLength;
+void handErrorToHost(const char* message, char** errorMessage) {
+    const HostLock lock;
+    const std::size_t length = std::strlen(message) + fixedErrorLength;
     char* const text = CorUtilStringAlloc(static_cast<long>(length));
-    if (!text)
+    if (!text) {
         return;
+    }
     std::snprintf(text, length, "%s error:\n%s", AddOnName, message);
     *errorMessage = text;
 }
@@ -37,13 +38,13 @@ CorBool MacroManager::corvaneCallback(char* commandString, char** errorMessage) 
     try {
         instance().executeCommand(commandString);
         return TRUE;
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         handErrorToHost(error.what(), errorMessage);
         return FALSE;
     }
 }
 
-void MacroManager::executeCommand(std::string const& commandString) const {
+void MacroManager::executeCommand(const std::string& commandString) const {
     Command_e command{};
     std::vector<std::pair<Parameter_e, std::string>> parameters;
     m_commandManager.parseMacroCommandString(commandString, command, parameters);

@@ -16,8 +16,8 @@ struct LoadLock {
     LoadLock() { CorUtilLockOn(); }
     ~LoadLock() { CorUtilLockOff(); }
 
-    LoadLock(LoadLock const&) = delete;
-    LoadLock& operator=(LoadLock const&) = delete;
+    LoadLock(const LoadLock&) = delete;
+    LoadLock& operator=(const LoadLock&) = delete;
 };
 
 void listenToStateChanges() {
@@ -33,7 +33,7 @@ void listenToStateChanges() {
 
 void InitCorAddOn113() {
     using namespace corvane::corutiltools;
-    LoadLock const lock;
+    const LoadLock lock;
     InitCGB();
     AddOnID =
         CorUtilAddOnRegister(hostInterfaceNumber, AddOnName, CORVANE_VERSION, "Corvane, Inc.");

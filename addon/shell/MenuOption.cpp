@@ -40,16 +40,17 @@ void addMenuOption() {
 }
 
 void updateMenuOption() {
-    bool const isUsable =
+    const bool isUsable =
         CorUtilFrameGetCount() > 0 && CorUtilDataSetIsAvailable() && DialogMain::okToLaunch();
     CorUtilMenuSetSensitivity(menu, label, isUsable);
 }
 
 void StateChangeCallback(StateChange_e state) {
-    if (pendingUpdateFuncOnIdle || !canChangeTheOption(state))
+    if (pendingUpdateFuncOnIdle || !canChangeTheOption(state)) {
         return;
+    }
     pendingUpdateFuncOnIdle = true;
-    HostLock const lock;
+    const HostLock lock;
     CorUtilOnIdleQueueAddCallback(onIdleCallback, 0);
 }
 
@@ -57,8 +58,8 @@ void onIdleCallback(long) {
     struct Clearing {
         ~Clearing() { pendingUpdateFuncOnIdle = false; }
     };
-    Clearing const afterwards;
-    HostLock const lock;
+    const Clearing afterwards;
+    const HostLock lock;
     updateMenuOption();
 }
 

@@ -8,15 +8,15 @@ namespace corvane::corutiltools {
 
 namespace {
 
-int addButton(int x, int y, int w, int h, char const* label, CorGUIVoidCB callback,
-              char const* toolTip) {
-    int const button = CorGUIButtonAdd(Dialog1Manager, x, y, w, h, label, callback);
+int addButton(int x, int y, int w, int h, const char* label, CorGUIVoidCB callback,
+              const char* toolTip) {
+    const int button = CorGUIButtonAdd(Dialog1Manager, x, y, w, h, label, callback);
     CorGUISetToolTip(button, toolTip);
     return button;
 }
 
-int addTextField(int x, int y, int w, int h, CorGUITextCB callback, char const* toolTip) {
-    int const field = CorGUITextFieldAdd(Dialog1Manager, x, y, w, h, callback);
+int addTextField(int x, int y, int w, int h, CorGUITextCB callback, const char* toolTip) {
+    const int field = CorGUITextFieldAdd(Dialog1Manager, x, y, w, h, callback);
     CorGUISetToolTip(field, toolTip);
     return field;
 }
@@ -51,7 +51,7 @@ void addKeyFrameFields() {
 }
 
 void addAnimationControls() {
-    char const* const items[] = {" "};
+    const char* const items[] = {" "};
     Destination_LBL_D1 = CorGUILabelAdd(Dialog1Manager, 207, 2016, "Destination:");
     Destination_OPT_D1 = CorGUIOptionMenuAdd(Dialog1Manager, 1847, 2066, 2711, 145, items, 1,
                                              DialogMain::destination_OPT_CB);
@@ -66,13 +66,15 @@ void addAnimationControls() {
 } // namespace
 
 int BuildDialog1(int parent) {
-    if (Dialog1Manager != COR_HANDLE_NOT_CREATED)
+    if (Dialog1Manager != COR_HANDLE_NOT_CREATED) {
         return Dialog1Manager;
+    }
     Dialog1Manager =
         CorGUIDialogCreateModeless(parent, 4870, 2620, "Key Frame Animation", DialogMain::init_CB,
                                    DialogMain::drop, DialogMain::help_BTN_CB);
-    if (Dialog1Manager == COR_HANDLE_NOT_CREATED)
+    if (Dialog1Manager == COR_HANDLE_NOT_CREATED) {
         return COR_HANDLE_NOT_CREATED;
+    }
     addListWithButtons();
     addKeyFrameFields();
     addAnimationControls();

@@ -16,13 +16,13 @@ constexpr int lineHeight = 145;
 // A label is one line of text high: this puts it in the middle of the control beside it.
 constexpr int labelOffset = 22;
 
-int addLabel(int y, char const* label) {
+int addLabel(int y, const char* label) {
     return CorGUILabelAdd(Dialog2Manager, labelX, y + labelOffset, label);
 }
 
 // The items are filled in at each launch.
 int addOptionMenu(int y, CorGUIIndexCB callback) {
-    char const* const items[] = {" "};
+    const char* const items[] = {" "};
     return CorGUIOptionMenuAdd(Dialog2Manager, controlX, y, controlWidth, lineHeight, items, 1,
                                callback);
 }
@@ -36,7 +36,7 @@ void addPictureControls() {
     ExportFormat_OPT_D2 = addOptionMenu(100, DialogExportOptions::exportFormat_OPT_CB);
     addLabel(300, "Region:");
     Region_OPT_D2 = addOptionMenu(300, DialogExportOptions::region_OPT_CB);
-    char const* const widths[] = {"&Use Width of Image on Screen", "&Enter Width:"};
+    const char* const widths[] = {"&Use Width of Image on Screen", "&Enter Width:"};
     Width_RADIO_D2 = CorGUIRadioBoxAdd(Dialog2Manager, labelX, 500, labelWidth, 2 * lineHeight,
                                        widths, 2, DialogExportOptions::width_RADIO_CB);
     Width_TF_D2 = addTextField(500 + lineHeight, DialogExportOptions::width_TF_CB);
@@ -59,7 +59,7 @@ void addFormatControls() {
     AVICompression_OPT_D2 = addOptionMenu(1645, DialogExportOptions::aviCompression_OPT_CB);
     ImageType_LBL_D2 = addLabel(1845, "Image Type:");
     ImageType_OPT_D2 = addOptionMenu(1845, DialogExportOptions::imageType_OPT_CB);
-    char const* const aims[] = {"Optimize for &Speed", "Optimize for &File Size"};
+    const char* const aims[] = {"Optimize for &Speed", "Optimize for &File Size"};
     Optimization_RADIO_D2 =
         CorGUIRadioBoxAdd(Dialog2Manager, controlX, 2045, controlWidth, 2 * lineHeight, aims, 2,
                           DialogExportOptions::optimization_RADIO_CB);
@@ -68,14 +68,16 @@ void addFormatControls() {
 } // namespace
 
 int BuildDialog2(int parent) {
-    if (Dialog2Manager != COR_HANDLE_NOT_CREATED)
+    if (Dialog2Manager != COR_HANDLE_NOT_CREATED) {
         return Dialog2Manager;
+    }
     Dialog2Manager = CorGUIDialogCreateModal(
         parent, controlX + controlWidth + labelX, 2435, "Export Options",
         DialogExportOptions::init_CB, DialogExportOptions::ok_BTN_CB, nullptr,
         DialogExportOptions::cancel_BTN_CB, DialogExportOptions::help_BTN_CB);
-    if (Dialog2Manager == COR_HANDLE_NOT_CREATED)
+    if (Dialog2Manager == COR_HANDLE_NOT_CREATED) {
         return COR_HANDLE_NOT_CREATED;
+    }
     addPictureControls();
     addMovieControls();
     addFormatControls();

@@ -7,15 +7,17 @@
 namespace corvane::corutiltools {
 
 int BuildDialog3(int parent) {
-    if (Dialog3Manager != COR_HANDLE_NOT_CREATED)
+    if (Dialog3Manager != COR_HANDLE_NOT_CREATED) {
         return Dialog3Manager;
+    }
     Dialog3Manager =
         CorGUIDialogCreateModal(parent, 5357, 878, "Time Animation Options",
                                 DialogTimeOptions::init_CB, DialogTimeOptions::ok_BTN_CB, nullptr,
                                 DialogTimeOptions::cancel_BTN_CB, DialogTimeOptions::help_BTN_CB);
-    if (Dialog3Manager == COR_HANDLE_NOT_CREATED)
+    if (Dialog3Manager == COR_HANDLE_NOT_CREATED) {
         return COR_HANDLE_NOT_CREATED;
-    char const* const operations[] = {"&Forward", "&Loop", "&Bounce", "&As Captured"};
+    }
+    const char* const operations[] = {"&Forward", "&Loop", "&Bounce", "&As Captured"};
     CorGUIFrameAdd(Dialog3Manager, 207, 79, 4956, 732, "Animation Operation");
     AnimationOperation_RADIO_D3 =
         CorGUIRadioBoxAdd(Dialog3Manager, 587, 166, 2003, 573, operations, 4,

@@ -7,8 +7,8 @@
 namespace corvane::corutiltools {
 
 // Whether each index is the one before it plus 1; true for fewer than two indices.
-inline bool isContinuousRun(std::vector<unsigned long> const& indices) {
-    auto const isGap = [](unsigned long left, unsigned long right) { return right != left + 1; };
+inline bool isContinuousRun(const std::vector<unsigned long>& indices) {
+    const auto isGap = [](unsigned long left, unsigned long right) { return right != left + 1; };
     return std::adjacent_find(indices.begin(), indices.end(), isGap) == indices.end();
 }
 

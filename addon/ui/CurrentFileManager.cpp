@@ -16,29 +16,29 @@ struct HostStringDeallocator {
 };
 
 // Empty for a name without a dot.
-std::string extensionOf(std::string const& name) {
-    auto const dot = name.rfind('.');
+std::string extensionOf(const std::string& name) {
+    const auto dot = name.rfind('.');
     return dot == std::string::npos ? std::string() : name.substr(dot + 1);
 }
 
-bool askYesNo(std::string const& question) {
-    HostLock const lock;
+bool askYesNo(const std::string& question) {
+    const HostLock lock;
     return CorUtilDialogMessageBox(question.c_str(), MessageBox_YesNo) != FALSE;
 }
 
 } // namespace
 
-CurrentFileManager::CurrentFileManager(std::string const& fileName, std::string const& extension,
-                                       std::string const& fileTypeName)
+CurrentFileManager::CurrentFileManager(const std::string& fileName, const std::string& extension,
+                                       const std::string& fileTypeName)
     : m_fileName(fileName), m_extension(extension), m_fileTypeName(fileTypeName) {
     addFileNameExtension(m_fileName, m_extension);
 }
 
-std::string const& CurrentFileManager::fileName() const {
+const std::string& CurrentFileManager::fileName() const {
     return m_fileName;
 }
 
-std::string const& CurrentFileManager::extension() const {
+const std::string& CurrentFileManager::extension() const {
     return m_extension;
 }
 
@@ -46,70 +46,77 @@ bool CurrentFileManager::fileHasBeenSelected() const {
     return m_fileHasBeenSelected;
 }
 
-void CurrentFileManager::setFileName(std::string const& fileName) {
+void CurrentFileManager::setFileName(const std::string& fileName) {
     m_fileName = fileName;
-    std::string const extension = extensionOf(fileName);
-    if (extension.empty())
+    const std::string extension = extensionOf(fileName);
+    if (extension.empty()) {
         addFileNameExtension(m_fileName, m_extension);
-    else
+    } else {
         m_extension = extension;
+    }
 }
 
-void CurrentFileManager::setExtension(std::string const& extension) {
+void CurrentFileManager::setExtension(const std::string& extension) {
     m_extension = extension;
     addFileNameExtension(m_fileName, m_extension);
 }
 
 bool CurrentFileManager::promptForFile(SelectFileOption_e option) {
     std::string chosen;
-    if (!askHostForFile(option, chosen))
+    if (!askHostForFile(option, chosen)) {
         return false;
+    }
     settleExtension(chosen);
-    if (option == SelectFile_Write && !promptForFileOverwrite(chosen))
+    if (option == SelectFile_Write && !promptForFileOverwrite(chosen)) {
         return false;
+    }
     m_fileName = chosen;
     m_fileHasBeenSelected = true;
     return true;
 }
 
 bool CurrentFileManager::askHostForFile(SelectFileOption_e option, std::string& chosen) const {
-    std::string const filter = "*." + m_extension;
-    HostLock const lock;
+    const std::string filter = "*." + m_extension;
+    const HostLock lock;
     char* text = nullptr;
-    CorBool const accepted = CorUtilDialogGetFileName(option, &text, m_fileTypeName.c_str(),
+    const CorBool accepted = CorUtilDialogGetFileName(option, &text, m_fileTypeName.c_str(),
                                                       m_fileName.c_str(), filter.c_str());
-    std::unique_ptr<char, HostStringDeallocator> const owner(text);
-    if (!accepted || !text)
+    const std::unique_ptr<char, HostStringDeallocator> owner(text);
+    if (!accepted || !text) {
         return false;
+    }
     chosen = text;
     return true;
 }
 
 void CurrentFileManager::settleExtension(std::string& chosen) const {
-    std::string const extension = extensionOf(chosen);
-    if (extension == m_extension)
+    const std::string extension = extensionOf(chosen);
+    if (extension == m_extension) {
         return;
+    }
     if (extension.empty() ||
         !askYesNo("You have specified an extension other than the default file extension\n"
                   "Are you sure you want to save the file as " +
-                  chosen + "\nClick \"No\" to restore the default file extension."))
+                  chosen + "\nClick \"No\" to restore the default file extension.")) {
         addFileNameExtension(chosen, m_extension);
+    }
 }
 
-void addFileNameExtension(std::string& name, std::string const& extension) {
-    auto const dot = name.rfind('.');
-    if (dot == std::string::npos)
+void addFileNameExtension(std::string& name, const std::string& extension) {
+    const auto dot = name.rfind('.');
+    if (dot == std::string::npos) {
         name += '.';
-    else
+    } else {
         name.erase(dot + 1);
+    }
     name += extension;
 }
 
-bool fileExists(std::string const& name) {
+bool fileExists(const std::string& name) {
     return std::ifstream(name).is_open();
 }
 
-bool promptForFileOverwrite(std::string const& name) {
+bool promptForFileOverwrite(const std::string& name) {
     return !fileExists(name) ||
            askYesNo("The file: " + name + " exists.\nAre you sure you want to overwrite it?");
 }

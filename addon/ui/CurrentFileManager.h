@@ -11,20 +11,20 @@ class CurrentFileManager {
 public:
     // The extension has no dot; the file name gets it at once. The file type name is what the
     // host's file dialog calls such files.
-    CurrentFileManager(std::string const& fileName, std::string const& extension,
-                       std::string const& fileTypeName);
+    CurrentFileManager(const std::string& fileName, const std::string& extension,
+                       const std::string& fileTypeName);
 
-    std::string const& fileName() const;
-    std::string const& extension() const;
+    const std::string& fileName() const;
+    const std::string& extension() const;
 
     // Whether the user has chosen a file in a prompt.
     bool fileHasBeenSelected() const;
 
     // A name with an extension brings its own as the new default; a name without gets the default.
-    void setFileName(std::string const& fileName);
+    void setFileName(const std::string& fileName);
 
     // Also changes the current file's extension.
-    void setExtension(std::string const& extension);
+    void setExtension(const std::string& extension);
 
     // Asks the user for a file, whether another extension than the default is meant, and for
     // SelectFile_Write whether an existing file may be overwritten. Answers false, with nothing
@@ -43,12 +43,12 @@ private:
 
 // Replaces what follows the last dot by the extension, or appends both where there is no dot. A dot
 // in a directory's name counts too: such a name without a dot of its own loses its last part.
-void addFileNameExtension(std::string& name, std::string const& extension);
+void addFileNameExtension(std::string& name, const std::string& extension);
 
 // Whether the file can be opened for reading.
-bool fileExists(std::string const& name);
+bool fileExists(const std::string& name);
 
 // Whether the file may be written: asks the user when it exists.
-bool promptForFileOverwrite(std::string const& name);
+bool promptForFileOverwrite(const std::string& name);
 
 } // namespace corvane::corutiltools

@@ -19,22 +19,24 @@ public:
           m_listener(boost::bind(&DialogDropper::stateChanged, this, boost::placeholders::_1,
                                  boost::placeholders::_2)) {}
 
-    DialogDropper(DialogDropper const&) = delete;
-    DialogDropper& operator=(DialogDropper const&) = delete;
+    DialogDropper(const DialogDropper&) = delete;
+    DialogDropper& operator=(const DialogDropper&) = delete;
 
     // To be called each time the dialog comes up.
     void startListening() { m_listener.startListening(); }
 
     // Many changes are the first half of another one, so the verdict waits for idle time.
-    void stateChanged(toolbox::StateChangeEventInterface const&,
+    void stateChanged(const toolbox::StateChangeEventInterface&,
                       toolbox::StateChangeNotifierInterface&) {
-        if (!m_dialog.okToLaunch())
+        if (!m_dialog.okToLaunch()) {
             m_onIdle.addCallback(boost::bind(&DialogDropper::onIdleCallback, this));
+        }
     }
 
     void onIdleCallback() {
-        if (m_dialog.okToLaunch())
+        if (m_dialog.okToLaunch()) {
             return;
+        }
         m_dialog.drop();
         m_listener.stopListening();
     }

@@ -18,8 +18,8 @@ namespace {
 
 constexpr long enterWidthPosition = 2; // in the radio box
 
-std::map<ExportFormat_e, std::string> const& formatToFileExtensionMap() {
-    static std::map<ExportFormat_e, std::string> const extensions{
+const std::map<ExportFormat_e, std::string>& formatToFileExtensionMap() {
+    const static std::map<ExportFormat_e, std::string> extensions{
         {ExportFormat_AVI, "avi"},           {ExportFormat_FlashFLV, "flv"},
         {ExportFormat_FlashSWF, "swf"},      {ExportFormat_MPEG4, "mp4"},
         {ExportFormat_RasterMetafile, "rm"}, {ExportFormat_WMV, "wmv"}};
@@ -27,15 +27,16 @@ std::map<ExportFormat_e, std::string> const& formatToFileExtensionMap() {
 }
 
 void setSensitivity(std::initializer_list<int> controls, bool isSensitive) {
-    for (int const control : controls)
+    for (const int control : controls) {
         CorGUISetSensitivity(control, isSensitive);
+    }
 }
 
 } // namespace
 
 std::unique_ptr<DialogExportOptions> DialogExportOptions::m_instance;
 
-PreMappedValue<ExportFormat_e> const DialogExportOptions::m_exportFormatOptions[6] = {
+const PreMappedValue<ExportFormat_e> DialogExportOptions::m_exportFormatOptions[6] = {
     {"AVI", ExportFormat_AVI},
     {"Flash (FLV)", ExportFormat_FlashFLV},
     {"Flash (SWF)", ExportFormat_FlashSWF},
@@ -43,23 +44,24 @@ PreMappedValue<ExportFormat_e> const DialogExportOptions::m_exportFormatOptions[
     {"Raster Metafile", ExportFormat_RasterMetafile},
     {"WMV", ExportFormat_WMV}};
 
-PreMappedValue<ExportRegion_e> const DialogExportOptions::m_exportRegionOptions[3] = {
+const PreMappedValue<ExportRegion_e> DialogExportOptions::m_exportRegionOptions[3] = {
     {"Active Frame", ExportRegion_CurrentFrame},
     {"All Frames", ExportRegion_AllFrames},
     {"Work Area", ExportRegion_WorkArea}};
 
-PreMappedValue<AVICompression_e> const DialogExportOptions::m_aviCompressionOptions[2] = {
+const PreMappedValue<AVICompression_e> DialogExportOptions::m_aviCompressionOptions[2] = {
     {"Line Preserving", AVICompression_LinePreserving},
     {"Lossless Uncompressed", AVICompression_LosslessUncompressed}};
 
-PreMappedValue<FlashImageType_e> const DialogExportOptions::m_flashImageTypeOptions[3] = {
+const PreMappedValue<FlashImageType_e> DialogExportOptions::m_flashImageTypeOptions[3] = {
     {"True Color", FlashImageType_Lossless},
     {"JPEG", FlashImageType_JPEG},
     {"256 Colors", FlashImageType_256Color}};
 
 DialogExportOptions& DialogExportOptions::instance() {
-    if (!m_instance)
+    if (!m_instance) {
         m_instance.reset(new DialogExportOptions);
+    }
     return *m_instance;
 }
 
@@ -73,10 +75,11 @@ DialogExportOptions::DialogExportOptions()
       m_aviCompression(m_aviCompressionOptions, std::size(m_aviCompressionOptions)),
       m_flashImageType(m_flashImageTypeOptions, std::size(m_flashImageTypeOptions)) {}
 
-void DialogExportOptions::launch(boost::function<void()> const& callback) {
+void DialogExportOptions::launch(const boost::function<void()>& callback) {
     auto lock = std::make_unique<HostLock>();
-    if (BuildDialog2(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED)
+    if (BuildDialog2(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED) {
         return;
+    }
     m_callback = callback;
     bindControls();
     CorGUIDialogLaunch(Dialog2Manager);
@@ -102,36 +105,43 @@ void DialogExportOptions::bindControls() {
 
 void DialogExportOptions::init_CB() {
     DialogExportOptions& dialog = instance();
-    HostLock const lock;
+    const HostLock lock;
     dialog.showExportSetup();
     dialog.updateSensitivities();
     dialog.updateImageDimensionLabel();
 }
 
 void DialogExportOptions::showExportSetup() {
-    toolbox::StyleValue const setup("ExportSetup");
+    const toolbox::StyleValue setup("ExportSetup");
     long number = 0;
     double speed = 0.0;
     bool isOn = false;
-    if (setup.getInteger(number, "ExportFormat") == StyleGet_Ok)
+    if (setup.getInteger(number, "ExportFormat") == StyleGet_Ok) {
         m_exportFormat.setNumber(number);
-    if (setup.getDouble(speed, "AnimationSpeed") == StyleGet_Ok)
+    }
+    if (setup.getDouble(speed, "AnimationSpeed") == StyleGet_Ok) {
         m_animationSpeed.setValue(speed);
-    if (setup.getBoolean(isOn, "UseSuperSampleAntiAliasing") == StyleGet_Ok)
+    }
+    if (setup.getBoolean(isOn, "UseSuperSampleAntiAliasing") == StyleGet_Ok) {
         CorGUIToggleSet(Antialiasing_TOG_D2, isOn);
-    if (setup.getInteger(number, "SuperSampleFactor") == StyleGet_Ok)
+    }
+    if (setup.getInteger(number, "SuperSampleFactor") == StyleGet_Ok) {
         m_supersampleFactor.setValue(static_cast<int>(number));
-    if (setup.getInteger(number, "AVICompression") == StyleGet_Ok)
+    }
+    if (setup.getInteger(number, "AVICompression") == StyleGet_Ok) {
         m_aviCompression.setNumber(number);
-    if (setup.getInteger(number, "FlashImageType") == StyleGet_Ok)
+    }
+    if (setup.getInteger(number, "FlashImageType") == StyleGet_Ok) {
         m_flashImageType.setNumber(number);
-    if (setup.getInteger(number, "FlashCompressionType") == StyleGet_Ok)
+    }
+    if (setup.getInteger(number, "FlashCompressionType") == StyleGet_Ok) {
         CorGUIRadioBoxSetToggle(Optimization_RADIO_D2, number != 0 ? 2 : 1);
+    }
 }
 
 void DialogExportOptions::updateSensitivities() {
-    HostLock const lock;
-    ExportFormat_e const format = m_exportFormat.value();
+    const HostLock lock;
+    const ExportFormat_e format = m_exportFormat.value();
     setSensitivity({AVICompression_LBL_D2, AVICompression_OPT_D2}, format == ExportFormat_AVI);
     setSensitivity({ImageType_LBL_D2, ImageType_OPT_D2, Optimization_RADIO_D2},
                    format == ExportFormat_FlashSWF);
@@ -143,14 +153,15 @@ void DialogExportOptions::updateSensitivities() {
 }
 
 void DialogExportOptions::determineImageDimensions(int& width, int& height) {
-    HostLock const lock;
+    const HostLock lock;
     measureRegion(m_exportRegion.value(), width, height);
-    if (CorGUIRadioBoxGetToggle(Width_RADIO_D2) == enterWidthPosition)
+    if (CorGUIRadioBoxGetToggle(Width_RADIO_D2) == enterWidthPosition) {
         scaleToWidth(m_imageWidth.value(), width, height);
+    }
 }
 
 void DialogExportOptions::updateImageDimensionLabel() {
-    HostLock const lock;
+    const HostLock lock;
     int width = 0;
     int height = 0;
     determineImageDimensions(width, height);
@@ -159,49 +170,50 @@ void DialogExportOptions::updateImageDimensionLabel() {
 }
 
 bool DialogExportOptions::promptUserForDestinationFilename() {
-    auto const row = formatToFileExtensionMap().find(m_exportFormat.value());
+    const auto row = formatToFileExtensionMap().find(m_exportFormat.value());
     m_currentFile.setExtension(row == formatToFileExtensionMap().end() ? "" : row->second);
     return m_currentFile.promptForFile(SelectFile_Write);
 }
 
-void DialogExportOptions::exportFormat_OPT_CB(long const*) {
+void DialogExportOptions::exportFormat_OPT_CB(const long*) {
     instance().updateSensitivities();
 }
 
-void DialogExportOptions::antialiasing_TOG_CB(long const*) {
+void DialogExportOptions::antialiasing_TOG_CB(const long*) {
     instance().updateSensitivities();
 }
 
-void DialogExportOptions::width_RADIO_CB(long const*) {
+void DialogExportOptions::width_RADIO_CB(const long*) {
     DialogExportOptions& dialog = instance();
     dialog.updateSensitivities();
     dialog.updateImageDimensionLabel();
 }
 
-void DialogExportOptions::region_OPT_CB(long const*) {
+void DialogExportOptions::region_OPT_CB(const long*) {
     instance().updateImageDimensionLabel();
 }
 
-long DialogExportOptions::width_TF_CB(char const* text) {
+long DialogExportOptions::width_TF_CB(const char* text) {
     DialogExportOptions& dialog = instance();
-    bool const isValid = dialog.m_imageWidth.validate(text);
-    if (isValid)
+    const bool isValid = dialog.m_imageWidth.validate(text);
+    if (isValid) {
         dialog.updateImageDimensionLabel();
+    }
     return isValid;
 }
 
-long DialogExportOptions::animationSpeed_TF_CB(char const* text) {
+long DialogExportOptions::animationSpeed_TF_CB(const char* text) {
     return instance().m_animationSpeed.validate(text);
 }
 
-long DialogExportOptions::supersampleFactor_TF_CB(char const* text) {
+long DialogExportOptions::supersampleFactor_TF_CB(const char* text) {
     return instance().m_supersampleFactor.validate(text);
 }
 
 // Nothing depends on these three; they are read when the user confirms.
-void DialogExportOptions::aviCompression_OPT_CB(long const*) {}
-void DialogExportOptions::imageType_OPT_CB(long const*) {}
-void DialogExportOptions::optimization_RADIO_CB(long const*) {}
+void DialogExportOptions::aviCompression_OPT_CB(const long*) {}
+void DialogExportOptions::imageType_OPT_CB(const long*) {}
+void DialogExportOptions::optimization_RADIO_CB(const long*) {}
 
 void DialogExportOptions::cancel_BTN_CB() {
     instance().close();
@@ -213,7 +225,7 @@ void DialogExportOptions::close() {
 }
 
 void DialogExportOptions::help_BTN_CB() {
-    HostLock const lock;
+    const HostLock lock;
     CorUtilHelp("export_options.html", FALSE, 0);
 }
 

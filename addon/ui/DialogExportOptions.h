@@ -28,12 +28,12 @@ public:
     // Made on first use.
     static DialogExportOptions& instance();
 
-    DialogExportOptions(DialogExportOptions const&) = delete;
-    DialogExportOptions& operator=(DialogExportOptions const&) = delete;
+    DialogExportOptions(const DialogExportOptions&) = delete;
+    DialogExportOptions& operator=(const DialogExportOptions&) = delete;
 
     // Shows the dialog and returns. The callback is called once the user has confirmed, chosen a
     // file, and everything is written to the host's export set-up; never after Cancel.
-    void launch(boost::function<void()> const& callback);
+    void launch(const boost::function<void()>& callback);
 
     // Size of the movie's pictures in pixels, as the controls of the dialog stand.
     void determineImageDimensions(int& width, int& height);
@@ -50,22 +50,23 @@ public:
     void setExportRegion(ExportRegion_e region);
     void setExportFlashOptions(FlashImageType_e imageType, FlashCompressionType_e compression);
     void setExportAVIOptions(AVICompression_e compression);
-    void setExportBooleanValue(char const* name, bool value);
-    void setExportDoubleValue(char const* name, double value);
+    void setExportBooleanValue(const char* name, bool value);
+    void setExportDoubleValue(const char* name, double value);
     void setExportAnimationSpeed(double framesPerSecond);
     void setExportAntialiasingOptions(bool isOn, int supersampleFactor);
     void setExportImageWidth();
-    void setExportFilename(std::string const& fileName);
+    void setExportFilename(const std::string& fileName);
 
     // Records "$!EXPORTSETUP name = value" where a macro is recorded. T is std::string, double, int
     // or bool.
     template <typename T>
-    void recordExportMacroCommand(char const* name, T const& value) {
-        HostLock const lock;
-        if (!CorUtilMacroIsRecordingActive())
+    void recordExportMacroCommand(const char* name, const T& value) {
+        const HostLock lock;
+        if (!CorUtilMacroIsRecordingActive()) {
             return;
-        std::string const line = std::string("$!EXPORTSETUP ") + name + " = " + streamText(value);
-        HostLock const recordingLock;
+        }
+        const std::string line = std::string("$!EXPORTSETUP ") + name + " = " + streamText(value);
+        const HostLock recordingLock;
         CorUtilMacroRecordRawCommand(line.c_str());
     }
 
@@ -74,16 +75,16 @@ public:
     static void ok_BTN_CB();
     static void cancel_BTN_CB();
     static void help_BTN_CB();
-    static void exportFormat_OPT_CB(long const* position);
-    static void region_OPT_CB(long const* position);
-    static void width_RADIO_CB(long const* position);
-    static long width_TF_CB(char const* text);
-    static void antialiasing_TOG_CB(long const* isOn);
-    static long supersampleFactor_TF_CB(char const* text);
-    static long animationSpeed_TF_CB(char const* text);
-    static void aviCompression_OPT_CB(long const* position);
-    static void imageType_OPT_CB(long const* position);
-    static void optimization_RADIO_CB(long const* position);
+    static void exportFormat_OPT_CB(const long* position);
+    static void region_OPT_CB(const long* position);
+    static void width_RADIO_CB(const long* position);
+    static long width_TF_CB(const char* text);
+    static void antialiasing_TOG_CB(const long* isOn);
+    static long supersampleFactor_TF_CB(const char* text);
+    static long animationSpeed_TF_CB(const char* text);
+    static void aviCompression_OPT_CB(const long* position);
+    static void imageType_OPT_CB(const long* position);
+    static void optimization_RADIO_CB(const long* position);
 
 private:
     friend class test::FreshDialogs;
@@ -95,15 +96,15 @@ private:
     void close();
     void writeExportSetup();
     void writeFormatOptions(ExportFormat_e format);
-    void setExportIntegerValue(char const* name, int value);
+    void setExportIntegerValue(const char* name, int value);
 
     template <typename T>
-    void setExportEnumeration(char const* name, T value);
+    void setExportEnumeration(const char* name, T value);
 
-    static PreMappedValue<ExportFormat_e> const m_exportFormatOptions[6];
-    static PreMappedValue<ExportRegion_e> const m_exportRegionOptions[3];
-    static PreMappedValue<AVICompression_e> const m_aviCompressionOptions[2];
-    static PreMappedValue<FlashImageType_e> const m_flashImageTypeOptions[3];
+    static const PreMappedValue<ExportFormat_e> m_exportFormatOptions[6];
+    static const PreMappedValue<ExportRegion_e> m_exportRegionOptions[3];
+    static const PreMappedValue<AVICompression_e> m_aviCompressionOptions[2];
+    static const PreMappedValue<FlashImageType_e> m_flashImageTypeOptions[3];
     static constexpr char m_defaultFileName[] = "export";
 
     static std::unique_ptr<DialogExportOptions> m_instance;

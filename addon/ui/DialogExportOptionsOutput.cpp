@@ -14,14 +14,14 @@ constexpr long fileSizePosition = 2; // in the radio box
 
 // Also for no button on at all, for which no macro line has a word.
 FlashCompressionType_e chosenCompression() {
-    HostLock const lock;
+    const HostLock lock;
     return CorGUIRadioBoxGetToggle(Optimization_RADIO_D2) == fileSizePosition
                ? FlashCompressionType_SmallestSize
                : FlashCompressionType_BestSpeed;
 }
 
 bool antialiasingIsOn() {
-    HostLock const lock;
+    const HostLock lock;
     return CorGUIToggleGet(Antialiasing_TOG_D2) != FALSE;
 }
 
@@ -29,17 +29,18 @@ bool antialiasingIsOn() {
 
 void DialogExportOptions::ok_BTN_CB() {
     DialogExportOptions& dialog = instance();
-    if (!dialog.promptUserForDestinationFilename())
+    if (!dialog.promptUserForDestinationFilename()) {
         return;
+    }
     dialog.close();
     dialog.writeExportSetup();
     // A copy, since it may launch the dialog again.
-    boost::function<void()> const callback = dialog.m_callback;
+    const boost::function<void()> callback = dialog.m_callback;
     callback();
 }
 
 void DialogExportOptions::writeExportSetup() {
-    ExportFormat_e const format = m_exportFormat.value();
+    const ExportFormat_e format = m_exportFormat.value();
     setExportFormat(format);
     writeFormatOptions(format);
     setExportRegion(m_exportRegion.value());
@@ -50,15 +51,16 @@ void DialogExportOptions::writeExportSetup() {
 }
 
 void DialogExportOptions::writeFormatOptions(ExportFormat_e format) {
-    if (format == ExportFormat_AVI)
+    if (format == ExportFormat_AVI) {
         setExportAVIOptions(m_aviCompression.value());
-    else if (format == ExportFormat_FlashSWF)
+    } else if (format == ExportFormat_FlashSWF) {
         setExportFlashOptions(m_flashImageType.value(), chosenCompression());
+    }
 }
 
 template <typename T>
-void DialogExportOptions::setExportEnumeration(char const* name, T value) {
-    HostLock const lock;
+void DialogExportOptions::setExportEnumeration(const char* name, T value) {
+    const HostLock lock;
     CorUtilExportSetup(name, nullptr, value, 0.0);
     recordExportMacroCommand(name, EnumMap<T>::instance().toString(value));
 }
@@ -81,20 +83,20 @@ void DialogExportOptions::setExportAVIOptions(AVICompression_e compression) {
     setExportEnumeration("AVICompression", compression);
 }
 
-void DialogExportOptions::setExportBooleanValue(char const* name, bool value) {
-    HostLock const lock;
+void DialogExportOptions::setExportBooleanValue(const char* name, bool value) {
+    const HostLock lock;
     CorUtilExportSetup(name, nullptr, value, 0.0);
     recordExportMacroCommand(name, value);
 }
 
-void DialogExportOptions::setExportIntegerValue(char const* name, int value) {
-    HostLock const lock;
+void DialogExportOptions::setExportIntegerValue(const char* name, int value) {
+    const HostLock lock;
     CorUtilExportSetup(name, nullptr, value, 0.0);
     recordExportMacroCommand(name, value);
 }
 
-void DialogExportOptions::setExportDoubleValue(char const* name, double value) {
-    HostLock const lock;
+void DialogExportOptions::setExportDoubleValue(const char* name, double value) {
+    const HostLock lock;
     CorUtilExportSetup(name, nullptr, 0, value);
     recordExportMacroCommand(name, value);
 }
@@ -105,8 +107,9 @@ void DialogExportOptions::setExportAnimationSpeed(double framesPerSecond) {
 
 void DialogExportOptions::setExportAntialiasingOptions(bool isOn, int supersampleFactor) {
     setExportBooleanValue("UseSuperSampleAntiAliasing", isOn);
-    if (isOn)
+    if (isOn) {
         setExportIntegerValue("SuperSampleFactor", supersampleFactor);
+    }
 }
 
 void DialogExportOptions::setExportImageWidth() {
@@ -116,8 +119,8 @@ void DialogExportOptions::setExportImageWidth() {
     setExportIntegerValue("ImageWidth", width);
 }
 
-void DialogExportOptions::setExportFilename(std::string const& fileName) {
-    HostLock const lock;
+void DialogExportOptions::setExportFilename(const std::string& fileName) {
+    const HostLock lock;
     CorUtilExportSetup("ExportFName", fileName.c_str(), 0, 0.0);
     recordExportMacroCommand("ExportFName", (boost::format("\"%1%\"") % fileName).str());
 }

@@ -19,12 +19,13 @@ constexpr double defaultFramesPerSecond = 30.0;
 
 std::unique_ptr<DialogMain> DialogMain::m_instance;
 
-PreMappedValue<Destination_e> const DialogMain::m_destinationOptions[2] = {
+const PreMappedValue<Destination_e> DialogMain::m_destinationOptions[2] = {
     {"On Screen", Destination_OnScreen}, {"To File", Destination_ToFile}};
 
 DialogMain& DialogMain::instance() {
-    if (!m_instance)
+    if (!m_instance) {
         m_instance.reset(new DialogMain);
+    }
     return *m_instance;
 }
 
@@ -42,28 +43,29 @@ DialogMain::DialogMain()
       m_dropper(*this),
       m_destination(m_destinationOptions, std::size(m_destinationOptions)) {
     m_listView.setModel(m_model);
-    HostLock const lock;
+    const HostLock lock;
     toolbox::StyleValue("ExportSetup").set(defaultFramesPerSecond, "AnimationSpeed");
 }
 
 bool DialogMain::okToLaunch() {
     instance();
-    HostLock const lock;
+    const HostLock lock;
     return CorUtilFrameGetCount() >= 1 && CorUtilFrameGetPlotType() == PlotType_Cartesian3D;
 }
 
 void DialogMain::launch() {
     DialogMain& dialog = instance();
-    HostLock const lock;
-    if (BuildDialog1(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED)
+    const HostLock lock;
+    if (BuildDialog1(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED) {
         return;
+    }
     dialog.buildMenuBar();
     CorGUIDialogLaunch(Dialog1Manager);
 }
 
 void DialogMain::init_CB() {
     DialogMain& dialog = instance();
-    HostLock const lock;
+    const HostLock lock;
     dialog.bindControls();
     dialog.m_listView.selectionModel().addObserver(dialog);
     dialog.m_listView.resumeUpdates();
@@ -85,37 +87,38 @@ void DialogMain::bindControls() {
 
 void DialogMain::drop() {
     DialogMain& dialog = instance();
-    HostLock const lock;
+    const HostLock lock;
     CorGUIDialogDrop(Dialog1Manager);
     dialog.m_listView.selectionModel().removeObserver(dialog);
     dialog.m_listView.suspendUpdates();
 }
 
 void DialogMain::help_BTN_CB() {
-    HostLock const lock;
+    const HostLock lock;
     CorUtilHelp("key_frame_animation.html", FALSE, 0);
 }
 
 bool DialogMain::isVisible() const {
-    if (Dialog1Manager == COR_HANDLE_NOT_CREATED)
+    if (Dialog1Manager == COR_HANDLE_NOT_CREATED) {
         return false;
-    HostLock const lock;
+    }
+    const HostLock lock;
     return CorGUIDialogIsUp(Dialog1Manager) != FALSE;
 }
 
-void DialogMain::applySettings(Settings_s const& settings) {
+void DialogMain::applySettings(const Settings_s& settings) {
     m_settings = settings;
     registerOnIdleUpdate();
     updateMenuToggles();
 }
 
-void DialogMain::applyDataModel(ListModelKeyFrame const& model) {
+void DialogMain::applyDataModel(const ListModelKeyFrame& model) {
     m_model.setDataList(model.dataList());
     registerOnIdleUpdate();
     updateMenuToggles();
 }
 
-void DialogMain::onSettingsFileRead(std::string const& fileName) {
+void DialogMain::onSettingsFileRead(const std::string& fileName) {
     m_currentFile.setFileName(fileName);
     registerOnIdleUpdate();
     updateMenuToggles();

@@ -35,23 +35,23 @@ public:
     // Shows the window, or raises it.
     static void launch();
 
-    DialogMain(DialogMain const&) = delete;
-    DialogMain& operator=(DialogMain const&) = delete;
+    DialogMain(const DialogMain&) = delete;
+    DialogMain& operator=(const DialogMain&) = delete;
 
     // Whether the user sees the window.
     bool isVisible() const;
 
     ListModelKeyFrame& model() { return m_model; }
     ListView& listView() { return m_listView; }
-    Settings_s const& settings() const { return m_settings; }
+    const Settings_s& settings() const { return m_settings; }
     CurrentFileManager& currentFile() { return m_currentFile; }
 
     // Both copy what they are given.
-    void applySettings(Settings_s const& settings);
-    void applyDataModel(ListModelKeyFrame const& model);
+    void applySettings(const Settings_s& settings);
+    void applyDataModel(const ListModelKeyFrame& model);
 
     // To be called after a key frame file was read: it is the current file from then on.
-    void onSettingsFileRead(std::string const& fileName);
+    void onSettingsFileRead(const std::string& fileName);
 
     // Plays all key frames to the destination, which the settings keep. Failures are shown to the
     // user.
@@ -65,32 +65,32 @@ public:
     // not up, since coming up refreshes everything.
     void registerOnIdleUpdate();
 
-    void selectionChanged(std::vector<unsigned long> const& selectedItems) override;
+    void selectionChanged(const std::vector<unsigned long>& selectedItems) override;
 
     // For the host. drop also closes the window for others.
     static void init_CB();
     static void drop();
     static void help_BTN_CB();
-    static void keyFrameList_MLST_CB(long const* positions);
+    static void keyFrameList_MLST_CB(const long* positions);
     static void insertKeyFrame_BTN_CB();
     static void appendKeyFrame_BTN_CB();
     static void update_BTN_CB();
     static void apply_BTN_CB();
     static void delete_BTN_CB();
     static void clear_BTN_CB();
-    static long viewName_TF_CB(char const* text);
-    static long frameCount_TF_CB(char const* text);
-    static void destination_OPT_CB(long const* position);
+    static long viewName_TF_CB(const char* text);
+    static long frameCount_TF_CB(const char* text);
+    static void destination_OPT_CB(const long* position);
     static void animateAll_BTN_CB();
     static void animateSelected_BTN_CB();
     static void open_CB();
     static void save_CB();
     static void saveAs_CB();
-    static void animateTime_CB(long const* isOn);
+    static void animateTime_CB(const long* isOn);
     static void timeAnimationOptions_CB();
-    static void animateStreams_CB(long const* isOn);
-    static void fadeIn_CB(long const* isOn);
-    static void fadeOut_CB(long const* isOn);
+    static void animateStreams_CB(const long* isOn);
+    static void fadeIn_CB(const long* isOn);
+    static void fadeOut_CB(const long* isOn);
 
 private:
     friend class test::FreshDialogs;
@@ -101,25 +101,25 @@ private:
     void buildMenuBar();
 
     void update();
-    void updateSelectedKeyFrameInfo(std::vector<unsigned long> const& selection);
+    void updateSelectedKeyFrameInfo(const std::vector<unsigned long>& selection);
     void updateSensitivities(unsigned long numSelected);
     void updateMenuToggles();
 
     std::vector<unsigned long> selectedItems();
     int selectedItem();
     void captureKeyFrame(unsigned long position);
-    void insertKeyFrameIntoModel(View const& view, ListModelKeyFrame& model,
+    void insertKeyFrameIntoModel(const View& view, ListModelKeyFrame& model,
                                  unsigned long position);
     void deleteItems(std::vector<unsigned long> selection);
 
     void toggle(bool& setting);
-    void disable(bool& setting, std::string const& notice);
+    void disable(bool& setting, const std::string& notice);
     void onTimeAnimationDialogDropped(bool accepted);
     void animateSelected();
     void resetDestination();
     void save(bool alwaysAsksForFile);
 
-    static PreMappedValue<Destination_e> const m_destinationOptions[2];
+    static const PreMappedValue<Destination_e> m_destinationOptions[2];
 
     static std::unique_ptr<DialogMain> m_instance;
 

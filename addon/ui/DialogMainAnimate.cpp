@@ -16,11 +16,11 @@ namespace corvane::corutiltools {
 
 namespace {
 
-void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, unsigned long count,
-          Settings_s const& settings, MacroOption_e macroOption) {
+void play(const std::vector<KeyFrame_s>& keyFrames, unsigned long startIndex, unsigned long count,
+          const Settings_s& settings, MacroOption_e macroOption) {
     try {
         Animate(keyFrames, startIndex, count, settings, macroOption);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         showErrorMessage(error.what());
     }
 }
@@ -28,23 +28,25 @@ void play(std::vector<KeyFrame_s> const& keyFrames, unsigned long startIndex, un
 } // namespace
 
 void DialogMain::animate(Destination_e destination, MacroOption_e macroOption) {
-    HostLock const lock;
+    const HostLock lock;
     m_settings.destination = destination;
     play(m_model.dataList(), 0, m_model.size(), m_settings, macroOption);
 }
 
 void DialogMain::checkAnimationSettings() {
-    HostLock const lock;
-    if (m_settings.timeOptions.animateTime && !DataSetIsTransient())
+    const HostLock lock;
+    if (m_settings.timeOptions.animateTime && !DataSetIsTransient()) {
         disable(m_settings.timeOptions.animateTime, "The current data set is not transient.\n"
                                                     "Concurrent time animation will be disabled.");
-    if (m_settings.animateStreamtraces && !StreamtraceTimingIsEnabled())
+    }
+    if (m_settings.animateStreamtraces && !StreamtraceTimingIsEnabled()) {
         disable(m_settings.animateStreamtraces,
                 "Neither streamtrace markers nor dashes are enabled.\n"
                 "Concurrent streamtrace animation will be disabled.");
+    }
 }
 
-void DialogMain::disable(bool& setting, std::string const& notice) {
+void DialogMain::disable(bool& setting, const std::string& notice) {
     showNotice(notice);
     setting = false;
     updateMenuToggles();
@@ -53,11 +55,12 @@ void DialogMain::disable(bool& setting, std::string const& notice) {
 void DialogMain::animateAll_BTN_CB() {
     DialogMain& dialog = instance();
     dialog.checkAnimationSettings();
-    if (dialog.m_destination.value() == Destination_OnScreen)
+    if (dialog.m_destination.value() == Destination_OnScreen) {
         dialog.animate(Destination_OnScreen, MacroOption_Record);
-    else
+    } else {
         DialogExportOptions::instance().launch(
             boost::bind(&DialogMain::animate, &dialog, Destination_ToFile, MacroOption_Record));
+    }
 }
 
 void DialogMain::animateSelected_BTN_CB() {
@@ -65,16 +68,18 @@ void DialogMain::animateSelected_BTN_CB() {
 }
 
 void DialogMain::animateSelected() {
-    HostLock const lock;
-    std::vector<unsigned long> const selection = selectedItems();
-    if (selection.empty())
+    const HostLock lock;
+    const std::vector<unsigned long> selection = selectedItems();
+    if (selection.empty()) {
         return;
+    }
     if (!isContinuousRun(selection)) {
         showErrorMessage("Selected items must be a continuous range.");
         return;
     }
-    if (m_destination.value() == Destination_ToFile)
+    if (m_destination.value() == Destination_ToFile) {
         resetDestination();
+    }
     m_settings.destination = Destination_OnScreen;
     play(m_model.dataList(), selection.front(), selection.back() - selection.front(), m_settings,
          MacroOption_DoNotRecord);
@@ -88,7 +93,7 @@ void DialogMain::resetDestination() {
     registerOnIdleUpdate();
 }
 
-void DialogMain::destination_OPT_CB(long const*) {
+void DialogMain::destination_OPT_CB(const long*) {
     DialogMain& dialog = instance();
     dialog.m_settings.destination = dialog.m_destination.value();
     dialog.registerOnIdleUpdate();

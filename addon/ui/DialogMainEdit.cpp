@@ -18,11 +18,11 @@ constexpr unsigned long defaultFrameCount = 30;
 
 // There may be no 3D view to capture: the frame can have changed since the last idle time.
 template <typename Capture>
-void showingErrors(Capture const& capture) {
+void showingErrors(const Capture& capture) {
     try {
-        HostLock const lock;
+        const HostLock lock;
         capture();
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         showErrorMessage(error.what());
     }
 }
@@ -33,10 +33,10 @@ int DialogMain::selectedItem() {
     return m_listView.selectionModel().getSelectedItem();
 }
 
-void DialogMain::insertKeyFrameIntoModel(View const& view, ListModelKeyFrame& model,
+void DialogMain::insertKeyFrameIntoModel(const View& view, ListModelKeyFrame& model,
                                          unsigned long position) {
-    unsigned long const count = model.size();
-    KeyFrame_s const keyFrame{.view = view,
+    const unsigned long count = model.size();
+    const KeyFrame_s keyFrame{.view = view,
                               .name = "View " + std::to_string(model.end()),
                               .frameCount =
                                   count == 0 ? defaultFrameCount : model.frameCount(count - 1),
@@ -56,36 +56,39 @@ void DialogMain::appendKeyFrame_BTN_CB() {
 
 void DialogMain::insertKeyFrame_BTN_CB() {
     DialogMain& dialog = instance();
-    std::vector<unsigned long> const selection = dialog.selectedItems();
+    const std::vector<unsigned long> selection = dialog.selectedItems();
     dialog.captureKeyFrame(selection.empty() ? dialog.m_model.end() : selection.front());
 }
 
 void DialogMain::update_BTN_CB() {
     DialogMain& dialog = instance();
-    int const selected = dialog.selectedItem();
-    if (selected < 0)
+    const int selected = dialog.selectedItem();
+    if (selected < 0) {
         return;
+    }
     showingErrors(
         [&] { dialog.m_model.update(static_cast<unsigned long>(selected), GetCurrentView()); });
 }
 
 void DialogMain::apply_BTN_CB() {
     DialogMain& dialog = instance();
-    int const selected = dialog.selectedItem();
-    if (selected < 0)
+    const int selected = dialog.selectedItem();
+    if (selected < 0) {
         return;
-    KeyFrame_s const& keyFrame = dialog.m_model.data(static_cast<unsigned long>(selected));
+    }
+    const KeyFrame_s& keyFrame = dialog.m_model.data(static_cast<unsigned long>(selected));
     // One lock for both, so that the host does not draw the view at the wrong time first.
-    HostLock const lock;
+    const HostLock lock;
     keyFrame.view.apply();
     CorUtilSolutionTimeSetCurrent(keyFrame.solutionTime);
 }
 
 void DialogMain::delete_BTN_CB() {
     DialogMain& dialog = instance();
-    std::vector<unsigned long> const selection = dialog.selectedItems();
-    if (selection.empty())
+    const std::vector<unsigned long> selection = dialog.selectedItems();
+    if (selection.empty()) {
         return;
+    }
     dialog.deleteItems(selection);
     dialog.registerOnIdleUpdate();
 }
@@ -96,8 +99,9 @@ void DialogMain::deleteItems(std::vector<unsigned long> selection) {
         return;
     }
     std::sort(selection.rbegin(), selection.rend());
-    for (unsigned long const index : selection)
+    for (const unsigned long index : selection) {
         m_model.removeItem(index);
+    }
 }
 
 void DialogMain::clear_BTN_CB() {
@@ -106,34 +110,37 @@ void DialogMain::clear_BTN_CB() {
     dialog.registerOnIdleUpdate();
 }
 
-long DialogMain::viewName_TF_CB(char const* text) {
+long DialogMain::viewName_TF_CB(const char* text) {
     DialogMain& dialog = instance();
-    int const selected = dialog.selectedItem();
-    if (selected < 0)
+    const int selected = dialog.selectedItem();
+    if (selected < 0) {
         return 1;
-    auto const index = static_cast<unsigned long>(selected);
-    std::string const name = text;
+    }
+    const auto index = static_cast<unsigned long>(selected);
+    const std::string name = text;
     if (!name.empty()) {
         dialog.m_model.setName(index, name);
         return 1;
     }
-    HostLock const lock;
+    const HostLock lock;
     showErrorMessage("The view name must be at least one character.");
     CorGUITextFieldSetString(ViewName_TF_D1, dialog.m_model.name(index).c_str());
     return 1;
 }
 
-long DialogMain::frameCount_TF_CB(char const* text) {
+long DialogMain::frameCount_TF_CB(const char* text) {
     DialogMain& dialog = instance();
-    if (!dialog.m_frameCount.validate(text))
+    if (!dialog.m_frameCount.validate(text)) {
         return 0;
-    auto const frameCount = static_cast<unsigned long>(dialog.m_frameCount.value());
-    for (unsigned long const index : dialog.selectedItems())
+    }
+    const auto frameCount = static_cast<unsigned long>(dialog.m_frameCount.value());
+    for (const unsigned long index : dialog.selectedItems()) {
         dialog.m_model.setFrameCount(index, frameCount);
+    }
     return 1;
 }
 
-void DialogMain::keyFrameList_MLST_CB(long const*) {
+void DialogMain::keyFrameList_MLST_CB(const long*) {
     instance().m_listView.selectionModel().selectionChanged();
 }
 

@@ -23,18 +23,19 @@ int DialogMain::m_fadeOutMenuID = COR_HANDLE_NOT_CREATED;
 bool DialogMain::menuIsBuilt = false;
 
 void DialogMain::buildMenuBar() {
-    if (menuIsBuilt)
+    if (menuIsBuilt) {
         return;
+    }
     constexpr char saveHelp[] = "Save the key frame animation state to a file.";
-    HostLock const lock;
-    int const menuBar = CorGUIMenuBarAdd(Dialog1Manager);
-    int const file = CorGUIMenuAdd(menuBar, "&File");
+    const HostLock lock;
+    const int menuBar = CorGUIMenuBarAdd(Dialog1Manager);
+    const int file = CorGUIMenuAdd(menuBar, "&File");
     CorGUIMenuAddItem(file, "&Open Animation File...", "Open a saved key frame animation file.",
                       open_CB);
     CorGUIMenuAddSeparator(file);
     CorGUIMenuAddItem(file, "&Save Animation File", saveHelp, save_CB);
     CorGUIMenuAddItem(file, "Save Animation File &As...", saveHelp, saveAs_CB);
-    int const options = CorGUIMenuAdd(menuBar, "&Options");
+    const int options = CorGUIMenuAdd(menuBar, "&Options");
     m_animateTimeMenuID = CorGUIMenuAddToggle(
         options, "Animate &Time Concurrently",
         "Enable this option to animate time during the key frame animation.", animateTime_CB);
@@ -52,18 +53,19 @@ void DialogMain::buildMenuBar() {
 
 void DialogMain::open_CB() {
     DialogMain& dialog = instance();
-    CurrentFileManager const before = dialog.m_currentFile;
-    if (!dialog.m_currentFile.promptForFile(SelectFile_Read))
+    const CurrentFileManager before = dialog.m_currentFile;
+    if (!dialog.m_currentFile.promptForFile(SelectFile_Read)) {
         return;
+    }
     std::string message;
     try {
         // A copy, since the current file is set anew meanwhile.
-        std::string const fileName = dialog.m_currentFile.fileName();
+        const std::string fileName = dialog.m_currentFile.fileName();
         OpenSettingsFile(fileName, dialog.m_model, dialog.m_settings);
         return;
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         message = error.what();
-    } catch (std::exception const& error) {
+    } catch (const std::exception& error) {
         message = std::string("Error reading key frame settings file.\n\n") + error.what();
     }
     dialog.m_currentFile = before;
@@ -83,12 +85,13 @@ void DialogMain::save(bool alwaysAsksForFile) {
         showErrorMessage("No Key Frames established.");
         return;
     }
-    bool const asksForFile = alwaysAsksForFile || !m_currentFile.fileHasBeenSelected();
-    if (asksForFile && !m_currentFile.promptForFile(SelectFile_Write))
+    const bool asksForFile = alwaysAsksForFile || !m_currentFile.fileHasBeenSelected();
+    if (asksForFile && !m_currentFile.promptForFile(SelectFile_Write)) {
         return;
+    }
     try {
         KeyFrameFile().saveFile(m_currentFile.fileName(), m_settings, m_model);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         showErrorMessage(error.what());
     }
 }
@@ -98,22 +101,22 @@ void DialogMain::toggle(bool& setting) {
     updateMenuToggles();
 }
 
-void DialogMain::animateTime_CB(long const*) {
+void DialogMain::animateTime_CB(const long*) {
     DialogMain& dialog = instance();
     dialog.toggle(dialog.m_settings.timeOptions.animateTime);
 }
 
-void DialogMain::animateStreams_CB(long const*) {
+void DialogMain::animateStreams_CB(const long*) {
     DialogMain& dialog = instance();
     dialog.toggle(dialog.m_settings.animateStreamtraces);
 }
 
-void DialogMain::fadeIn_CB(long const*) {
+void DialogMain::fadeIn_CB(const long*) {
     DialogMain& dialog = instance();
     dialog.toggle(dialog.m_settings.fadeIn);
 }
 
-void DialogMain::fadeOut_CB(long const*) {
+void DialogMain::fadeOut_CB(const long*) {
     DialogMain& dialog = instance();
     dialog.toggle(dialog.m_settings.fadeOut);
 }
@@ -126,8 +129,9 @@ void DialogMain::timeAnimationOptions_CB() {
 }
 
 void DialogMain::onTimeAnimationDialogDropped(bool accepted) {
-    if (accepted)
+    if (accepted) {
         updateMenuToggles();
+    }
 }
 
 } // namespace corvane::corutiltools

@@ -17,8 +17,9 @@ namespace corvane::corutiltools {
 namespace {
 
 void setSensitivity(std::initializer_list<int> controls, bool isSensitive) {
-    for (int const control : controls)
+    for (const int control : controls) {
         CorGUISetSensitivity(control, isSensitive);
+    }
 }
 
 int asFrameCount(unsigned long count) {
@@ -30,11 +31,12 @@ int asFrameCount(unsigned long count) {
 bool DialogMain::alreadyUpdatingMenuToggles = false;
 
 void DialogMain::registerOnIdleUpdate() {
-    if (isVisible())
+    if (isVisible()) {
         m_onIdle.addCallback(boost::bind(&DialogMain::update, this));
+    }
 }
 
-void DialogMain::selectionChanged(std::vector<unsigned long> const&) {
+void DialogMain::selectionChanged(const std::vector<unsigned long>&) {
     registerOnIdleUpdate();
 }
 
@@ -45,30 +47,32 @@ std::vector<unsigned long> DialogMain::selectedItems() {
 }
 
 void DialogMain::update() {
-    HostLock const lock;
-    std::vector<unsigned long> const selection = selectedItems();
+    const HostLock lock;
+    const std::vector<unsigned long> selection = selectedItems();
     updateSelectedKeyFrameInfo(selection);
     updateSensitivities(selection.size());
     m_destination.setValue(m_settings.destination);
 }
 
-void DialogMain::updateSelectedKeyFrameInfo(std::vector<unsigned long> const& selection) {
-    if (selection.empty())
+void DialogMain::updateSelectedKeyFrameInfo(const std::vector<unsigned long>& selection) {
+    if (selection.empty()) {
         return;
+    }
     CorGUITextFieldSetString(ViewName_TF_D1, m_model.name(selection.front()).c_str());
     std::vector<unsigned long> counts;
     ExtractFrameCountsForIndices(m_model.dataList(), selection, counts);
-    bool const areEqual = std::all_of(counts.begin(), counts.end(),
+    const bool areEqual = std::all_of(counts.begin(), counts.end(),
                                       [&](unsigned long count) { return count == counts.front(); });
-    if (areEqual)
+    if (areEqual) {
         m_frameCount.setValue(asFrameCount(counts.front()));
-    else
+    } else {
         CorGUITextFieldSetString(FrameCount_TF_D1, "");
+    }
 }
 
 void DialogMain::updateSensitivities(unsigned long numSelected) {
-    unsigned long const numKeyFrames = m_model.size();
-    bool const hasSelection = numKeyFrames != 0 && numSelected != 0;
+    const unsigned long numKeyFrames = m_model.size();
+    const bool hasSelection = numKeyFrames != 0 && numSelected != 0;
     setSensitivity({Apply_BTN_D1, Update_BTN_D1, ViewName_TF_D1, ViewName_LBL_D1},
                    hasSelection && numSelected == 1);
     setSensitivity({Delete_BTN_D1, InsertKeyFrame_BTN_D1, FrameCount_TF_D1, FrameCount_LBL_D1},
@@ -83,10 +87,11 @@ void DialogMain::updateMenuToggles() {
         Running() { alreadyUpdatingMenuToggles = true; }
         ~Running() { alreadyUpdatingMenuToggles = false; }
     };
-    if (alreadyUpdatingMenuToggles || !isVisible())
+    if (alreadyUpdatingMenuToggles || !isVisible()) {
         return;
-    Running const running;
-    HostLock const lock;
+    }
+    const Running running;
+    const HostLock lock;
     buildMenuBar();
     CorGUIMenuSetToggle(m_animateStreamsMenuID, m_settings.animateStreamtraces);
     CorGUIMenuSetToggle(m_animateTimeMenuID, m_settings.timeOptions.animateTime);

@@ -19,8 +19,9 @@ constexpr int maximumNumCycles = std::numeric_limits<int>::max();
 std::unique_ptr<DialogTimeOptions> DialogTimeOptions::m_instance;
 
 DialogTimeOptions& DialogTimeOptions::instance() {
-    if (!m_instance)
+    if (!m_instance) {
         m_instance.reset(new DialogTimeOptions);
+    }
     return *m_instance;
 }
 
@@ -40,19 +41,20 @@ bool DialogTimeOptions::okToLaunch(long) {
 }
 
 void DialogTimeOptions::launch(TimeAnimationOptions_s& options,
-                               boost::function<void(bool)> const& onDone) {
-    HostLock const lock;
-    if (BuildDialog3(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED)
+                               const boost::function<void(bool)>& onDone) {
+    const HostLock lock;
+    if (BuildDialog3(COR_HANDLE_MAIN_WINDOW) == COR_HANDLE_NOT_CREATED) {
         return;
+    }
     m_options = &options;
     m_onDone = onDone;
     CorGUIDialogLaunch(Dialog3Manager);
 }
 
 void DialogTimeOptions::updateSensitivities(TimeAnimationOperation_e operation) {
-    bool const repeats =
+    const bool repeats =
         operation == TimeAnimationOperation_Loop || operation == TimeAnimationOperation_Bounce;
-    HostLock const lock;
+    const HostLock lock;
     CorGUISetSensitivity(NumCycles_LBL_D3, repeats);
     CorGUISetSensitivity(NumCycles_TFS_D3, repeats);
 }
@@ -62,7 +64,7 @@ void DialogTimeOptions::init_CB() {
 }
 
 void DialogTimeOptions::showOptions() {
-    HostLock const lock;
+    const HostLock lock;
     m_numCycles.setGuiID(NumCycles_TFS_D3);
     m_numCycles.updateTextField();
     selectOperation(m_options->operation);
@@ -72,18 +74,19 @@ void DialogTimeOptions::showOptions() {
 }
 
 void DialogTimeOptions::selectOperation(TimeAnimationOperation_e operation) {
-    auto const row = std::find_if(m_operations.begin(), m_operations.end(),
-                                  [operation](auto const& r) { return r.second == operation; });
-    if (row != m_operations.end())
+    const auto row = std::find_if(m_operations.begin(), m_operations.end(),
+                                  [operation](const auto& r) { return r.second == operation; });
+    if (row != m_operations.end()) {
         CorGUIRadioBoxSetToggle(AnimationOperation_RADIO_D3, row->first);
+    }
 }
 
-void DialogTimeOptions::animationOperation_RADIO_CB(long const* position) {
+void DialogTimeOptions::animationOperation_RADIO_CB(const long* position) {
     DialogTimeOptions& dialog = instance();
     dialog.updateSensitivities(dialog.m_operations.at(*position));
 }
 
-long DialogTimeOptions::numCycles_TFS_ValueChanged_CB(char const* text) {
+long DialogTimeOptions::numCycles_TFS_ValueChanged_CB(const char* text) {
     return instance().m_numCycles.validate(text);
 }
 
@@ -96,17 +99,17 @@ void DialogTimeOptions::numCycles_TFS_ButtonDown_CB() {
 }
 
 void DialogTimeOptions::stepNumCycles(int step) {
-    long const wanted = static_cast<long>(m_numCycles.value()) + step;
+    const long wanted = static_cast<long>(m_numCycles.value()) + step;
     m_numCycles.setValue(static_cast<int>(std::min<long>(wanted, maximumNumCycles)));
 }
 
 void DialogTimeOptions::ok_BTN_CB() {
     DialogTimeOptions& dialog = instance();
-    HostLock const lock;
+    const HostLock lock;
     dialog.takeOptions();
     dialog.close();
     // A copy, since it may launch the dialog again.
-    boost::function<void(bool)> const onDone = dialog.m_onDone;
+    const boost::function<void(bool)> onDone = dialog.m_onDone;
     onDone(true);
 }
 
@@ -118,14 +121,14 @@ void DialogTimeOptions::takeOptions() {
 
 void DialogTimeOptions::cancel_BTN_CB() {
     DialogTimeOptions& dialog = instance();
-    HostLock const lock;
+    const HostLock lock;
     dialog.close();
-    boost::function<void(bool)> const onDone = dialog.m_onDone;
+    const boost::function<void(bool)> onDone = dialog.m_onDone;
     onDone(false);
 }
 
 void DialogTimeOptions::drop() {
-    HostLock const lock;
+    const HostLock lock;
     instance().close();
 }
 
@@ -135,7 +138,7 @@ void DialogTimeOptions::close() {
 }
 
 void DialogTimeOptions::help_BTN_CB() {
-    HostLock const lock;
+    const HostLock lock;
     CorUtilHelp("time_animation_options.html", FALSE, 0);
 }
 

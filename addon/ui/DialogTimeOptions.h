@@ -23,12 +23,12 @@ public:
 
     static bool okToLaunch(long clientData);
 
-    DialogTimeOptions(DialogTimeOptions const&) = delete;
-    DialogTimeOptions& operator=(DialogTimeOptions const&) = delete;
+    DialogTimeOptions(const DialogTimeOptions&) = delete;
+    DialogTimeOptions& operator=(const DialogTimeOptions&) = delete;
 
     // Shows the dialog and returns. OK changes the options, which must live until then, and calls
     // onDone(true); Cancel leaves them alone and calls onDone(false).
-    void launch(TimeAnimationOptions_s& options, boost::function<void(bool)> const& onDone);
+    void launch(TimeAnimationOptions_s& options, const boost::function<void(bool)>& onDone);
 
     // Dims the number of cycles unless time repeats.
     void updateSensitivities(TimeAnimationOperation_e operation);
@@ -41,8 +41,8 @@ public:
     static void ok_BTN_CB();
     static void cancel_BTN_CB();
     static void help_BTN_CB();
-    static void animationOperation_RADIO_CB(long const* position);
-    static long numCycles_TFS_ValueChanged_CB(char const* text);
+    static void animationOperation_RADIO_CB(const long* position);
+    static long numCycles_TFS_ValueChanged_CB(const char* text);
     static void numCycles_TFS_ButtonUp_CB();
     static void numCycles_TFS_ButtonDown_CB();
 

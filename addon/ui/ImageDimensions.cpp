@@ -28,14 +28,14 @@ FramePlace framePlace() {
 }
 
 FramePlace placeOfAllFrames() {
-    auto const popper = FramePopperAbstractFactory().getFramePopper(false);
-    FramePlace const first = framePlace();
+    const auto popper = FramePopperAbstractFactory().getFramePopper(false);
+    const FramePlace first = framePlace();
     double left = first.x;
     double top = first.y;
     double right = first.x + first.w;
     double bottom = first.y + first.h;
     while (popper->next()) {
-        FramePlace const place = framePlace();
+        const FramePlace place = framePlace();
         left = std::min(left, place.x);
         top = std::min(top, place.y);
         right = std::max(right, place.x + place.w);
@@ -48,7 +48,7 @@ int truncated(double pixels) {
     return static_cast<int>(std::clamp(pixels, 0.0, double{std::numeric_limits<int>::max()}));
 }
 
-void measure(FramePlace const& place, int& width, int& height) {
+void measure(const FramePlace& place, int& width, int& height) {
     width = truncated(CorUtilConvertXDimension(place.w, CoordSys_Paper, CoordSys_Screen));
     height = truncated(CorUtilConvertYDimension(place.h, CoordSys_Paper, CoordSys_Screen));
 }
@@ -56,7 +56,7 @@ void measure(FramePlace const& place, int& width, int& height) {
 } // namespace
 
 void measureRegion(ExportRegion_e region, int& width, int& height) {
-    HostLock const lock;
+    const HostLock lock;
     width = 0;
     height = 0;
     switch (region) {
@@ -74,7 +74,7 @@ void measureRegion(ExportRegion_e region, int& width, int& height) {
 
 void scaleToWidth(int wantedWidth, int& width, int& height) {
     if (width != 0) {
-        long const scaled = static_cast<long>(height) * wantedWidth / width;
+        const long scaled = static_cast<long>(height) * wantedWidth / width;
         height = static_cast<int>(std::min<long>(scaled, std::numeric_limits<int>::max()));
     }
     width = wantedWidth;

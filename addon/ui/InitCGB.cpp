@@ -79,8 +79,9 @@ void InitCGB() {
                               &Dialog3Manager,
                               &AnimationOperation_RADIO_D3,
                               &NumCycles_LBL_D3,
-                              &NumCycles_TFS_D3})
+                              &NumCycles_TFS_D3}) {
         *handle = COR_HANDLE_NOT_CREATED;
+    }
 }
 
 } // namespace corvane::corutiltools

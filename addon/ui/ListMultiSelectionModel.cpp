@@ -12,16 +12,17 @@ namespace corvane::corutiltools {
 ListMultiSelectionModel::ListMultiSelectionModel(ListViewInterface& parentView)
     : ListSelectionModelAbstract(parentView) {}
 
-void ListMultiSelectionModel::setSelectedItems(std::vector<unsigned long> const& items) const {
-    int const list = parentView().guiId();
-    HostLock const lock;
+void ListMultiSelectionModel::setSelectedItems(const std::vector<unsigned long>& items) const {
+    const int list = parentView().guiId();
+    const HostLock lock;
     CorGUIListDeselectAllItems(list);
     std::vector<int> positions;
     std::transform(items.begin(), items.end(), std::back_inserter(positions),
                    [](unsigned long item) { return static_cast<int>(item); });
     eraseInvalidItems(positions);
-    for (int& position : positions)
+    for (int& position : positions) {
         ++position;
+    }
     CorGUIListSetSelectedItems(list, positions.data(), static_cast<long>(positions.size()));
     notifyOfChange();
 }

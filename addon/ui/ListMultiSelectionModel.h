@@ -11,7 +11,7 @@ class ListMultiSelectionModel : public ListSelectionModelAbstract {
 public:
     explicit ListMultiSelectionModel(ListViewInterface& parentView);
 
-    void setSelectedItems(std::vector<unsigned long> const& items) const override;
+    void setSelectedItems(const std::vector<unsigned long>& items) const override;
 };
 
 } // namespace corvane::corutiltools

@@ -20,7 +20,7 @@ struct HostArrayDeallocator {
 };
 
 long itemCount(int list) {
-    HostLock const lock;
+    const HostLock lock;
     return CorGUIListGetItemCount(list);
 }
 
@@ -44,15 +44,16 @@ void ListSelectionModelAbstract::selectionChanged() {
 }
 
 void ListSelectionModelAbstract::getSelectedItems(std::vector<unsigned long>& selectedItems) const {
-    HostLock const lock;
+    const HostLock lock;
     long* positions = nullptr;
     long count = 0;
     CorGUIListGetSelectedItems(m_parentView.guiId(), &positions, &count);
-    std::unique_ptr<long, HostArrayDeallocator> const owner(positions);
+    const std::unique_ptr<long, HostArrayDeallocator> owner(positions);
     selectedItems.clear();
-    if (positions)
+    if (positions) {
         std::transform(positions, positions + count, std::back_inserter(selectedItems),
                        [](long position) { return static_cast<unsigned long>(position - 1); });
+    }
 }
 
 int ListSelectionModelAbstract::getSelectedItem() const {
@@ -62,22 +63,23 @@ int ListSelectionModelAbstract::getSelectedItem() const {
 }
 
 void ListSelectionModelAbstract::setSelectedItem(int item) const {
-    int const list = m_parentView.guiId();
-    HostLock const lock;
-    if (item >= 0 && item < itemCount(list))
+    const int list = m_parentView.guiId();
+    const HostLock lock;
+    if (item >= 0 && item < itemCount(list)) {
         CorGUIListSetSelectedItem(list, item + 1L);
-    else
+    } else {
         CorGUIListDeselectAllItems(list);
+    }
     notifyOfChange();
 }
 
 void ListSelectionModelAbstract::eraseInvalidItems(std::vector<int>& items) const {
-    long const count = itemCount(m_parentView.guiId());
+    const long count = itemCount(m_parentView.guiId());
     std::erase_if(items, [count](int item) { return item < 0 || item >= count; });
 }
 
 void ListSelectionModelAbstract::eraseInvalidItems(std::vector<unsigned long>& items) const {
-    auto const count = static_cast<unsigned long>(itemCount(m_parentView.guiId()));
+    const auto count = static_cast<unsigned long>(itemCount(m_parentView.guiId()));
     std::erase_if(items, [count](unsigned long item) { return item >= count; });
 }
 
@@ -85,10 +87,12 @@ void ListSelectionModelAbstract::notifyOfChange() const {
     std::vector<unsigned long> selectedItems;
     getSelectedItems(selectedItems);
     // A copy, since observers may come and go while they are told.
-    std::set<ListSelectionModelObserverInterface*> const observers = m_observers;
-    for (ListSelectionModelObserverInterface* const observer : observers)
-        if (m_observers.count(observer) != 0)
+    const std::set<ListSelectionModelObserverInterface*> observers = m_observers;
+    for (ListSelectionModelObserverInterface* const observer : observers) {
+        if (m_observers.count(observer) != 0) {
             observer->selectionChanged(selectedItems);
+        }
+    }
 }
 
 } // namespace corvane::corutiltools

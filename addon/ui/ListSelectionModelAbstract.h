@@ -17,8 +17,8 @@ public:
     explicit ListSelectionModelAbstract(ListViewInterface& parentView);
     ~ListSelectionModelAbstract() override;
 
-    ListSelectionModelAbstract(ListSelectionModelAbstract const&) = delete;
-    ListSelectionModelAbstract& operator=(ListSelectionModelAbstract const&) = delete;
+    ListSelectionModelAbstract(const ListSelectionModelAbstract&) = delete;
+    ListSelectionModelAbstract& operator=(const ListSelectionModelAbstract&) = delete;
 
     void addObserver(ListSelectionModelObserverInterface& observer) override;
     void removeObserver(ListSelectionModelObserverInterface& observer) override;

@@ -22,7 +22,7 @@ public:
     virtual void getSelectedItems(std::vector<unsigned long>& selectedItems) const = 0;
 
     // The setters tell the observers, as if the user had selected.
-    virtual void setSelectedItems(std::vector<unsigned long> const& items) const = 0;
+    virtual void setSelectedItems(const std::vector<unsigned long>& items) const = 0;
 
     // -1 unless exactly one item is selected.
     virtual int getSelectedItem() const = 0;

@@ -10,7 +10,7 @@ public:
     virtual ~ListSelectionModelObserverInterface() = default;
 
     // Indices from 0, ascending. Also called when the program, and not the user, has selected.
-    virtual void selectionChanged(std::vector<unsigned long> const& selectedItems) = 0;
+    virtual void selectionChanged(const std::vector<unsigned long>& selectedItems) = 0;
 };
 
 } // namespace corvane::corutiltools

@@ -9,14 +9,15 @@ namespace corvane::corutiltools {
 ListSingleSelectionModel::ListSingleSelectionModel(ListViewInterface& parentView)
     : ListSelectionModelAbstract(parentView) {}
 
-void ListSingleSelectionModel::setSelectedItems(std::vector<unsigned long> const& items) const {
-    int const list = parentView().guiId();
-    HostLock const lock;
+void ListSingleSelectionModel::setSelectedItems(const std::vector<unsigned long>& items) const {
+    const int list = parentView().guiId();
+    const HostLock lock;
     CorGUIListDeselectAllItems(list);
     std::vector<unsigned long> validItems(items);
     eraseInvalidItems(validItems);
-    if (!validItems.empty())
+    if (!validItems.empty()) {
         CorGUIListSetSelectedItem(list, static_cast<long>(validItems.front()) + 1);
+    }
     notifyOfChange();
 }
 

@@ -12,7 +12,7 @@ public:
     explicit ListSingleSelectionModel(ListViewInterface& parentView);
 
     // Selects the first of the items that exist, first as given and not the smallest.
-    void setSelectedItems(std::vector<unsigned long> const& items) const override;
+    void setSelectedItems(const std::vector<unsigned long>& items) const override;
 };
 
 } // namespace corvane::corutiltools

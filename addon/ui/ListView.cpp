@@ -28,19 +28,22 @@ ListView::ListView(SelectionModel_e selectionModel) : m_updatesSuspended(true) {
 }
 
 ListView::~ListView() {
-    if (m_model)
+    if (m_model) {
         m_model->removeObserver(*this);
+    }
     m_updatesSuspended = true;
     m_selectionModel.reset();
-    if (m_ownsModel)
+    if (m_ownsModel) {
         delete m_model;
+    }
 }
 
 void ListView::init(SelectionModel_e selectionModel) {
-    if (selectionModel == SelectionModel_Single)
+    if (selectionModel == SelectionModel_Single) {
         m_selectionModel = std::make_unique<ListSingleSelectionModel>(*this);
-    else
+    } else {
         m_selectionModel = std::make_unique<ListMultiSelectionModel>(*this);
+    }
 }
 
 void ListView::setModel(ListModelGenericInterface* model) {
@@ -52,32 +55,39 @@ void ListView::setModel(ListModelGenericInterface& model) {
 }
 
 void ListView::replaceModel(ListModelGenericInterface* model, bool takesOwnership) {
-    if (model == m_model)
+    if (model == m_model) {
         return;
-    if (m_model)
+    }
+    if (m_model) {
         m_model->removeObserver(*this);
-    if (m_ownsModel)
+    }
+    if (m_ownsModel) {
         delete m_model;
+    }
     m_model = model;
     m_ownsModel = false;
-    if (m_model)
+    if (m_model) {
         m_model->addObserver(*this);
+    }
     rebuildList();
     // Last, so that the model remains the caller's if showing it throws.
     m_ownsModel = takesOwnership;
 }
 
 void ListView::suspendUpdates() {
-    if (m_model)
+    if (m_model) {
         m_model->removeObserver(*this);
+    }
     m_updatesSuspended = true;
 }
 
 void ListView::resumeUpdates() {
-    if (!m_updatesSuspended)
+    if (!m_updatesSuspended) {
         return;
-    if (m_model)
+    }
+    if (m_model) {
         m_model->addObserver(*this);
+    }
     m_updatesSuspended = false;
     rebuildList();
 }
@@ -87,13 +97,15 @@ bool ListView::isLive() const {
 }
 
 void ListView::rebuildList() {
-    if (!isLive())
+    if (!isLive()) {
         return;
-    HostLock const lock;
-    if (m_model->size() == 0)
+    }
+    const HostLock lock;
+    if (m_model->size() == 0) {
         displayEmptyModelMessage();
-    else
+    } else {
         fillList();
+    }
 }
 
 void ListView::fillList() {
@@ -101,9 +113,10 @@ void ListView::fillList() {
     Indices selection;
     m_selectionModel->getSelectedItems(selection);
     CorGUIListDeleteAllItems(m_guiId);
-    unsigned long const count = m_model->size();
-    for (unsigned long index = 0; index < count; ++index)
+    const unsigned long count = m_model->size();
+    for (unsigned long index = 0; index < count; ++index) {
         appendItem(index);
+    }
     m_selectionModel->setSelectedItems(selection);
 }
 
@@ -112,18 +125,20 @@ void ListView::appendItem(unsigned long index) {
 }
 
 void ListView::displayEmptyModelMessage() {
-    if (!isLive())
+    if (!isLive()) {
         return;
-    HostLock const lock;
+    }
+    const HostLock lock;
     CorGUIListDeleteAllItems(m_guiId);
     CorGUIListAppendItem(m_guiId, m_model->emptyModelMessage().c_str());
     CorGUISetSensitivity(m_guiId, FALSE);
 }
 
-void ListView::modelChanged(ListModelGenericInterface::ChangeInfo_s const& change) {
-    if (!isLive())
+void ListView::modelChanged(const ListModelGenericInterface::ChangeInfo_s& change) {
+    if (!isLive()) {
         return;
-    HostLock const lock;
+    }
+    const HostLock lock;
     switch (change.changeType) {
     case ListModelGenericInterface::ItemsInserted:
         showInserted(change.indices);
@@ -139,23 +154,24 @@ void ListView::modelChanged(ListModelGenericInterface::ChangeInfo_s const& chang
     }
 }
 
-void ListView::showInserted(Indices const& indices) {
+void ListView::showInserted(const Indices& indices) {
     // The one line of a list that was empty is the message.
     if (m_model->size() == indices.size() || !areBehindTheList(indices)) {
         rebuildList();
         return;
     }
-    for (unsigned long const index : indices)
+    for (const unsigned long index : indices) {
         appendItem(index);
+    }
 }
 
-bool ListView::areBehindTheList(Indices const& indices) const {
-    auto const lineCount = static_cast<unsigned long>(CorGUIListGetItemCount(m_guiId));
+bool ListView::areBehindTheList(const Indices& indices) const {
+    const auto lineCount = static_cast<unsigned long>(CorGUIListGetItemCount(m_guiId));
     return std::all_of(indices.begin(), indices.end(),
                        [lineCount](unsigned long index) { return index >= lineCount; });
 }
 
-void ListView::showRemoved(Indices const& indices) {
+void ListView::showRemoved(const Indices& indices) {
     if (m_model->size() == 0) {
         displayEmptyModelMessage();
         return;
@@ -164,16 +180,18 @@ void ListView::showRemoved(Indices const& indices) {
     m_selectionModel->getSelectedItems(selection);
     Indices descending(indices);
     std::sort(descending.rbegin(), descending.rend());
-    for (unsigned long const index : descending)
+    for (const unsigned long index : descending) {
         CorGUIListDeleteItemAtPos(m_guiId, positionOf(index));
+    }
     m_selectionModel->setSelectedItems(selection);
 }
 
-void ListView::showChanged(Indices const& indices) {
+void ListView::showChanged(const Indices& indices) {
     Indices selection;
     m_selectionModel->getSelectedItems(selection);
-    for (unsigned long const index : indices)
+    for (const unsigned long index : indices) {
         CorGUIListReplaceItem(m_guiId, m_model->displayString(index).c_str(), positionOf(index));
+    }
     m_selectionModel->setSelectedItems(selection);
 }
 

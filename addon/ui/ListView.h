@@ -21,8 +21,8 @@ public:
 
     ~ListView() override;
 
-    ListView(ListView const&) = delete;
-    ListView& operator=(ListView const&) = delete;
+    ListView(const ListView&) = delete;
+    ListView& operator=(const ListView&) = delete;
 
     // Replaces the selection model; the observers of the old one are not taken over.
     void init(SelectionModel_e selectionModel);
@@ -37,7 +37,7 @@ public:
     void resumeUpdates() override;
 
     // Selected indices stay selected, whichever items have them now.
-    void modelChanged(ListModelGenericInterface::ChangeInfo_s const& change) override;
+    void modelChanged(const ListModelGenericInterface::ChangeInfo_s& change) override;
 
     // Fills the list anew. Does nothing without handle or model, or while updates are suspended.
     void rebuildList();
@@ -52,10 +52,10 @@ private:
     void replaceModel(ListModelGenericInterface* model, bool takesOwnership);
     void fillList();
     void appendItem(unsigned long index);
-    bool areBehindTheList(Indices const& indices) const;
-    void showInserted(Indices const& indices);
-    void showRemoved(Indices const& indices);
-    void showChanged(Indices const& indices);
+    bool areBehindTheList(const Indices& indices) const;
+    void showInserted(const Indices& indices);
+    void showRemoved(const Indices& indices);
+    void showChanged(const Indices& indices);
 
     int m_guiId = COR_HANDLE_NOT_CREATED;
     ListModelGenericInterface* m_model = nullptr;

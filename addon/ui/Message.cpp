@@ -6,13 +6,13 @@
 
 namespace corvane::corutiltools {
 
-void showErrorMessage(std::string const& message) {
-    HostLock const lock;
+void showErrorMessage(const std::string& message) {
+    const HostLock lock;
     CorUtilDialogErrMsg(message.c_str());
 }
 
-void showNotice(std::string const& message) {
-    HostLock const lock;
+void showNotice(const std::string& message) {
+    const HostLock lock;
     CorUtilDialogMessageBox(message.c_str(), MessageBox_Notice);
 }
 

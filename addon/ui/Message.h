@@ -6,7 +6,7 @@
 namespace corvane::corutiltools {
 
 // Both return when the user has read them.
-void showErrorMessage(std::string const& message);
-void showNotice(std::string const& message);
+void showErrorMessage(const std::string& message);
+void showNotice(const std::string& message);
 
 } // namespace corvane::corutiltools

@@ -6,7 +6,7 @@
 
 namespace corvane::corutiltools {
 
-void OpenSettingsFile(std::string const& fileName, ListModelKeyFrame& model, Settings_s& settings) {
+void OpenSettingsFile(const std::string& fileName, ListModelKeyFrame& model, Settings_s& settings) {
     KeyFrameFile().readFile(fileName, settings, model);
     DialogMain::instance().onSettingsFileRead(fileName);
     MacroManager::instance().recordCommand(Command_OpenSettingsFile,

@@ -11,6 +11,6 @@ class ListModelKeyFrame;
 
 // Reads a key frame file into the list and the settings and tells the main dialog. Throws
 // KeyFrameError when it cannot be read; nothing is changed then.
-void OpenSettingsFile(std::string const& fileName, ListModelKeyFrame& model, Settings_s& settings);
+void OpenSettingsFile(const std::string& fileName, ListModelKeyFrame& model, Settings_s& settings);
 
 } // namespace corvane::corutiltools

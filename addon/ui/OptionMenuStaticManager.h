@@ -14,22 +14,23 @@ template <typename T>
 class OptionMenuStaticManager {
 public:
     // Copies the rows. There is no option menu yet.
-    OptionMenuStaticManager(PreMappedValue<T> const* rows, unsigned long count)
+    OptionMenuStaticManager(const PreMappedValue<T>* rows, unsigned long count)
         : m_model(rows, count) {}
 
     void setGuiID(int guiId) { m_guiId = guiId; }
 
     // Makes the labels of the table the items of the option menu.
     void fill() {
-        HostLock const lock;
+        const HostLock lock;
         CorGUIOptionMenuDeleteAllItems(m_guiId);
-        for (unsigned long index = 0; index < m_model.size(); ++index)
+        for (unsigned long index = 0; index < m_model.size(); ++index) {
             CorGUIOptionMenuAppendItem(m_guiId, m_model.displayString(index).c_str());
+        }
     }
 
     // The value of the chosen item. Throws std::out_of_range when no item of the table is chosen.
     T value() const {
-        HostLock const lock;
+        const HostLock lock;
         return m_model.data(static_cast<unsigned long>(CorGUIOptionMenuGet(m_guiId) - 1));
     }
 
@@ -39,25 +40,28 @@ public:
     // The same for a number that need not be a value of T.
     void setNumber(long number) {
         unsigned long index = 0;
-        while (index < m_model.size() && static_cast<long>(m_model.data(index)) != number)
+        while (index < m_model.size() && static_cast<long>(m_model.data(index)) != number) {
             ++index;
+        }
         choose(index < m_model.size() ? index : m_model.end());
     }
 
     // Throws std::out_of_range for a value that the table does not have.
     std::string getDisplayString(T value) const {
-        unsigned long const index = m_model.indexForData(value);
-        if (index == m_model.end())
+        const unsigned long index = m_model.indexForData(value);
+        if (index == m_model.end()) {
             throw std::out_of_range("Error in OptionMenuStaticManager::getDisplayString:\n"
                                     "The requested item does not exist in the model.");
+        }
         return m_model.displayString(index);
     }
 
 private:
     void choose(unsigned long index) {
-        if (index == m_model.end())
+        if (index == m_model.end()) {
             return;
-        HostLock const lock;
+        }
+        const HostLock lock;
         CorGUIOptionMenuSet(m_guiId, static_cast<long>(index) + 1);
     }
 

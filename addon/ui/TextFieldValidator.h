@@ -37,34 +37,39 @@ public:
 
     // Takes what the user entered. Text that is no number in range is refused with a message and
     // replaced in the field by the last valid value; what follows a number does not count.
-    bool validate(std::string const& text) {
+    bool validate(const std::string& text) {
         T value{};
-        bool const isValid =
+        const bool isValid =
             readStreamText(text, value) && m_minimum <= value && value <= m_maximum;
-        if (isValid)
+        if (isValid) {
             m_value = value;
-        else
+        } else {
             showErrorMessage("Invalid input. Input must be a number" + rangeText() + ".");
+        }
         updateTextField();
         return isValid;
     }
 
     // Shows the value in the field, if there is one.
     void updateTextField() const {
-        if (m_guiId == COR_HANDLE_NOT_CREATED)
+        if (m_guiId == COR_HANDLE_NOT_CREATED) {
             return;
-        HostLock const lock;
+        }
+        const HostLock lock;
         CorGUITextFieldSetString(m_guiId, streamText(m_value).c_str());
     }
 
 private:
     std::string rangeText() const {
-        if (m_hasMinimum && m_hasMaximum)
+        if (m_hasMinimum && m_hasMaximum) {
             return " between " + streamText(m_minimum) + " and " + streamText(m_maximum);
-        if (m_hasMinimum)
+        }
+        if (m_hasMinimum) {
             return " greater than or equal to " + streamText(m_minimum);
-        if (m_hasMaximum)
+        }
+        if (m_hasMaximum) {
             return " less than or equal to " + streamText(m_maximum);
+        }
         return {};
     }
 

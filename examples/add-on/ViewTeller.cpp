@@ -29,8 +29,9 @@ double degrees(double radians) {
 }
 
 std::string currentView() {
-    if (CorUtilFrameGetPlotType() != PlotType_Cartesian3D)
+    if (CorUtilFrameGetPlotType() != PlotType_Cartesian3D) {
         throw std::runtime_error("The active frame shows no 3D plot, so there is no view to tell.");
+    }
     double psi = 0.0, theta = 0.0, alpha = 0.0;
     CorUtilThreeDViewGetViewerAngle(&psi, &theta, &alpha); // radians
     double x = 0.0, y = 0.0, z = 0.0;
@@ -44,8 +45,9 @@ std::string currentView() {
 }
 
 void record(const char* command) {
-    if (CorUtilMacroIsRecordingActive())
+    if (CorUtilMacroIsRecordingActive()) {
         CorUtilMacroRecordExtCommand(addOnName, command);
+    }
 }
 
 void tellView() {
@@ -64,16 +66,18 @@ void menuOptionChosen() {
 
 void giveToHost(const std::string& message, char** errorMessage) {
     *errorMessage = CorUtilStringAlloc(static_cast<long>(message.size()));
-    if (*errorMessage)
+    if (*errorMessage) {
         std::memcpy(*errorMessage, message.c_str(), message.size() + 1);
+    }
 }
 
 CorBool runCommand(char* commandString, char** errorMessage) {
     try {
         const std::string command = commandString;
-        if (command != tellCommand)
+        if (command != tellCommand) {
             throw std::runtime_error("There is no command \"" + command + "\"; there is " +
                                      tellCommand + ".");
+        }
         tellView();
         return TRUE;
     } catch (const std::exception& error) {

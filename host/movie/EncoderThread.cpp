@@ -29,8 +29,9 @@ EncoderThread::~EncoderThread() {
 
 void EncoderThread::add(host::Picture picture) {
     std::unique_lock lock(m_mutex);
-    if (m_hasEnded)
+    if (m_hasEnded) {
         throw std::logic_error("a picture was added to a finished movie");
+    }
     m_queueChanged.wait(lock, [this] { return m_waiting.size() < m_mostWaiting; });
     throwFailure();
     m_waiting.push_back(std::move(picture));
@@ -54,20 +55,23 @@ void EncoderThread::join() {
         m_hasEnded = true;
         m_queueChanged.notify_all();
     }
-    if (m_thread.joinable())
+    if (m_thread.joinable()) {
         m_thread.join();
+    }
 }
 
 void EncoderThread::throwFailure() const {
-    if (!m_failure.empty())
+    if (!m_failure.empty()) {
         throw host::HostError(m_failure);
+    }
 }
 
 void EncoderThread::run() {
     try {
         host::Picture picture;
-        while (takeNext(picture))
+        while (takeNext(picture)) {
             m_sink->write(picture);
+        }
     } catch (const std::exception& error) {
         keepFailure(error.what());
     }
@@ -76,8 +80,9 @@ void EncoderThread::run() {
 bool EncoderThread::takeNext(host::Picture& picture) {
     std::unique_lock lock(m_mutex);
     m_queueChanged.wait(lock, [this] { return m_hasEnded || !m_waiting.empty(); });
-    if (m_waiting.empty())
+    if (m_waiting.empty()) {
         return false;
+    }
     picture = std::move(m_waiting.front());
     m_waiting.pop_front();
     m_queueChanged.notify_all();

@@ -26,8 +26,9 @@ void logOnStandardError(const std::string& note) {
 void checkSpeed(const host::MovieRequest& request) {
     // Written so that a speed that is not a number is refused too.
     if (request.framesPerSecond >= leastFramesPerSecond &&
-        request.framesPerSecond <= mostFramesPerSecond)
+        request.framesPerSecond <= mostFramesPerSecond) {
         return;
+    }
     LibavCheck(request.path)
         .fail("its speed would be " + std::to_string(request.framesPerSecond) +
               " frames per second; choose 0.001 to 200");
@@ -63,8 +64,9 @@ std::unique_ptr<host::MovieWriter> LibavMovieWriters::open(const host::MovieRequ
     captureLibavLog();
     checkSpeed(request);
     std::unique_ptr<PictureSink> sink = formatOf(request)->open(request);
-    if (const std::string note = sink->note(); !note.empty())
+    if (const std::string note = sink->note(); !note.empty()) {
         m_log(note);
+    }
     return std::make_unique<EncoderThread>(std::move(sink),
                                            mostWaitingPictures(request.width, request.height));
 }

@@ -29,8 +29,9 @@ std::vector<int> samplesOf(const MeshSeries& series) {
     const auto& sources = series.sourceOfTime;
     std::vector<int> samples{sources.front()};
     for (const int source : {sources[sources.size() / 2], sources.back()}) {
-        if (std::find(samples.begin(), samples.end(), source) == samples.end())
+        if (std::find(samples.begin(), samples.end(), source) == samples.end()) {
             samples.push_back(source);
+        }
     }
     return samples;
 }
@@ -41,8 +42,9 @@ void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
     for (const int source : samplesOf(series)) {
         const auto parts = cache.get(source);
         for (const MeshPart& part : *parts) {
-            if (!known.insert(part.name).second)
+            if (!known.insert(part.name).second) {
                 continue;
+            }
             const std::string name =
                 part.name.empty() ? series.name : series.name + "/" + part.name;
             data.addBlock({name, meshDimension(*part.mesh)}, series.times,
@@ -57,8 +59,9 @@ std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, Me
     for (const MeshSeries& series : allSeries) {
         for (const int source : samplesOf(series)) {
             const auto parts = cache.get(source);
-            for (const MeshPart& part : *parts)
+            for (const MeshPart& part : *parts) {
                 ranges.add(*part.mesh);
+            }
         }
     }
     return ranges.ranges();
@@ -71,17 +74,20 @@ DataReaders::DataReaders(std::size_t memoryBudget, std::shared_ptr<SceneStatisti
       m_statistics(statistics ? std::move(statistics) : std::make_shared<SceneStatistics>()) {}
 
 std::shared_ptr<const host::DataSet> DataReaders::read(const std::vector<std::string>& files) {
-    if (files.empty())
+    if (files.empty()) {
         throw host::HostError("No data can be read: no file was named.");
+    }
     MeshSeriesList list;
-    for (const std::string& file : files)
+    for (const std::string& file : files) {
         list.open(file);
+    }
 
     const auto cache = std::make_shared<MeshCache>(list.sources(), m_memoryBudget, m_statistics);
     auto data = std::make_shared<SceneDataSet>(cache);
     data->files = files;
-    for (const MeshSeries& series : list.series())
+    for (const MeshSeries& series : list.series()) {
         addSeries(*data, *cache, series);
+    }
     data->setVariables(rangesOf(list.series(), *cache));
     return data;
 }

@@ -27,17 +27,20 @@ constexpr double traceWidthPart = 1.0 / 250.0;
 
 std::shared_ptr<const SceneDataSet> sceneData(const Frame& frame) {
     auto data = std::dynamic_pointer_cast<const SceneDataSet>(frame.data());
-    if (frame.data() != nullptr && data == nullptr)
+    if (frame.data() != nullptr && data == nullptr) {
         throw host::HostError("The data of a frame cannot be drawn: another reader made them.");
+    }
     return data;
 }
 
 std::string noTracesText(const StreamRequest& request) {
     const std::string& variable = request.recipe.variable;
-    if (request.zones.empty())
+    if (request.zones.empty()) {
         return "There are no streamtraces to show: the data have no volumes.";
-    if (variable.empty())
+    }
+    if (variable.empty()) {
         return "There are no streamtraces to show: choose a vector variable for them.";
+    }
     return "There are no streamtraces to show: no seed lies inside of the data where \"" +
            variable +
            "\" is a vector that is not zero. Move the seeds, or choose another variable.";
@@ -86,11 +89,12 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
     updateAnnotations(frame, area);
     const bool axis = frame.style.annotations.showAxis && m_data != nullptr &&
                       frame.plotType == PlotType_Cartesian3D;
-    if (axis)
+    if (axis) {
         m_axis.show(frame.view, textColorOn(frame.style.annotations.background), area, pictureWidth,
                     pictureHeight);
-    else
+    } else {
         m_axis.hide();
+    }
     setCamera(*m_renderer->GetActiveCamera(), frame.view, area, shownBounds());
 }
 
@@ -98,27 +102,32 @@ void FrameScene::updatePlots(const Frame& frame, const FrameArea& area) {
     attach(frame);
     hidePlots();
     m_warning.clear();
-    if (m_data != nullptr && frame.plotType == PlotType_Cartesian3D)
+    if (m_data != nullptr && frame.plotType == PlotType_Cartesian3D) {
         showContent(frame, area);
+    }
     m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
 }
 
 void FrameScene::attach(const Frame& frame) {
     auto data = sceneData(frame);
-    if (data == m_data)
+    if (data == m_data) {
         return;
+    }
     m_travel.leave();
-    for (const auto& [key, plot] : m_plots)
+    for (const auto& [key, plot] : m_plots) {
         m_renderer->RemoveActor(plot->actor());
+    }
     m_plots.clear();
-    if (m_data != nullptr)
+    if (m_data != nullptr) {
         m_geometry->forget(m_data->id());
+    }
     m_data = std::move(data);
 }
 
 void FrameScene::hidePlots() {
-    for (const auto& [key, plot] : m_plots)
+    for (const auto& [key, plot] : m_plots) {
         plot->actor()->SetVisibility(0);
+    }
     m_streams.hide();
     m_isTranslucent = false;
     m_isContourShown = false;
@@ -128,10 +137,12 @@ void FrameScene::showContent(const Frame& frame, const FrameArea& area) {
     m_colors.update(frame.style.contour, *m_data);
     const PictureContent content = contentAt(frame.style, *m_data, frame.solutionTime);
     m_travel.arrive(content);
-    for (const PlotRequest& request : content.plots)
+    for (const PlotRequest& request : content.plots) {
         showPlot(request, frame.style.light);
-    if (content.streams)
+    }
+    if (content.streams) {
         showStreams(*content.streams, frame.style, area);
+    }
     m_travel.lookAhead(frame.style, m_data, frame.solutionTime, content);
 }
 
@@ -143,8 +154,9 @@ void FrameScene::showPlot(const PlotRequest& request, const host::LightStyle& li
         m_renderer->AddActor(plot->actor());
     }
     plot->setGeometry(m_geometry->plot(request, *m_data));
-    if (plot->isEmpty() || request.appearance.opacity <= 0.0)
+    if (plot->isEmpty() || request.appearance.opacity <= 0.0) {
         return;
+    }
     plot->setAppearance(request.appearance, m_colors, light);
     plot->actor()->SetVisibility(1);
     m_isTranslucent = m_isTranslucent || request.appearance.opacity < 1.0;
@@ -156,8 +168,9 @@ void FrameScene::showStreams(const StreamRequest& request, const host::FrameStyl
     m_streams.setGeometry(m_geometry->streams(request, *m_data));
     const bool lackedTraces = std::exchange(m_lacksTraces, m_streams.isEmpty());
     if (m_lacksTraces) {
-        if (!lackedTraces)
+        if (!lackedTraces) {
             m_warning = noTracesText(request);
+        }
         return;
     }
     m_streams.show(style, m_colors, request.markerSize,
@@ -169,11 +182,12 @@ void FrameScene::updateAnnotations(const Frame& frame, const FrameArea& area) {
     const host::AnnotationStyle& style = frame.style.annotations;
     const host::Color textColor = textColorOn(style.background);
 
-    if (style.showOutline && m_data != nullptr && frame.plotType == PlotType_Cartesian3D)
+    if (style.showOutline && m_data != nullptr && frame.plotType == PlotType_Cartesian3D) {
         m_outline.show(m_data->bounds, lineColorOn(style.background), frame.style.light,
                        std::max(1.0, lineWidthPart * area.full.height));
-    else
+    } else {
         m_outline.hide();
+    }
     updateLegend(frame, area);
 
     const double top = area.offsetY() + area.full.height - pixels(textMarginPart, area);
@@ -192,11 +206,12 @@ void FrameScene::updateAnnotations(const Frame& frame, const FrameArea& area) {
 void FrameScene::updateLegend(const Frame& frame, const FrameArea& area) {
     const bool isKnown =
         m_data != nullptr && m_data->findVariable(m_colors.variable().array) != nullptr;
-    if (m_isContourShown && isKnown && frame.style.contour.showLegend)
+    if (m_isContourShown && isKnown && frame.style.contour.showLegend) {
         m_colorBar.show(m_colors, displayName(m_colors.variable(), *m_data),
                         textColorOn(frame.style.annotations.background), area);
-    else
+    } else {
         m_colorBar.hide();
+    }
 }
 
 host::Bounds FrameScene::shownBounds() const {

@@ -95,13 +95,15 @@ host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
     prepareFrames(page);
     const auto frames = framesInPicture(page, request);
     const auto tiles = tilesOf(request, m_largestTarget);
-    if (tiles.size() == 1)
+    if (tiles.size() == 1) {
         return drawTile(tiles.front(), frames, request.supersample, onWarning);
+    }
     host::Picture picture = emptyPicture(request);
-    for (const PixelRect& tile : tiles)
+    for (const PixelRect& tile : tiles) {
         paste(picture, drawTile(tile, frames, request.supersample, onWarning),
               tile.x / request.supersample,
               request.height - (tile.y + tile.height) / request.supersample);
+    }
     return picture;
 }
 
@@ -109,13 +111,15 @@ host::Picture SceneRenderer::Canvas::drawTile(const PixelRect& tile,
                                               const std::vector<FrameInPicture>& frames,
                                               int supersample, const Listener& onWarning) {
     m_window->SetSize(tile.width, tile.height);
-    for (const auto& [id, scene] : m_frames)
+    for (const auto& [id, scene] : m_frames) {
         scene->hide();
+    }
     for (const FrameInPicture& shown : framesInTile(frames, tile)) {
         FrameScene& scene = *m_frames[shown.frame->id()];
         scene.update(*shown.frame, shown.area, tile.width, tile.height);
-        if (onWarning && !scene.warning().empty())
+        if (onWarning && !scene.warning().empty()) {
             onWarning(scene.warning());
+        }
     }
     m_window->Render();
     ++m_statistics->renders;
@@ -128,8 +132,9 @@ void SceneRenderer::Canvas::prepareFrames(const host::Page& page) {
     forgetDeletedFrames(page);
     for (const auto& frame : page.frames()) {
         auto& scene = m_frames[frame->id()];
-        if (scene == nullptr)
+        if (scene == nullptr) {
             scene = std::make_unique<FrameScene>(m_geometry);
+        }
     }
     orderRenderers(page);
 }
@@ -150,16 +155,21 @@ void SceneRenderer::Canvas::forgetDeletedFrames(const host::Page& page) {
 
 void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     std::vector<vtkRenderer*> order{m_paper};
-    for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame)
-        for (vtkRenderer* const renderer : m_frames[(*frame)->id()]->renderers())
+    for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame) {
+        for (vtkRenderer* const renderer : m_frames[(*frame)->id()]->renderers()) {
             order.push_back(renderer);
-    if (order == m_order)
+        }
+    }
+    if (order == m_order) {
         return;
+    }
     // Taking a renderer out of the window frees what it has uploaded: only when it must be.
-    for (vtkRenderer* const renderer : m_order)
+    for (vtkRenderer* const renderer : m_order) {
         m_window->RemoveRenderer(renderer);
-    for (vtkRenderer* const renderer : order)
+    }
+    for (vtkRenderer* const renderer : order) {
         m_window->AddRenderer(renderer);
+    }
     m_order = std::move(order);
 }
 
@@ -170,8 +180,9 @@ SceneRenderer::SceneRenderer(std::shared_ptr<SceneStatistics> statistics, std::s
 SceneRenderer::~SceneRenderer() = default;
 
 SceneRenderer::Canvas& SceneRenderer::canvas() const {
-    if (m_canvas == nullptr)
+    if (m_canvas == nullptr) {
         m_canvas = std::make_unique<Canvas>(m_statistics, m_memoryBudget);
+    }
     return *m_canvas;
 }
 
@@ -191,12 +202,13 @@ host::Picture SceneRenderer::draw(const host::Page& page, const host::PictureReq
     const auto largest = static_cast<long>(largestSize());
     const long factor = request.supersample;
     if (request.width < 1 || request.height < 1 || factor < 1 || request.width * factor > largest ||
-        request.height * factor > largest)
+        request.height * factor > largest) {
         throw host::HostError("A picture of " + std::to_string(request.width) + " x " +
                               std::to_string(request.height) + " pixels, drawn " +
                               std::to_string(factor) +
                               " times larger, cannot be made: sizes from 1 to " +
                               std::to_string(largest) + " can be drawn here.");
+    }
     return canvas().draw(page, request, onWarning);
 }
 

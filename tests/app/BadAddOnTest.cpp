@@ -2,6 +2,7 @@
 // rule, and flies as ever.
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TempFolder.h"
 #include "tests/unit/host/movie/DecodedMovie.h"
 
@@ -15,7 +16,7 @@ using testing::Not;
 
 namespace {
 
-const std::string badAddOn = CORVANE_BINARY_DIR "/tests/libraries/BadAddOn.so";
+const std::string badAddOn = builtFile("tests/libraries/BadAddOn.so");
 
 std::string commands(const std::vector<std::string>& deeds) {
     std::string macro = "$!READDATA \"" + exampleFile("wake/wake.pvd") + "\"\n";
@@ -41,7 +42,7 @@ protected:
     const TempFolder folder;
 };
 
-TEST_F(BadAddOn, DoesNotChangeTheFlight) {
+TEST_F(BadAddOn, doesNotChangeTheFlight) {
     ASSERT_EQ(runProgram(shortRun(folder, folder.file("good.mp4"))).exitCode, 0);
     const ProgramResult result =
         perform({"leave a lock", "give back a lock of nobody", "leave drawing suspended",
@@ -54,7 +55,7 @@ TEST_F(BadAddOn, DoesNotChangeTheFlight) {
                 DecodedMovie(folder.file("good.mp4")).pictures());
 }
 
-TEST_F(BadAddOn, IsNamedForItsLocks) {
+TEST_F(BadAddOn, isNamedForItsLocks) {
     ASSERT_EQ(perform({"leave a lock", "give back a lock of nobody", "leave drawing suspended",
                        "use an id of nobody"})
                   .exitCode,
@@ -68,7 +69,7 @@ TEST_F(BadAddOn, IsNamedForItsLocks) {
     EXPECT_THAT(trace(), HasSubstr("suspended drawing is not balanced (0 before, 1 after)"));
 }
 
-TEST_F(BadAddOn, IsNamedForItsMemory) {
+TEST_F(BadAddOn, isNamedForItsMemory) {
     ASSERT_EQ(perform({"free a string twice", "free a string of its own", "free a list twice",
                        "free a set twice"})
                   .exitCode,
@@ -82,7 +83,7 @@ TEST_F(BadAddOn, IsNamedForItsMemory) {
     EXPECT_THAT(trace(), HasSubstr(misuse("CorUtilSetGetNextMember: the set was freed before")));
 }
 
-TEST_F(BadAddOn, GetsNothingDoneOnItsOwnThreads) {
+TEST_F(BadAddOn, getsNothingDoneOnItsOwnThreads) {
     const ProgramResult result = perform({"call from a thread"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     for (const std::string operation :
@@ -92,7 +93,7 @@ TEST_F(BadAddOn, GetsNothingDoneOnItsOwnThreads) {
     EXPECT_THAT(trace(), Not(HasSubstr("\nCorUtilRedraw")));
 }
 
-TEST_F(BadAddOn, StopsTheMacroWithWhatItThrew) {
+TEST_F(BadAddOn, stopsTheMacroWithWhatItThrew) {
     const ProgramResult result = perform({"throw an exception", "leave a lock"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.errors, HasSubstr("bad.mcr:2: "));
@@ -102,7 +103,7 @@ TEST_F(BadAddOn, StopsTheMacroWithWhatItThrew) {
     EXPECT_EQ(perform({"throw a number"}).exitCode, 1);
 }
 
-TEST_F(BadAddOn, MayHandOverTextsThatAreNotTheHosts) {
+TEST_F(BadAddOn, mayHandOverTextsThatAreNotTheHosts) {
     const ProgramResult result = perform({"hand over a message of its own"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.errors, HasSubstr("This text is not the host's to free."));

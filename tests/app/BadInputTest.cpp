@@ -2,6 +2,7 @@
 // untouched.
 #include "tests/app/Program.h"
 #include "tests/app/WakeFlight.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TempFolder.h"
 
 #include <filesystem>
@@ -166,7 +167,7 @@ TEST_F(BadInput, missingAndBrokenAddOn) {
     expectFailure(arguments, {"text.so"});
 
     // A library, but no add-on.
-    arguments.back() = CORVANE_BINARY_DIR "/lib/libcorvane.so";
+    arguments.back() = builtFile("lib/libcorvane.so");
     expectFailure(arguments, {"libcorvane.so", "InitCorAddOn113"});
 }
 

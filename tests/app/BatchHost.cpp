@@ -3,6 +3,7 @@
 
 #include "host/core/session/AddOnLoader.h"
 #include "tests/app/WakeFlight.h"
+#include "tests/support/Folders.h"
 
 namespace corvane::test {
 
@@ -12,7 +13,7 @@ BatchHost::BatchHost(int pictureWidth, int pictureHeight)
       status(log, false, [this] { return movies.wantsStop(); }),
       program({renderer, reader, movies, status, prompts, pictures}) {
     program.session().page().workArea = {width, height, width / 8.0};
-    host::loadAddOn(program.session(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
+    host::loadAddOn(program.session(), builtAddOn());
     program.session().openData({exampleFile("wake/wake.pvd")});
 }
 

@@ -1,6 +1,8 @@
 // Runs the program as a user does, and keeps what it said.
 #include "tests/app/Program.h"
 
+#include "tests/support/Folders.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -16,7 +18,7 @@
 namespace corvane::test {
 namespace {
 
-constexpr const char* program = CORVANE_BINARY_DIR "/bin/corvane";
+const std::string program = builtFile("bin/corvane");
 
 struct Pipe {
     int readEnd = -1;

@@ -1,6 +1,7 @@
 // The sample data and small flights through them, as files for whole runs.
 #include "tests/app/WakeFlight.h"
 
+#include "tests/support/Folders.h"
 #include "tests/support/TempFolder.h"
 
 #include <fstream>
@@ -9,7 +10,7 @@
 namespace corvane::test {
 
 std::string exampleFile(const std::string& name) {
-    return CORVANE_SOURCE_DIR "/examples/" + name;
+    return sourceFile("examples/" + name);
 }
 
 std::string readFile(const std::string& path) {

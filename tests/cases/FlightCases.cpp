@@ -25,8 +25,8 @@ View zoomed(View view, double width) {
 }
 
 // Key frames named after the flight, with solution times 0, 1, 2, ...
-FlightCase flight(std::string const& name, std::vector<View> const& views,
-                  std::vector<unsigned long> const& frameCounts) {
+FlightCase flight(const std::string& name, const std::vector<View>& views,
+                  const std::vector<unsigned long>& frameCounts) {
     FlightCase result{name, {}};
     for (std::size_t i = 0; i < views.size(); ++i) {
         result.keyFrames.push_back(KeyFrame_s{views[i], name + " " + std::to_string(i + 1),
@@ -37,8 +37,8 @@ FlightCase flight(std::string const& name, std::vector<View> const& views,
 
 std::vector<FlightCase> makeFlights() {
     // A quarter from above, as a newly loaded scene is seen.
-    View const start = viewOfCentre(60.0, 240.0, 0.0, 10.0, 4.0);
-    View const orbited = viewOfCentre(60.0, 360.0, 0.0, 10.0, 4.0);
+    const View start = viewOfCentre(60.0, 240.0, 0.0, 10.0, 4.0);
+    const View orbited = viewOfCentre(60.0, 360.0, 0.0, 10.0, 4.0);
     std::vector<FlightCase> flights;
     flights.push_back(flight("Orbit", {start, orbited}, {30, 30}));
     flights.push_back(flight(
@@ -84,19 +84,19 @@ std::vector<FlightCase> makeFlights() {
 
 } // namespace
 
-std::ostream& operator<<(std::ostream& out, FlightCase const& flight) {
+std::ostream& operator<<(std::ostream& out, const FlightCase& flight) {
     return out << flight.name;
 }
 
-std::vector<FlightCase> const& flightCases() {
-    static std::vector<FlightCase> const flights = makeFlights();
+const std::vector<FlightCase>& flightCases() {
+    const static std::vector<FlightCase> flights = makeFlights();
     return flights;
 }
 
-FlightCase const& flightCase(std::string const& name) {
-    auto const found =
+const FlightCase& flightCase(const std::string& name) {
+    const auto found =
         std::find_if(flightCases().begin(), flightCases().end(),
-                     [&name](FlightCase const& flight) { return flight.name == name; });
+                     [&name](const FlightCase& flight) { return flight.name == name; });
     if (found == flightCases().end()) {
         throw std::out_of_range("no flight is named " + name);
     }
@@ -104,8 +104,8 @@ FlightCase const& flightCase(std::string const& name) {
 }
 
 View viewOfCentre(double psi, double theta, double alpha, double distance, double width) {
-    double const radians = std::acos(-1.0) / 180.0;
-    double const sinPsi = std::sin(psi * radians);
+    const double radians = std::acos(-1.0) / 180.0;
+    const double sinPsi = std::sin(psi * radians);
     return View(-distance * sinPsi * std::sin(theta * radians),
                 -distance * sinPsi * std::cos(theta * radians), distance * std::cos(psi * radians),
                 psi, theta, alpha, width);

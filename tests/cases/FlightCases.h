@@ -16,13 +16,13 @@ struct FlightCase {
 };
 
 /// What a parameterised test shows of its flight.
-std::ostream& operator<<(std::ostream& out, FlightCase const& flight);
+std::ostream& operator<<(std::ostream& out, const FlightCase& flight);
 
 /// All of them, in the order of their definition.
-std::vector<FlightCase> const& flightCases();
+const std::vector<FlightCase>& flightCases();
 
 /// Throws std::out_of_range for a name that no flight has.
-FlightCase const& flightCase(std::string const& name);
+const FlightCase& flightCase(const std::string& name);
 
 /// Looks at the point (0, 0, 0) from the given distance. Angles in degrees.
 corutiltools::View viewOfCentre(double psi, double theta, double alpha, double distance,

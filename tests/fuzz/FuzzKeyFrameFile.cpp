@@ -25,7 +25,7 @@ struct Flight {
     ListModelKeyFrame model;
 };
 
-std::string written(Flight const& flight) {
+std::string written(const Flight& flight) {
     std::ostringstream stream;
     KeyFrameFile().write(stream, flight.settings, flight.model);
     return stream.str();
@@ -39,17 +39,17 @@ bool isKnownRefusal(std::string_view message) {
 }
 
 // False when the text is refused.
-bool read(std::string const& text, Flight& flight) {
-    std::string const before = written(flight);
+bool read(const std::string& text, Flight& flight) {
+    const std::string before = written(flight);
     std::istringstream stream(text);
     try {
         KeyFrameFile().read(stream, flight.settings, flight.model);
         return true;
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         // A line that is quoted may hold a zero byte, where what() ends for us.
         require(isKnownRefusal(error.what()) || text.find('\0') != std::string::npos,
                 "a refusal has a known text");
-    } catch (std::out_of_range const&) {
+    } catch (const std::out_of_range&) {
         // A key frame without position or angle.
     }
     require(written(flight) == before, "a refusal changes nothing");
@@ -57,24 +57,26 @@ bool read(std::string const& text, Flight& flight) {
 }
 
 // Key frames may lack a name or a frame count, but neither can be written so that it is read again.
-bool canBeReadAgain(Flight const& flight) {
-    std::vector<KeyFrame_s> const& keyFrames = flight.model.dataList();
-    return std::all_of(keyFrames.begin(), keyFrames.end(), [](KeyFrame_s const& keyFrame) {
+bool canBeReadAgain(const Flight& flight) {
+    const std::vector<KeyFrame_s>& keyFrames = flight.model.dataList();
+    return std::all_of(keyFrames.begin(), keyFrames.end(), [](const KeyFrame_s& keyFrame) {
         return !keyFrame.name.empty() && keyFrame.frameCount != 0;
     });
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Flight first;
-    if (!read(std::string(reinterpret_cast<char const*>(data), size), first))
+    if (!read(std::string(reinterpret_cast<const char*>(data), size), first)) {
         return 0;
-    std::string const text = written(first);
+    }
+    const std::string text = written(first);
     Flight second;
-    bool const survives = read(text, second);
+    const bool survives = read(text, second);
     require(survives == canBeReadAgain(first), "what was read survives being written");
-    if (survives)
+    if (survives) {
         require(written(second) == text, "what was read twice is written alike");
+    }
     return 0;
 }

@@ -18,13 +18,13 @@ using corvane::fuzz::require;
 
 using Manager = MacroCommandManager<Command_e, Parameter_e, KeyFrameError>;
 
-Manager const manager(" ");
+const Manager manager(" ");
 
 struct Command {
     Command_e command{};
     Manager::Parameters parameters;
 
-    friend bool operator==(Command const&, Command const&) = default;
+    friend bool operator==(const Command&, const Command&) = default;
 };
 
 bool isKnownRefusal(std::string_view message) {
@@ -37,13 +37,13 @@ bool isKnownRefusal(std::string_view message) {
 }
 
 // False when the text is refused.
-bool parse(std::string const& text, Command& result) {
+bool parse(const std::string& text, Command& result) {
     try {
         manager.parseMacroCommandString(text, result.command, result.parameters);
         return true;
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         require(isKnownRefusal(error.what()), "a refusal has a known text");
-    } catch (std::out_of_range const&) {
+    } catch (const std::out_of_range&) {
         require(!text.empty() && text.back() == ' ', "only a trailing blank is out of range");
     }
     require(result == Command(), "a refusal changes nothing");
@@ -52,10 +52,11 @@ bool parse(std::string const& text, Command& result) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Command first;
-    if (!parse(std::string(reinterpret_cast<char const*>(data), size), first))
+    if (!parse(std::string(reinterpret_cast<const char*>(data), size), first)) {
         return 0;
+    }
     Command second;
     require(parse(manager.buildMacroCommandString(first.command, first.parameters), second),
             "what was parsed can be built");

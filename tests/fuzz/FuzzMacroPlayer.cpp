@@ -21,7 +21,7 @@ using namespace corvane::host;
 
 // Nothing can lie below a device, so that no relative name, however many folders it climbs, leads
 // to a file.
-std::string const folder = "/dev/null";
+const std::string folder = "/dev/null";
 
 bool isPlain(char c) {
     return std::isalnum(static_cast<unsigned char>(c)) != 0;
@@ -29,9 +29,11 @@ bool isPlain(char c) {
 
 // Without names that begin with a slash: those would lead out of the folder.
 std::string withoutAbsoluteNames(std::string text) {
-    for (std::size_t at = 0; at < text.size(); ++at)
-        if (text[at] == '/' && (at == 0 || !isPlain(text[at - 1])))
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '/' && (at == 0 || !isPlain(text[at - 1]))) {
             text[at] = '_';
+        }
+    }
     return text;
 }
 
@@ -39,46 +41,51 @@ std::string withoutAbsoluteNames(std::string text) {
 // others by any name that ends in their number.
 class Macros {
 public:
-    explicit Macros(std::string const& text) {
+    explicit Macros(const std::string& text) {
         constexpr std::string_view separator = "\n--\n";
         std::size_t begin = 0;
         for (std::size_t end; (end = text.find(separator, begin)) != std::string::npos;
-             begin = end + separator.size())
+             begin = end + separator.size()) {
             m_texts.push_back(text.substr(begin, end - begin));
+        }
         m_texts.push_back(text.substr(begin));
     }
 
-    std::unique_ptr<std::istream> open(std::string const& name) {
+    std::unique_ptr<std::istream> open(const std::string& name) {
         // Macros that include the next ones twice each take exponential time, which is no defect;
         // file systems limit names, and errors could not be told apart from those with a colon.
         constexpr int mostIncludes = 64;
         constexpr std::size_t longestName = 1000;
-        bool const isName = name.size() <= longestName && name.find(':') == std::string::npos;
-        if (!isName || indexOf(name) >= m_texts.size() || ++m_includes > mostIncludes)
+        const bool isName = name.size() <= longestName && name.find(':') == std::string::npos;
+        if (!isName || indexOf(name) >= m_texts.size() || ++m_includes > mostIncludes) {
             throw HostError("There is no macro " + name + ".");
+        }
         return std::make_unique<std::istringstream>(m_texts[indexOf(name)]);
     }
 
-    std::string const& main() const { return m_texts.front(); }
+    const std::string& main() const { return m_texts.front(); }
 
     // The text of the macro of that name, as an error shows it.
-    std::string const& textOf(std::string const& name) const {
-        if (name == "main")
+    const std::string& textOf(const std::string& name) const {
+        if (name == "main") {
             return main();
+        }
         require(indexOf(name) < m_texts.size(), "an error names its file");
         return m_texts[indexOf(name)];
     }
 
     static std::string printable(std::string text) {
-        for (char& c : text)
-            if ((static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t') || c == 0x7f)
+        for (char& c : text) {
+            if ((static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t') || c == 0x7f) {
                 c = '?';
+            }
+        }
         return text;
     }
 
 private:
-    static std::size_t indexOf(std::string const& name) {
-        char const last = name.empty() ? '\0' : name.back();
+    static std::size_t indexOf(const std::string& name) {
+        const char last = name.empty() ? '\0' : name.back();
         return last >= '0' && last <= '9' ? static_cast<std::size_t>(last - '0') : std::size_t(-1);
     }
 
@@ -86,29 +93,32 @@ private:
     int m_includes = 0;
 };
 
-std::string lineOf(std::string const& text, unsigned long number) {
+std::string lineOf(const std::string& text, unsigned long number) {
     std::istringstream stream(text);
     std::string line;
-    for (unsigned long count = 0; count < number; ++count)
+    for (unsigned long count = 0; count < number; ++count) {
         require(!std::getline(stream, line).fail(), "an error is in a line that there is");
-    if (number == 1 && line.starts_with("\xef\xbb\xbf"))
+    }
+    if (number == 1 && line.starts_with("\xef\xbb\xbf")) {
         line.erase(0, 3);
+    }
     return line.erase(0, line.find_first_not_of(" \t\r"));
 }
 
-void checkError(MacroError const& failure, Macros const& macros) {
+void checkError(const MacroError& failure, const Macros& macros) {
     constexpr std::size_t fewestShown = 190; // the rest may be cut off
-    std::string const error = failure.what();
+    const std::string error = failure.what();
     std::size_t at = std::min(error.find(':'), error.size());
-    std::string const& text = macros.textOf(error.substr(0, at));
+    const std::string& text = macros.textOf(error.substr(0, at));
     unsigned long number = 0;
-    for (++at; at < error.size() && error[at] >= '0' && error[at] <= '9'; ++at)
+    for (++at; at < error.size() && error[at] >= '0' && error[at] <= '9'; ++at) {
         number = number * 10 + static_cast<unsigned long>(error[at] - '0');
+    }
     require(error.compare(at, 2, ": ") == 0, "an error has the number of its line");
     std::string line = Macros::printable(lineOf(text, number).substr(0, fewestShown));
     line.erase(line.find_last_not_of(" ?\t") + 1); // blanks at the end are not part of the text
     require(error.compare(at + 2, line.size(), line) == 0, "an error shows its line");
-    std::size_t const lineEnd = error.find('\n', at);
+    const std::size_t lineEnd = error.find('\n', at);
     require(lineEnd != std::string::npos && lineEnd + 1 < error.size(), "an error has a cause");
     require(error.size() < 8192, "an error is short");
 }
@@ -116,16 +126,17 @@ void checkError(MacroError const& failure, Macros const& macros) {
 // An add-on whose commands fail in all ways, or record themselves, as those of add-ons do.
 void addEcho(Host& program) {
     Session& session = program.session();
-    session.addOnCommands().add("Echo", [&program, &session](std::string const& command) {
-        std::string const error = session.callAddOn("Echo", [&] {
+    session.addOnCommands().add("Echo", [&program, &session](const std::string& command) {
+        const std::string error = session.callAddOn("Echo", [&] {
             if (command.starts_with("throw")) {
                 session.locks().start(nullptr);
                 session.drawing().suspend();
                 throw std::runtime_error(command);
             }
         });
-        if (!error.empty() || command.starts_with("refuse"))
+        if (!error.empty() || command.starts_with("refuse")) {
             return std::optional<std::string>("Echo error:\n" + command);
+        }
         program.recorder().recordAddOnCommand("Echo", command);
         return std::optional<std::string>();
     });
@@ -139,7 +150,7 @@ public:
         addEcho(m_host.program);
         m_host.session.openData({"data"});
         m_host.program.recorder().start();
-        Frame const& frame = *m_host.session.page().active();
+        const Frame& frame = *m_host.session.page().active();
         m_plotType = frame.plotType;
         m_view = frame.view;
         m_style = frame.style;
@@ -149,7 +160,7 @@ public:
     // Frames are counted for ever, so that those of a macro cannot be taken back.
     bool canBeRenewed() {
         return std::none_of(recorded().begin(), recorded().end(),
-                            [](std::string const& line) { return line.starts_with("$!FRAME"); });
+                            [](const std::string& line) { return line.starts_with("$!FRAME"); });
     }
 
     void renew() {
@@ -169,12 +180,12 @@ public:
     // False when the macro fails.
     bool play(Macros& macros) {
         m_host.program.macros().openWith(
-            [&](std::string const& name) { return macros.open(name); });
+            [&](const std::string& name) { return macros.open(name); });
         std::istringstream text(macros.main());
         bool succeeded = true;
         try {
             m_host.program.macros().play(text, "main", folder);
-        } catch (MacroError const& error) {
+        } catch (const MacroError& error) {
             checkError(error, macros);
             succeeded = false;
         }
@@ -185,13 +196,13 @@ public:
         return succeeded;
     }
 
-    std::vector<std::string> const& recorded() { return m_host.program.recorder().lines(); }
+    const std::vector<std::string>& recorded() { return m_host.program.recorder().lines(); }
 
     bool showsTheSameAs(FuzzedHost& other) {
-        auto const& mine = m_host.session.page().frames();
-        auto const& others = other.m_host.session.page().frames();
+        const auto& mine = m_host.session.page().frames();
+        const auto& others = other.m_host.session.page().frames();
         return std::equal(mine.begin(), mine.end(), others.begin(), others.end(),
-                          [](auto const& a, auto const& b) {
+                          [](const auto& a, const auto& b) {
                               return a->id() == b->id() && a->view == b->view &&
                                      a->style == b->style && a->placement == b->placement &&
                                      a->plotType == b->plotType &&
@@ -208,35 +219,38 @@ private:
 };
 
 // What add-ons and variables put into a line may make it longer than a macro can hold.
-bool fitsIntoMacro(std::vector<std::string> const& lines) {
+bool fitsIntoMacro(const std::vector<std::string>& lines) {
     return std::all_of(lines.begin(), lines.end(),
-                       [](std::string const& line) { return line.size() <= 1U << 20U; });
+                       [](const std::string& line) { return line.size() <= 1U << 20U; });
 }
 
-std::string joined(std::vector<std::string> const& lines) {
+std::string joined(const std::vector<std::string>& lines) {
     std::string text;
-    for (std::string const& line : lines)
+    for (const std::string& line : lines) {
         text += line + '\n';
+    }
     return text;
 }
 
 FuzzedHost& renewed(std::unique_ptr<FuzzedHost>& host) {
-    if (host && host->canBeRenewed())
+    if (host && host->canBeRenewed()) {
         host->renew();
-    else
+    } else {
         host = std::make_unique<FuzzedHost>();
+    }
     return *host;
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static std::unique_ptr<FuzzedHost> hosts[2];
-    Macros macros(withoutAbsoluteNames(std::string(reinterpret_cast<char const*>(data), size)));
+    Macros macros(withoutAbsoluteNames(std::string(reinterpret_cast<const char*>(data), size)));
     FuzzedHost& first = renewed(hosts[0]);
     first.play(macros);
-    if (first.recorded().empty() || !fitsIntoMacro(first.recorded()))
+    if (first.recorded().empty() || !fitsIntoMacro(first.recorded())) {
         return 0;
+    }
     Macros record(joined(first.recorded()));
     FuzzedHost& second = renewed(hosts[1]);
     require(second.play(record), "what was recorded can be played");

@@ -7,9 +7,10 @@
 namespace corvane::fuzz {
 
 // Ends the program, so that the fuzzer keeps the bytes that led here.
-inline void require(bool holds, char const* what) {
-    if (holds)
+inline void require(bool holds, const char* what) {
+    if (holds) {
         return;
+    }
     std::fprintf(stderr, "does not hold: %s\n", what);
     std::abort();
 }

@@ -4,6 +4,7 @@
 #include "host/scene/SceneRenderer.h"
 #include "tests/cases/FlightCases.h"
 #include "tests/golden/GoldenPicture.h"
+#include "tests/support/Folders.h"
 
 #include <gtest/gtest.h>
 
@@ -29,8 +30,7 @@ host::View3D viewOf(const corutiltools::View& key, const host::Vec3& centre) {
 TEST(FlightPicture, keyViewsOfATiltedOrbit) {
     host::Page page;
     host::Frame& frame = page.createFrame({0.0, 0.0, 8.0, 4.5});
-    frame.attachData(
-        scene::DataReaders().read({std::string(CORVANE_SOURCE_DIR) + "/examples/wake/wake.pvd"}));
+    frame.attachData(scene::DataReaders().read({sourceFile("examples/wake/wake.pvd")}));
     frame.style.isoSurfaces[0] = {true, "Q", 0.25, false, {0.3, 0.5, 0.8}, 1.0};
     scene::SceneRenderer renderer;
     int number = 0;

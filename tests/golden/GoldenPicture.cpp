@@ -27,10 +27,12 @@ std::string writeResult(const std::string& name, const std::string& kind,
 /// The differences of all channels, four times as strong as they are.
 host::Picture differencePicture(const host::Picture& a, const host::Picture& b) {
     host::Picture result = a;
-    for (std::size_t i = 0; i < a.rgba.size(); ++i)
-        if (i % 4 != 3)
+    for (std::size_t i = 0; i < a.rgba.size(); ++i) {
+        if (i % 4 != 3) {
             result.rgba[i] =
                 static_cast<std::uint8_t>(std::min(255, 4 * std::abs(a.rgba[i] - b.rgba[i])));
+        }
+    }
     return result;
 }
 
@@ -52,19 +54,22 @@ PictureDifference difference(const host::Picture& a, const host::Picture& b) {
 testing::AssertionResult matchesGolden(const std::string& name, const host::Picture& picture,
                                        const GoldenLimits& limits) {
     const std::string golden = std::string(CORVANE_GOLDEN_PICTURES) + "/" + name + ".png";
-    if (!std::filesystem::exists(golden))
+    if (!std::filesystem::exists(golden)) {
         return testing::AssertionFailure()
                << "there is no picture " << golden << " to compare with; a candidate is "
                << writeResult(name, "candidate", picture);
+    }
     const host::Picture expected = readPng(golden);
-    if (expected.width != picture.width || expected.height != picture.height)
+    if (expected.width != picture.width || expected.height != picture.height) {
         return testing::AssertionFailure()
                << golden << " has " << expected.width << " x " << expected.height
                << " pixels, the picture " << picture.width << " x " << picture.height << "; see "
                << writeResult(name, "actual", picture);
+    }
     const PictureDifference found = difference(expected, picture);
-    if (found.worst <= limits.worst && found.mean <= limits.mean)
+    if (found.worst <= limits.worst && found.mean <= limits.mean) {
         return testing::AssertionSuccess();
+    }
     return testing::AssertionFailure()
            << "worst pixel " << found.worst << " (limit " << limits.worst << "), mean "
            << found.mean << " (limit " << limits.mean << ")\n  expected:   " << golden

@@ -12,8 +12,9 @@ namespace {
 
 host::Picture grayPicture(int width, int height, std::uint8_t gray) {
     host::Picture picture{width, height, {}};
-    for (int i = 0; i < width * height; ++i)
+    for (int i = 0; i < width * height; ++i) {
         picture.rgba.insert(picture.rgba.end(), {gray, gray, gray, 255});
+    }
     return picture;
 }
 
@@ -22,9 +23,11 @@ host::Picture grayPicture(int width, int height, std::uint8_t gray) {
 TEST(GoldenPicture, pngFilesGiveBackWhatWasWritten) {
     const TempFolder folder;
     host::Picture picture = grayPicture(5, 3, 0);
-    for (std::size_t i = 0; i < picture.rgba.size(); ++i)
-        if (i % 4 != 3)
+    for (std::size_t i = 0; i < picture.rgba.size(); ++i) {
+        if (i % 4 != 3) {
             picture.rgba[i] = static_cast<std::uint8_t>(17 * i);
+        }
+    }
     writePng(folder.file("a.png"), picture);
     EXPECT_EQ(readPng(folder.file("a.png")), picture);
 }

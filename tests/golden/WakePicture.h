@@ -5,6 +5,7 @@
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 #include "tests/golden/GoldenPicture.h"
+#include "tests/support/Folders.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +21,7 @@ protected:
     static constexpr std::size_t body = 1;
 
     WakePicture() : frame(page.createFrame({0.0, 0.0, 8.0, 4.5})) {
-        frame.attachData(scene::DataReaders().read(
-            {std::string(CORVANE_SOURCE_DIR) + "/examples/wake/wake.pvd"}));
+        frame.attachData(scene::DataReaders().read({sourceFile("examples/wake/wake.pvd")}));
         frame.style.annotations.showAxis = false;
         frame.style.annotations.showOutline = false;
         frame.style.contour.variable = "U";

@@ -3,6 +3,7 @@
 #include "host/gui/status/ProgressStrip.h"
 #include "host/gui/view/DrawingArea.h"
 #include "tests/gui/WindowTest.h"
+#include "tests/support/Folders.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -19,10 +20,10 @@ using ::testing::HasSubstr;
 class Animation : public WindowTest {
 protected:
     void SetUp() override {
-        host::loadAddOn(session(), CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so");
+        host::loadAddOn(session(), builtAddOn());
         openData();
-        runCommand("OpenSettingsFile FileName=\"" CORVANE_SOURCE_DIR
-                   "/examples/wake/flight.keyframe\"");
+        runCommand("OpenSettingsFile FileName=\"" + sourceFile("examples/wake/flight.keyframe") +
+                   '"');
         settle();
         renderer.clear();
     }

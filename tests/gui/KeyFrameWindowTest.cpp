@@ -3,6 +3,7 @@
 #include "host/core/session/AddOnLoader.h"
 
 #include "host/gui/view/DrawingArea.h"
+#include "tests/support/Folders.h"
 
 #include <QtTest>
 #include <filesystem>
@@ -20,7 +21,7 @@ void KeyFrameWindowTest::SetUp() {
 void KeyFrameWindowTest::loadAddOn() {
     // A library stays loaded, with its dialogs and key frames: each test has one of its own.
     const std::string library = folder.file("libKeyFrameAnimation.so");
-    std::filesystem::copy_file(CORVANE_BINARY_DIR "/lib/libKeyFrameAnimation.so", library);
+    std::filesystem::copy_file(builtAddOn(), library);
     host::loadAddOn(session(), library);
 }
 

@@ -17,8 +17,9 @@ TEST(RawArrayTest, sizedArrayHoldsZeros) {
     const RawArray<int> array(3);
 
     ASSERT_EQ(array.size(), 3u);
-    for (std::size_t i = 0; i < array.size(); ++i)
+    for (std::size_t i = 0; i < array.size(); ++i) {
         EXPECT_EQ(array[i], 0);
+    }
 }
 
 TEST(RawArrayTest, appendsBehindWhatIsThere) {
@@ -34,8 +35,9 @@ TEST(RawArrayTest, appendsBehindWhatIsThere) {
 
 TEST(RawArrayTest, dataIsOneBlockInOrder) {
     RawArray<long> array;
-    for (long value = 1; value <= 100; ++value)
+    for (long value = 1; value <= 100; ++value) {
         array.append(value);
+    }
 
     const RawArray<long>& readOnly = array;
     for (std::size_t i = 0; i < array.size(); ++i) {

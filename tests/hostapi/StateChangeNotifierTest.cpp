@@ -23,8 +23,9 @@ public:
     void stateChanged(const StateChangeEventInterface& event,
                       StateChangeNotifierInterface& notifier) override {
         m_log.push_back(m_name + std::to_string(event.stateChange()));
-        if (onChange)
+        if (onChange) {
             onChange(notifier);
+        }
     }
 
     std::function<void(StateChangeNotifierInterface&)> onChange;

@@ -62,7 +62,7 @@ struct ViewName {
 };
 
 const std::vector<ViewName>& viewNames() {
-    static const std::vector<ViewName> names{{"Psi", {"ThreeDView", "PSIAngle"}},
+    const static std::vector<ViewName> names{{"Psi", {"ThreeDView", "PSIAngle"}},
                                              {"Theta", {"ThreeDView", "ThetaAngle"}},
                                              {"Alpha", {"ThreeDView", "AlphaAngle"}},
                                              {"X", {"ThreeDView", "ViewerPosition", "X"}},

@@ -27,8 +27,9 @@ inline std::string_view withoutLeadingBlanks(std::string_view text) {
 inline bool takeNumber(std::string_view& text, double& number) {
     text = withoutLeadingBlanks(text);
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || !std::isfinite(number))
+    if (error != std::errc() || !std::isfinite(number)) {
         return false;
+    }
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return text.empty() || text.front() == ' ' || text.front() == '\t';
 }
@@ -36,8 +37,9 @@ inline bool takeNumber(std::string_view& text, double& number) {
 inline std::optional<Vec3> pointFromText(std::string_view text) {
     Vec3 point;
     if (takeNumber(text, point.x) && takeNumber(text, point.y) && takeNumber(text, point.z) &&
-        withoutLeadingBlanks(text).empty())
+        withoutLeadingBlanks(text).empty()) {
         return point;
+    }
     return std::nullopt;
 }
 
@@ -48,16 +50,19 @@ inline std::optional<Vec3> pointFromText(std::string_view text) {
 /// mostListedPoints.
 inline std::optional<std::vector<Vec3>> pointsFromText(std::string_view text) {
     std::vector<Vec3> points;
-    if (detail::withoutLeadingBlanks(text).empty())
+    if (detail::withoutLeadingBlanks(text).empty()) {
         return points;
+    }
     while (points.size() < mostListedPoints) {
         const std::size_t end = text.find(';');
         const std::optional<Vec3> point = detail::pointFromText(text.substr(0, end));
-        if (!point)
+        if (!point) {
             return std::nullopt;
+        }
         points.push_back(*point);
-        if (end == std::string_view::npos)
+        if (end == std::string_view::npos) {
             return points;
+        }
         text.remove_prefix(end + 1);
     }
     return std::nullopt;

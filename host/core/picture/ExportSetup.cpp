@@ -26,7 +26,7 @@ struct Setting {
 };
 
 const std::vector<Setting>& settings() {
-    static const std::vector<Setting> all{
+    const static std::vector<Setting> all{
         {"ExportFormat",
          Kind::Integer,
          {{"AVI", ExportFormat_AVI},

@@ -20,8 +20,9 @@ public:
     explicit CopyFile(std::string path) : m_path(std::move(path)) {}
     ~CopyFile() {
         std::error_code ignored;
-        if (std::filesystem::is_regular_file(m_path, ignored))
+        if (std::filesystem::is_regular_file(m_path, ignored)) {
             std::filesystem::remove(m_path, ignored);
+        }
     }
     CopyFile(const CopyFile&) = delete;
     CopyFile& operator=(const CopyFile&) = delete;
@@ -45,8 +46,9 @@ void copyPackets(AVFormatContext& input, OutputContainer& output, const LibavChe
     const PacketHandle packet(check.made(av_packet_alloc()));
     for (;;) {
         const int code = av_read_frame(&input, packet.get());
-        if (code == AVERROR_EOF)
+        if (code == AVERROR_EOF) {
             return;
+        }
         check(code, "reading the pictures back");
         output.write(packet.get());
         av_packet_unref(packet.get());
@@ -57,8 +59,9 @@ void copyPlain(const std::string& from, const std::string& to) {
     const LibavCheck fromCheck(from);
     const LibavCheck toCheck(to);
     const InputHandle input = openInput(fromCheck);
-    if (input->nb_streams != 1)
+    if (input->nb_streams != 1) {
         fromCheck.fail("it has no pictures");
+    }
     const AVStream& stream = *input->streams[0];
     StreamShape shape;
     shape.codec = stream.codecpar;
@@ -73,8 +76,9 @@ void copyPlain(const std::string& from, const std::string& to) {
 
 bool rearrangeAsPlainMp4(const std::string& path) {
     std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored))
+    if (!std::filesystem::is_regular_file(path, ignored)) {
         return false; // a device or pipe must not be replaced by a file
+    }
     const CopyFile copy(path + ".plain");
     try {
         copyPlain(path, copy.path());

@@ -25,8 +25,9 @@ std::string errorText(int code) {
 int LibavCheck::operator()(int code, const char* action) const {
     // Taken on success too: a message must not explain the failure of a later call.
     const std::string message = takeLibavMessage();
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     const std::string detail = message.empty() ? "" : " (" + message + ")";
     fail(errorText(code) + " while " + action + detail);
 }

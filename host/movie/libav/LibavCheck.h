@@ -18,8 +18,9 @@ public:
     /// Returns the pointer unless it is null, which is how libav reports that memory ran out.
     template <typename T>
     T* made(T* pointer) const {
-        if (!pointer)
+        if (!pointer) {
             fail("there is not enough memory");
+        }
         return pointer;
     }
 

@@ -17,8 +17,9 @@ namespace {
 thread_local std::string t_message;
 
 void keepErrors(void* source, int level, const char* format, va_list arguments) {
-    if (level > AV_LOG_ERROR)
+    if (level > AV_LOG_ERROR) {
         return;
+    }
     std::array<char, 512> line{};
     int printPrefix = 0;
     av_log_format_line2(source, level, format, arguments, line.data(),

@@ -62,8 +62,9 @@ MovieFile::MovieFile(const host::MovieRequest& request, const VideoSettings& set
 std::string MovieFile::note() const {
     const int width = m_converter.frameWidth();
     const int height = m_converter.frameHeight();
-    if (width == m_width && height == m_height)
+    if (width == m_width && height == m_height) {
         return {};
+    }
     return "The pictures of the movie have " + sizeText(width, height) + " pixels instead of " +
            sizeText(m_width, m_height) +
            ", since its format takes only even sizes; the last column or row is repeated.";
@@ -75,8 +76,9 @@ void MovieFile::write(const host::Picture& picture) {
 }
 
 void MovieFile::finish() {
-    if (m_isEmpty)
+    if (m_isEmpty) {
         m_check.fail("it has no pictures");
+    }
     m_encoder.drain(m_store);
     m_container.finish();
 }

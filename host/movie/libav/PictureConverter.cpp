@@ -23,8 +23,9 @@ int roundedUp(int size, int shift) {
 
 /// Repeats the last of the pixels that a row has until the row is full.
 void repeatLastPixel(std::uint8_t* row, std::ptrdiff_t pixels, std::ptrdiff_t wanted) {
-    for (std::ptrdiff_t x = pixels; x < wanted; ++x)
+    for (std::ptrdiff_t x = pixels; x < wanted; ++x) {
         std::memcpy(row + 4 * x, row + 4 * (pixels - 1), 4);
+    }
 }
 
 } // namespace
@@ -75,8 +76,9 @@ void PictureConverter::makeScaler() {
 }
 
 void PictureConverter::placeSharedColors() {
-    if (m_kind.pixelFormat != AV_PIX_FMT_YUV420P)
+    if (m_kind.pixelFormat != AV_PIX_FMT_YUV420P) {
         return; // every pixel has a colour of its own
+    }
     // They sit where the encoders' streams say: at the left one of two, between two rows.
     set("dst_h_chr_pos", 0);
     set("dst_v_chr_pos", 128);
@@ -84,8 +86,9 @@ void PictureConverter::placeSharedColors() {
 
 void PictureConverter::chooseMatrix() {
     const AVColorSpace matrix = matrixOf(m_kind.colors, m_height);
-    if (matrix == AVCOL_SPC_RGB)
+    if (matrix == AVCOL_SPC_RGB) {
         return; // colours are moved, not calculated
+    }
     const int* coefficients =
         sws_getCoefficients(matrix == AVCOL_SPC_BT709 ? SWS_CS_ITU709 : SWS_CS_ITU601);
     const int one = 1 << 16; // of the fixed-point contrast and saturation

@@ -33,8 +33,9 @@ const LibavCheck& checkedSize(const host::MovieRequest& request, int largestSide
              check);
     }
     if (av_image_check_size(static_cast<unsigned>(request.width),
-                            static_cast<unsigned>(request.height), 0, nullptr) < 0)
+                            static_cast<unsigned>(request.height), 0, nullptr) < 0) {
         fail(request, "at most about 260 million pixels altogether", check);
+    }
     return check;
 }
 

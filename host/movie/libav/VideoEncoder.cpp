@@ -11,8 +11,9 @@ VideoEncoder::VideoEncoder(const EncoderSettings& settings, const VideoShape& sh
                            LibavCheck check)
     : m_check(std::move(check)), m_packet(m_check.made(av_packet_alloc())) {
     const AVCodec* codec = avcodec_find_encoder_by_name(settings.encoder.c_str());
-    if (!codec)
+    if (!codec) {
         m_check.fail("this libav has no encoder \"" + settings.encoder + "\"");
+    }
     m_context.reset(m_check.made(avcodec_alloc_context3(codec)));
     setShape(shape);
     setColors(settings.frames);
@@ -29,8 +30,9 @@ void VideoEncoder::setShape(const VideoShape& shape) {
     m_context->time_base = av_inv_q(shape.rate);
     m_context->gop_size = picturesPerGroup(shape.rate);
     m_context->thread_count = 0; // as many as there are cores
-    if (shape.headerApart)
+    if (shape.headerApart) {
         m_context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+    }
 }
 
 /// Players guess, and guess differently, what is not said.
@@ -40,8 +42,9 @@ void VideoEncoder::setColors(const FrameKind& frames) {
     m_context->colorspace = matrixOf(frames.colors, m_context->height);
     m_context->color_primaries = AVCOL_PRI_BT709;
     m_context->color_trc = AVCOL_TRC_BT709;
-    if (frames.pixelFormat == AV_PIX_FMT_YUV420P)
+    if (frames.pixelFormat == AV_PIX_FMT_YUV420P) {
         m_context->chroma_sample_location = AVCHROMA_LOC_LEFT;
+    }
 }
 
 void VideoEncoder::encode(AVFrame* frame, const PacketTaker& taker) {
@@ -57,8 +60,9 @@ void VideoEncoder::send(AVFrame* frame, const PacketTaker& taker) {
     m_check(avcodec_send_frame(m_context.get(), frame), "compressing a picture");
     for (;;) {
         const int code = avcodec_receive_packet(m_context.get(), m_packet.get());
-        if (code == AVERROR(EAGAIN) || code == AVERROR_EOF)
+        if (code == AVERROR(EAGAIN) || code == AVERROR_EOF) {
             return;
+        }
         m_check(code, "compressing a picture");
         m_packet->duration = 1;
         taker(m_packet.get());
@@ -68,8 +72,9 @@ void VideoEncoder::send(AVFrame* frame, const PacketTaker& taker) {
 
 const EncoderSettings& availableEncoder(const VideoSettings& settings, const LibavCheck& check) {
     for (const EncoderSettings& encoder : settings.encoders) {
-        if (avcodec_find_encoder_by_name(encoder.encoder.c_str()))
+        if (avcodec_find_encoder_by_name(encoder.encoder.c_str())) {
             return encoder;
+        }
     }
     check.fail("this libav has no encoder \"" + settings.encoders.front().encoder +
                "\"; install a libav that has it");

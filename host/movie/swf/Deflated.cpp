@@ -14,8 +14,9 @@ std::vector<std::uint8_t> deflated(const std::vector<std::uint8_t>& bytes,
     std::vector<std::uint8_t> result(size);
     // With room for the largest result it can fail for want of memory alone.
     if (compress2(result.data(), &size, bytes.data(), static_cast<uLong>(bytes.size()), effort) !=
-        Z_OK)
+        Z_OK) {
         throw std::bad_alloc();
+    }
     result.resize(size);
     return result;
 }

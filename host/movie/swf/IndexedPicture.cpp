@@ -33,10 +33,12 @@ std::optional<IndexedPicture> exactlyIndexed(const host::Picture& picture) {
         const std::uint32_t key = color[0] | color[1] << 8U | color[2] << 16U;
         const auto next = static_cast<std::uint8_t>(result.palette.size());
         const auto [entry, isNew] = known.try_emplace(key, next);
-        if (isNew && result.palette.size() == mostColors)
+        if (isNew && result.palette.size() == mostColors) {
             return std::nullopt;
-        if (isNew)
+        }
+        if (isNew) {
             result.palette.push_back(color);
+        }
         result.indices.push_back(entry->second);
     }
     return result;
@@ -71,19 +73,22 @@ IndexedPicture nearlyIndexed(const host::Picture& picture) {
     IndexedPicture result;
     result.palette = reducedPalette(groups, mostColors);
     std::vector<std::uint8_t> indexOfCell(cells);
-    for (const ColorGroup& group : groups)
+    for (const ColorGroup& group : groups) {
         indexOfCell[group.cell] = group.index;
+    }
     result.indices.reserve(pixelsOf(picture));
-    for (std::size_t pixel = 0; pixel < pixelsOf(picture); ++pixel)
+    for (std::size_t pixel = 0; pixel < pixelsOf(picture); ++pixel) {
         result.indices.push_back(indexOfCell[cellOf(colorAt(picture, pixel))]);
+    }
     return result;
 }
 
 } // namespace
 
 IndexedPicture indexed(const host::Picture& picture) {
-    if (auto exact = exactlyIndexed(picture))
+    if (auto exact = exactlyIndexed(picture)) {
         return *std::move(exact);
+    }
     return nearlyIndexed(picture);
 }
 

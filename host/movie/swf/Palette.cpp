@@ -25,11 +25,13 @@ Part measured(Groups first, Groups last) {
     double pixels = 0.0;
     for (auto group = first; group != last; ++group) {
         pixels += static_cast<double>(group->pixels);
-        for (std::size_t i = 0; i < 3; ++i)
+        for (std::size_t i = 0; i < 3; ++i) {
             part.mean[i] += static_cast<double>(group->sums[i]);
+        }
     }
-    for (double& mean : part.mean)
+    for (double& mean : part.mean) {
         mean /= pixels;
+    }
     for (auto group = first; group != last; ++group) {
         for (std::size_t i = 0; i < 3; ++i) {
             const double distance = group->mean(i) - part.mean[i];
@@ -54,8 +56,9 @@ bool divideWorst(std::vector<Part>& parts) {
         std::max_element(parts.begin(), parts.end(),
                          [](const Part& a, const Part& b) { return a.error() < b.error(); });
     const Groups middle = cut(*worst);
-    if (middle == worst->first || middle == worst->last)
+    if (middle == worst->first || middle == worst->last) {
         return false;
+    }
     const Part right = measured(middle, worst->last);
     *worst = measured(worst->first, middle);
     parts.push_back(right);
@@ -64,8 +67,9 @@ bool divideWorst(std::vector<Part>& parts) {
 
 PaletteColor rounded(const std::array<double, 3>& color) {
     PaletteColor result{};
-    for (std::size_t i = 0; i < 3; ++i)
+    for (std::size_t i = 0; i < 3; ++i) {
         result[i] = static_cast<std::uint8_t>(std::lround(color[i]));
+    }
     return result;
 }
 
@@ -73,18 +77,21 @@ PaletteColor rounded(const std::array<double, 3>& color) {
 
 void ColorGroup::add(const PaletteColor& color) {
     ++pixels;
-    for (std::size_t i = 0; i < 3; ++i)
+    for (std::size_t i = 0; i < 3; ++i) {
         sums[i] += color[i];
+    }
 }
 
 std::vector<PaletteColor> reducedPalette(std::vector<ColorGroup>& groups, std::size_t mostColors) {
     std::vector<Part> parts{measured(groups.begin(), groups.end())};
-    while (parts.size() < mostColors && divideWorst(parts))
+    while (parts.size() < mostColors && divideWorst(parts)) {
         continue;
+    }
     std::vector<PaletteColor> palette;
     for (const Part& part : parts) {
-        for (auto group = part.first; group != part.last; ++group)
+        for (auto group = part.first; group != part.last; ++group) {
             group->index = static_cast<std::uint8_t>(palette.size());
+        }
         palette.push_back(rounded(part.mean));
     }
     return palette;

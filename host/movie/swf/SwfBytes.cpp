@@ -69,16 +69,18 @@ void SwfBytes::tag(unsigned code, const std::vector<std::uint8_t>& body) {
     // Any tag may have the long header, and players want it on bitmaps.
     constexpr unsigned longHeader = 63;
     u16(code << 6U | (body.empty() ? 0U : longHeader));
-    if (body.empty())
+    if (body.empty()) {
         return;
+    }
     u32(static_cast<std::uint32_t>(body.size()));
     append(body);
 }
 
 unsigned signedBits(int number) {
     unsigned count = 1;
-    for (auto rest = static_cast<unsigned>(number); rest != 0; rest >>= 1U)
+    for (auto rest = static_cast<unsigned>(number); rest != 0; rest >>= 1U) {
         ++count;
+    }
     return count;
 }
 

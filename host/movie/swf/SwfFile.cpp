@@ -105,9 +105,10 @@ std::vector<std::uint8_t> SwfFile::header() const {
 }
 
 void SwfFile::add(const SwfBitmap& bitmap) {
-    if (m_frames == mostFrames)
+    if (m_frames == mostFrames) {
         m_check.fail("a Flash movie holds at most " + std::to_string(mostFrames) +
                      " pictures; choose another format");
+    }
     const unsigned bitmapId = 1 + idsOfFrame * m_frames;
     const unsigned shapeId = bitmapId + 1;
     SwfBytes definition;
@@ -124,8 +125,9 @@ void SwfFile::add(const SwfBitmap& bitmap) {
 
 void SwfFile::append(const std::vector<std::uint8_t>& bytes) {
     constexpr std::uint64_t spaceForTheEnd = 2;
-    if (m_size + bytes.size() + spaceForTheEnd > std::numeric_limits<std::uint32_t>::max())
+    if (m_size + bytes.size() + spaceForTheEnd > std::numeric_limits<std::uint32_t>::max()) {
         m_check.fail("a Flash movie holds at most 4 GB; choose another format or image type");
+    }
     m_file.write(bytes);
     m_size += bytes.size();
 }

@@ -17,9 +17,10 @@ constexpr int largestSide = 65500;
 /// The frame rate of SWF files, in steps of 1/256.
 unsigned rateOf(const host::MovieRequest& request, const LibavCheck& check) {
     const double rate = std::round(request.framesPerSecond * 256.0);
-    if (rate < 1.0)
+    if (rate < 1.0) {
         check.fail("its speed would be " + std::to_string(request.framesPerSecond) +
                    " frames per second; Flash movies take 1/256 (0.0039) and more");
+    }
     return static_cast<unsigned>(rate);
 }
 
@@ -40,8 +41,9 @@ void SwfMovie::write(const host::Picture& picture) {
 
 void SwfMovie::finish() {
     m_images->drain(m_store);
-    if (m_file.frames() == 0)
+    if (m_file.frames() == 0) {
         m_check.fail("it has no pictures");
+    }
     m_file.finish();
 }
 

@@ -19,12 +19,14 @@ std::size_t storedWidth(const host::Picture& picture) {
 std::vector<std::uint8_t> tableAndPixels(const IndexedPicture& picture, std::size_t width,
                                          std::size_t stored) {
     SwfBytes bytes;
-    for (const PaletteColor& color : picture.palette)
+    for (const PaletteColor& color : picture.palette) {
         bytes.append(color.data(), color.size());
+    }
     for (std::size_t at = 0; at < picture.indices.size(); at += width) {
         bytes.append(picture.indices.data() + at, width);
-        for (std::size_t filled = width; filled < stored; ++filled)
+        for (std::size_t filled = width; filled < stored; ++filled) {
             bytes.u8(picture.indices[at + width - 1]);
+        }
     }
     return bytes.bytes();
 }

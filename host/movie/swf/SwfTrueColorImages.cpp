@@ -12,8 +12,9 @@ namespace {
 std::vector<std::uint8_t> pixelsOf(const host::Picture& picture) {
     std::vector<std::uint8_t> pixels(picture.rgba.size());
     for (std::size_t i = 0; i + 3 < pixels.size(); i += 4) {
-        for (std::size_t channel = 0; channel < 3; ++channel)
+        for (std::size_t channel = 0; channel < 3; ++channel) {
             pixels[i + channel + 1] = picture.rgba[i + channel];
+        }
     }
     return pixels;
 }

@@ -6,8 +6,9 @@
 namespace corvane::scene {
 
 void Prefetcher::arrive(const PictureContent& content) {
-    if (content.zones == m_zones)
+    if (content.zones == m_zones) {
         return;
+    }
     m_geometry.makeWay(this);
     m_zones = content.zones;
     m_wanted.reset();
@@ -16,14 +17,17 @@ void Prefetcher::arrive(const PictureContent& content) {
 void Prefetcher::lookAhead(const host::FrameStyle& style, std::shared_ptr<const SceneDataSet> data,
                            double solutionTime, const PictureContent& shown) {
     move(*data, solutionTime);
-    if (!m_next)
+    if (!m_next) {
         return;
+    }
     const PictureContent next = contentAt(style, *data, *m_next);
     Wanted wanted{{}, next.streams};
-    for (const PlotRequest& request : next.plots)
+    for (const PlotRequest& request : next.plots) {
         wanted.plots.push_back(request.recipe);
-    if (m_wanted == wanted)
+    }
+    if (m_wanted == wanted) {
         return;
+    }
     m_geometry.prepare(this, std::move(data), next, shown);
     m_wanted = std::move(wanted);
 }
@@ -38,9 +42,10 @@ void Prefetcher::leave() {
 
 void Prefetcher::move(const SceneDataSet& data, double solutionTime) {
     const std::optional<double> before = std::exchange(m_time, solutionTime);
-    if (before && *before != solutionTime)
+    if (before && *before != solutionTime) {
         m_next =
             solutionTime > *before ? timeAfter(data, solutionTime) : timeBefore(data, solutionTime);
+    }
 }
 
 } // namespace corvane::scene

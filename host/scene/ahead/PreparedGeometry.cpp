@@ -16,8 +16,9 @@ std::size_t bytesOf(const PreparedGeometry::Polygons& polygons) {
 
 std::vector<MeshId> meshesOf(const PictureContent& content, const SceneDataSet& data) {
     std::vector<MeshId> meshes;
-    for (const int zone : content.zones)
+    for (const int zone : content.zones) {
         meshes.push_back(data.meshId(zone));
+    }
     return meshes;
 }
 
@@ -38,16 +39,18 @@ PreparedGeometry::PreparedGeometry(std::size_t budget, std::shared_ptr<SceneStat
 
 PreparedGeometry::Polygons PreparedGeometry::plot(const PlotRequest& request,
                                                   const SceneDataSet& data) {
-    if (m_plots.has(request.recipe))
+    if (m_plots.has(request.recipe)) {
         return build(request, data);
+    }
     const std::lock_guard lock(m_ahead.meshMutex());
     return build(request, data);
 }
 
 PreparedGeometry::Streams PreparedGeometry::streams(const StreamRequest& request,
                                                     const SceneDataSet& data) {
-    if (hasStreams(request))
+    if (hasStreams(request)) {
         return buildStreams(request, data);
+    }
     const std::lock_guard lock(m_ahead.meshMutex());
     return buildStreams(request, data);
 }
@@ -56,11 +59,14 @@ void PreparedGeometry::prepare(const void* owner, std::shared_ptr<const SceneDat
                                const PictureContent& next, const PictureContent& shown) {
     const std::vector<MeshId> inUse = meshesOf(shown, *data);
     ReadAhead::Steps steps;
-    for (const PlotRequest& request : next.plots)
-        if (!hasAnyOf(inUse, {request.recipe.mesh}))
+    for (const PlotRequest& request : next.plots) {
+        if (!hasAnyOf(inUse, {request.recipe.mesh})) {
             steps.emplace_back([this, data, request] { build(request, *data); });
-    if (next.streams && !hasAnyOf(inUse, next.streams->recipe.meshes))
+        }
+    }
+    if (next.streams && !hasAnyOf(inUse, next.streams->recipe.meshes)) {
         steps.emplace_back([this, data, request = *next.streams] { buildStreams(request, *data); });
+    }
     m_ahead.start(owner, std::move(steps));
 }
 
@@ -91,8 +97,9 @@ PreparedGeometry::Polygons PreparedGeometry::trace(const StreamRequest& request,
     return m_traces.get(request.recipe, [&] {
         const VtkMessages silenced;
         std::vector<vtkSmartPointer<vtkDataSet>> meshes;
-        for (const int zone : request.zones)
+        for (const int zone : request.zones) {
             meshes.push_back(data.mesh(zone));
+        }
         ++m_statistics->streamRuns;
         return traceStreams(request.recipe, meshes);
     });
@@ -101,8 +108,9 @@ PreparedGeometry::Polygons PreparedGeometry::trace(const StreamRequest& request,
 PreparedGeometry::Streams PreparedGeometry::buildStreams(const StreamRequest& request,
                                                          const SceneDataSet& data) {
     const Polygons traces = trace(request, data);
-    if (request.tubeRadius <= 0.0)
+    if (request.tubeRadius <= 0.0) {
         return {traces, nullptr};
+    }
     const auto tubes = m_tubes.get({request.recipe, request.tubeRadius}, [&] {
         const VtkMessages silenced;
         ++m_statistics->tubeRuns;

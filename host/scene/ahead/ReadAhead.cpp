@@ -11,17 +11,20 @@ ReadAhead::~ReadAhead() {
         m_mustEnd = true;
         m_changed.notify_all();
     }
-    if (m_thread.joinable())
+    if (m_thread.joinable()) {
         m_thread.join();
+    }
 }
 
 void ReadAhead::start(const void* owner, Steps steps) {
     const std::lock_guard lock(m_mutex);
     m_waiting.remove_if([owner](const Work& work) { return work.owner == owner; });
-    if (!steps.empty())
+    if (!steps.empty()) {
         m_waiting.push_back({owner, std::move(steps)});
-    if (!m_thread.joinable())
+    }
+    if (!m_thread.joinable()) {
         m_thread = std::thread(&ReadAhead::work, this);
+    }
     m_changed.notify_all();
 }
 
@@ -46,14 +49,16 @@ std::function<void()> ReadAhead::nextStep() {
     m_isRunning = false;
     m_changed.notify_all();
     m_changed.wait(lock, [this] { return m_mustEnd || !m_waiting.empty(); });
-    if (m_mustEnd)
+    if (m_mustEnd) {
         return {};
+    }
     Work& work = m_waiting.front();
     m_owner = work.owner;
     m_isRunning = true;
     std::function<void()> step = std::move(work.steps[work.next]);
-    if (++work.next == work.steps.size())
+    if (++work.next == work.steps.size()) {
         m_waiting.pop_front();
+    }
     return step;
 }
 

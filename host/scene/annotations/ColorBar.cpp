@@ -51,8 +51,9 @@ ColorBar::ColorBar(vtkRenderer& renderer) : m_renderer(renderer) {
 void ColorBar::hide() {
     m_quads.actor()->SetVisibility(0);
     m_title.hide();
-    for (const auto& item : m_labels)
+    for (const auto& item : m_labels) {
         item->hide();
+    }
 }
 
 void ColorBar::show(const ContourColors& colors, const std::string& title, const Color& textColor,
@@ -68,8 +69,9 @@ void ColorBar::show(const ContourColors& colors, const std::string& title, const
     layout.maximum = colors.range().maximum;
     layout.ticks = roundTicks(layout.minimum, layout.maximum, maximumTicks);
     double labelWidth = 0.0;
-    for (const Tick& tick : layout.ticks)
+    for (const Tick& tick : layout.ticks) {
         labelWidth = std::max(labelWidth, TextItem::widthOf(tick.label, appearance));
+    }
 
     const double edge = area.offsetX() + area.full.width - size(marginPart);
     layout.line = std::max(1, size(linePart));
@@ -81,9 +83,10 @@ void ColorBar::show(const ContourColors& colors, const std::string& title, const
     layout.top = layout.bottom + size(stripHeightPart);
 
     drawStrip(layout, colors, textColor);
-    for (std::size_t i = 0; i < layout.ticks.size(); ++i)
+    for (std::size_t i = 0; i < layout.ticks.size(); ++i) {
         label(i).show(layout.ticks[i].label, layout.labelLeft,
                       layout.heightOf(layout.ticks[i].value), appearance);
+    }
 
     TextAppearance titleAppearance{std::max(1, size(titleSizePart)), textColor};
     const bool fits = layout.left + TextItem::widthOf(title, titleAppearance) <= edge;

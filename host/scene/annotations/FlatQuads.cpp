@@ -28,8 +28,9 @@ void FlatQuads::add(double left, double bottom, double right, double top,
         m_points->InsertNextPoint(left, bottom, 0.0), m_points->InsertNextPoint(right, bottom, 0.0),
         m_points->InsertNextPoint(right, top, 0.0), m_points->InsertNextPoint(left, top, 0.0)};
     m_cells->InsertNextCell(4, corners.data());
-    for (std::size_t i = 0; i < corners.size(); ++i)
+    for (std::size_t i = 0; i < corners.size(); ++i) {
         m_colors->InsertNextTuple3(255.0 * color.red, 255.0 * color.green, 255.0 * color.blue);
+    }
 }
 
 void FlatQuads::finish() {

@@ -31,10 +31,12 @@ constexpr double halfExtent = 1.45;    ///< of what the corner shows
 
 /// The source's arrow lies along x.
 void turnToAxis(vtkActor& actor, int axis) {
-    if (axis == 1)
+    if (axis == 1) {
         actor.RotateZ(90.0);
-    if (axis == 2)
+    }
+    if (axis == 2) {
         actor.RotateY(-90.0);
+    }
 }
 
 } // namespace

@@ -40,8 +40,9 @@ void TextItem::hide() {
 }
 
 double TextItem::widthOf(const std::string& text, const TextAppearance& appearance) {
-    if (text.empty())
+    if (text.empty()) {
         return 0.0;
+    }
     const vtkNew<vtkTextProperty> property;
     setAppearance(*property, appearance);
     std::array<int, 4> box{};

@@ -14,9 +14,11 @@ namespace {
 double roundStep(double extent, int steps) {
     const double rough = extent / steps;
     const double power = std::pow(10.0, std::floor(std::log10(rough)));
-    for (const double factor : {1.0, 2.0, 5.0})
-        if (factor * power >= rough * (1.0 - 1e-9))
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        if (factor * power >= rough * (1.0 - 1e-9)) {
             return factor * power;
+        }
+    }
     return 10.0 * power;
 }
 
@@ -28,8 +30,9 @@ std::string format(const char* pattern, int digits, double value) {
 
 std::string label(double value, double step, double largest) {
     const int decimals = static_cast<int>(-std::floor(std::log10(step) + 1e-9));
-    if (largest < 1e7 && decimals <= 4)
+    if (largest < 1e7 && decimals <= 4) {
         return format("%.*f", std::max(0, decimals), value);
+    }
     const int digits = static_cast<int>(std::floor(std::log10(largest) + 1e-9)) + decimals + 1;
     return format("%.*g", std::clamp(digits, 1, 15), value);
 }
@@ -39,8 +42,9 @@ std::string label(double value, double step, double largest) {
 std::vector<Tick> roundTicks(double minimum, double maximum, int maximumCount) {
     const double extent = maximum - minimum;
     const double largest = std::max(std::abs(minimum), std::abs(maximum));
-    if (!(extent > 1e-12 * largest))
+    if (!(extent > 1e-12 * largest)) {
         return {{minimum, format("%.*g", 5, minimum)}};
+    }
     const double step = roundStep(extent, maximumCount - 1);
     const double first = std::ceil(minimum / step - 1e-9);
     const double last = std::floor(maximum / step + 1e-9);

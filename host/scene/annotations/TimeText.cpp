@@ -19,9 +19,11 @@ bool isWritten(double time, int decimals) {
 
 int decimalsOf(const host::DataSet& data) {
     int decimals = 0;
-    for (const host::Zone& zone : data.zones)
-        while (decimals < mostDecimals && !isWritten(zone.solutionTime, decimals))
+    for (const host::Zone& zone : data.zones) {
+        while (decimals < mostDecimals && !isWritten(zone.solutionTime, decimals)) {
             ++decimals;
+        }
+    }
     return decimals;
 }
 

@@ -7,8 +7,9 @@ namespace {
 
 std::size_t bytesOf(const MeshCache::Parts& parts) {
     std::size_t bytes = 0;
-    for (const auto& part : *parts)
+    for (const auto& part : *parts) {
         bytes += part.mesh->GetActualMemorySize() * std::size_t{1024};
+    }
     return bytes;
 }
 

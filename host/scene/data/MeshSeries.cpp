@@ -26,10 +26,11 @@ void mergeIfStatic(MeshSeries& series) {
 } // namespace
 
 void MeshSeriesList::open(const std::string& path) {
-    if (isSeriesFile(path))
+    if (isSeriesFile(path)) {
         openList(path);
-    else
+    } else {
         openFile(path);
+    }
 }
 
 void MeshSeriesList::openList(const std::string& path) {
@@ -39,8 +40,9 @@ void MeshSeriesList::openList(const std::string& path) {
         for (const auto& step : part.steps) {
             const auto [found, isNew] =
                 sourceOfPath.emplace(step.path, static_cast<int>(m_sources.size()));
-            if (isNew)
+            if (isNew) {
                 m_sources.push_back({openMeshFile(step.path), 0});
+            }
             series.times.push_back(step.time);
             series.sourceOfTime.push_back(found->second);
         }
@@ -52,8 +54,9 @@ void MeshSeriesList::openList(const std::string& path) {
 void MeshSeriesList::openFile(const std::string& path) {
     const std::shared_ptr<const MeshFile> file = openMeshFile(path);
     MeshSeries series{std::filesystem::path(path).stem().string(), file->times(), {}};
-    if (series.times.empty())
+    if (series.times.empty()) {
         series.times.push_back(0.0);
+    }
     for (int step = 0; step < static_cast<int>(series.times.size()); ++step) {
         series.sourceOfTime.push_back(static_cast<int>(m_sources.size()));
         m_sources.push_back({file, step});

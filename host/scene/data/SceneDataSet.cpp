@@ -47,8 +47,9 @@ ValueRange SceneDataSet::rangeOf(const VariableRef& variable) const {
     const auto found = std::find_if(m_ranges.begin(), m_ranges.end(), [&](const auto& range) {
         return range.name == variable.array;
     });
-    if (found == m_ranges.end())
+    if (found == m_ranges.end()) {
         return {0.0, 0.0};
+    }
     const bool isComponent = found->components == 3 && variable.component >= 0;
     return orZero(isComponent ? found->ofComponents[static_cast<std::size_t>(variable.component)]
                               : found->whole);

@@ -53,8 +53,9 @@ public:
         const std::lock_guard lock(m_mutex);
         for (auto use = m_uses.begin(); use != m_uses.end();) {
             const Key& key = *use++;
-            if (isLikeThis(key))
+            if (isLikeThis(key)) {
                 drop(key);
+            }
         }
     }
 
@@ -73,8 +74,9 @@ private:
             m_cache.m_making.insert(key);
         }
         ~Making() {
-            if (!m_lock.owns_lock())
+            if (!m_lock.owns_lock()) {
                 m_lock.lock();
+            }
             m_cache.m_making.erase(m_key);
             m_cache.m_made.notify_all();
         }
@@ -91,8 +93,9 @@ private:
         m_uses.push_front(key);
         m_entries.insert_or_assign(key, Entry{value, bytes, m_uses.begin()});
         m_bytes += bytes;
-        while (m_bytes > m_budget && m_uses.size() > 1)
+        while (m_bytes > m_budget && m_uses.size() > 1) {
             drop(m_uses.back());
+        }
     }
 
     void drop(const Key& key) {

@@ -24,12 +24,14 @@ constexpr int lengthOfVector = -1;
 
 void addValues(ValueRange& range, vtkDataArray& array, int component) {
     std::array<double, 2> values{};
-    if (array.GetNumberOfTuples() == 0)
+    if (array.GetNumberOfTuples() == 0) {
         return;
+    }
     array.GetFiniteRange(values.data(), component);
     // Without a finite value VTK gives an inverted range.
-    if (values[0] > values[1])
+    if (values[0] > values[1]) {
         return;
+    }
     range.minimum = std::min(range.minimum, values[0]);
     range.maximum = std::max(range.maximum, values[1]);
 }
@@ -42,10 +44,13 @@ void VariableRanges::add(vtkDataSet& mesh) {
 }
 
 void VariableRanges::addArrays(vtkDataSetAttributes& attributes) {
-    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i)
-        if (auto* const array = attributes.GetArray(i))
-            if (array != attributes.GetNormals() && isVariable(*array, array->GetName()))
+    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i) {
+        if (auto* const array = attributes.GetArray(i)) {
+            if (array != attributes.GetNormals() && isVariable(*array, array->GetName())) {
                 addArray(*array);
+            }
+        }
+    }
 }
 
 void VariableRanges::addArray(vtkDataArray& array) {
@@ -53,13 +58,16 @@ void VariableRanges::addArray(vtkDataArray& array) {
     const int components = array.GetNumberOfComponents();
     auto found = std::find_if(m_ranges.begin(), m_ranges.end(),
                               [&](const auto& range) { return range.name == name; });
-    if (found == m_ranges.end())
+    if (found == m_ranges.end()) {
         found = m_ranges.insert(found, {name, components, {}, {}});
-    if (found->components != components)
+    }
+    if (found->components != components) {
         return;
+    }
     addValues(found->whole, array, components == 1 ? 0 : lengthOfVector);
-    for (int c = 0; components == 3 && c < 3; ++c)
+    for (int c = 0; components == 3 && c < 3; ++c) {
         addValues(found->ofComponents[static_cast<std::size_t>(c)], array, c);
+    }
 }
 
 } // namespace corvane::scene

@@ -28,8 +28,9 @@ class CgnsContents {
 public:
     explicit CgnsContents(const std::string& path) : m_path(path) {
         int kind = 0;
-        if (cg_is_cgns(path.c_str(), &kind) != CG_OK)
+        if (cg_is_cgns(path.c_str(), &kind) != CG_OK) {
             throw readError(path, "it is no CGNS file, or a damaged one");
+        }
         check(cg_open(path.c_str(), CG_MODE_READ, &m_file));
     }
     ~CgnsContents() { cg_close(m_file); }
@@ -39,10 +40,13 @@ public:
     /// Of all solutions, and of the vectors that VTK makes of three of them.
     std::set<std::string> variables() const {
         std::set<std::string> names;
-        for (int base = 1; base <= count(cg_nbases); ++base)
-            for (int zone = 1; zone <= count(cg_nzones, base); ++zone)
-                for (int solution = 1; solution <= count(cg_nsols, base, zone); ++solution)
+        for (int base = 1; base <= count(cg_nbases); ++base) {
+            for (int zone = 1; zone <= count(cg_nzones, base); ++zone) {
+                for (int solution = 1; solution <= count(cg_nsols, base, zone); ++solution) {
                     addVariables(names, base, zone, solution);
+                }
+            }
+        }
         return names;
     }
 
@@ -69,8 +73,9 @@ private:
     }
 
     void check(int code) const {
-        if (code != CG_OK)
+        if (code != CG_OK) {
             throw readError(m_path, std::string("it is damaged (") + cg_get_error() + ")");
+        }
     }
 
     std::string m_path;

@@ -38,8 +38,9 @@ public:
 
 private:
     vtkSmartPointer<vtkDataObject> readObject() const override {
-        if constexpr (std::is_same_v<vtkXMLGenericDataObjectReader, Reader>)
+        if constexpr (std::is_same_v<vtkXMLGenericDataObjectReader, Reader>) {
             checkParallelXml(path());
+        }
         const vtkNew<Reader> reader;
         reader->SetFileName(path().c_str());
         if constexpr (std::is_base_of_v<vtkDataReader, Reader>) {
@@ -50,9 +51,10 @@ private:
         }
         reader->Update();
         vtkDataObject* const object = reader->GetOutputDataObject(0);
-        if constexpr (std::is_same_v<vtkOBJReader, Reader>)
+        if constexpr (std::is_same_v<vtkOBJReader, Reader>) {
             // It numbers groups and materials, which are no quantities.
             object->GetAttributes(vtkDataObject::CELL)->Initialize();
+        }
         return object;
     }
 
@@ -80,7 +82,7 @@ constexpr Opener openCgns = openAs<CgnsFile>;
 constexpr std::string_view seriesExtension = ".pvd";
 
 const std::map<std::string, Opener, std::less<>>& openers() {
-    static const std::map<std::string, Opener, std::less<>> table{
+    const static std::map<std::string, Opener, std::less<>> table{
         {".vtu", openXml},      {".vtp", openXml},  {".vti", openXml},    {".vtr", openXml},
         {".vts", openXml},      {".vtm", openXml},  {".pvtu", openXml},   {".pvtp", openXml},
         {".pvti", openXml},     {".pvtr", openXml}, {".pvts", openXml},   {".vtk", openLegacy},
@@ -107,12 +109,15 @@ std::string firstBytesOf(const std::string& path) {
 
 Opener openerByContent(const std::string& path) {
     const std::string start = firstBytesOf(path);
-    if (start.find("<VTKFile") != std::string::npos)
+    if (start.find("<VTKFile") != std::string::npos) {
         return openXml;
-    if (start.starts_with("# vtk DataFile"))
+    }
+    if (start.starts_with("# vtk DataFile")) {
         return openLegacy;
-    if (start.starts_with("ply\n") || start.starts_with("ply\r"))
+    }
+    if (start.starts_with("ply\n") || start.starts_with("ply\r")) {
         return openPly;
+    }
     return nullptr;
 }
 
@@ -125,20 +130,24 @@ bool isEmptyMarker(const std::string& path) {
 
 std::string knownExtensions() {
     std::string text(seriesExtension);
-    for (const auto& [extension, opener] : openers())
+    for (const auto& [extension, opener] : openers()) {
         text += " " + extension;
+    }
     return text;
 }
 
 } // namespace
 
 std::unique_ptr<MeshFile> openMeshFile(const std::string& path) {
-    if (!isEmptyMarker(path))
+    if (!isEmptyMarker(path)) {
         checkReadable(path);
-    if (const auto found = openers().find(extensionOf(path)); found != openers().end())
+    }
+    if (const auto found = openers().find(extensionOf(path)); found != openers().end()) {
         return found->second(path);
-    if (const Opener opener = openerByContent(path))
+    }
+    if (const Opener opener = openerByContent(path)) {
         return opener(path);
+    }
     throw readError(path, "its kind is unknown; known are " + knownExtensions());
 }
 

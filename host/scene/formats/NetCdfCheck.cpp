@@ -31,9 +31,10 @@ public:
 
     int id() const { return m_id; }
     void check(int code) const {
-        if (code != NC_NOERR)
+        if (code != NC_NOERR) {
             throw readError(m_path, std::string("it is no Exodus II file, or a damaged one (") +
                                         nc_strerror(code) + ")");
+        }
     }
 
 private:
@@ -60,8 +61,9 @@ public:
         addAttributes(NC_GLOBAL, attributes);
         m_length += list;
         m_length += m_count;
-        for (int variable = 0; variable < variables; ++variable)
+        for (int variable = 0; variable < variables; ++variable) {
             addVariable(variable);
+        }
         return m_length + m_recordCount * m_recordLength;
     }
 
@@ -80,8 +82,9 @@ private:
             addName(name.data());
             m_length += m_count;
             m_sizes.push_back(size);
-            if (dimension == m_recordDimension)
+            if (dimension == m_recordDimension) {
                 m_recordCount = size;
+            }
         }
     }
 
@@ -115,10 +118,11 @@ private:
         bool isRecord = false;
         for (int i = 0; i < dimensionCount; ++i) {
             const int dimension = dimensions[static_cast<std::size_t>(i)];
-            if (dimension == m_recordDimension)
+            if (dimension == m_recordDimension) {
                 isRecord = true;
-            else
+            } else {
                 bytes *= m_sizes[static_cast<std::size_t>(dimension)];
+            }
         }
         (isRecord ? m_recordLength : m_length) += padded(bytes);
     }
@@ -147,10 +151,12 @@ void readTableOfContents(const std::string& path) {
     file.check(nc_inq(file.id(), nullptr, &variables, &attributes, nullptr));
     for (int variable = NC_GLOBAL; variable < variables; ++variable) {
         std::array<char, NC_MAX_NAME + 1> name{};
-        if (variable != NC_GLOBAL)
+        if (variable != NC_GLOBAL) {
             nc_inq_var(file.id(), variable, name.data(), nullptr, nullptr, nullptr, &attributes);
-        for (int attribute = 0; attribute < attributes; ++attribute)
+        }
+        for (int attribute = 0; attribute < attributes; ++attribute) {
             nc_inq_attname(file.id(), variable, attribute, name.data());
+        }
     }
 }
 
@@ -158,8 +164,9 @@ void readTableOfContents(const std::string& path) {
 /// contents.
 void expectReadableContents(const std::string& path) {
     constexpr unsigned patience = 60;
-    if (!survives([&] { readTableOfContents(path); }, patience))
+    if (!survives([&] { readTableOfContents(path); }, patience)) {
         throw readError(path, "it is damaged: what it tells of its contents makes no sense");
+    }
 }
 
 bool isConnectivity(const NetCdfFile& file, int variable) {
@@ -191,15 +198,17 @@ bool hasSoundElements(const NetCdfFile& file) {
     file.check(nc_inq_dimlen(file.id(), nodes, &nodeCount));
     file.check(nc_inq_nvars(file.id(), &variables));
     for (int variable = 0; variable < variables; ++variable) {
-        if (!isConnectivity(file, variable))
+        if (!isConnectivity(file, variable)) {
             continue;
+        }
         std::vector<long long> ids(valueCount(file, variable));
         file.check(nc_get_var_longlong(file.id(), variable, ids.data()));
         const auto isNode = [nodeCount](long long id) {
             return id >= 1 && static_cast<std::size_t>(id) <= nodeCount;
         };
-        if (!std::all_of(ids.begin(), ids.end(), isNode))
+        if (!std::all_of(ids.begin(), ids.end(), isNode)) {
             return false;
+        }
     }
     return true;
 }
@@ -216,10 +225,12 @@ void checkExodus(const std::string& path) {
     const bool isClassic =
         format == NC_FORMAT_CLASSIC || format == NC_FORMAT_64BIT_OFFSET || format == NC_FORMAT_CDF5;
     // The last value may be written without its padding.
-    if (isClassic && std::filesystem::file_size(path) + 3 < ClassicLength(file, format).length())
+    if (isClassic && std::filesystem::file_size(path) + 3 < ClassicLength(file, format).length()) {
         throw readError(path, "it is cut off: its last data are missing");
-    if (!hasSoundElements(file))
+    }
+    if (!hasSoundElements(file)) {
         throw readError(path, "it is damaged: elements refer to nodes that are not there");
+    }
 }
 
 } // namespace corvane::scene

@@ -48,17 +48,20 @@ void selectPatches(vtkOpenFOAMReader& reader) {
 std::string withoutBoundary(std::string name) {
     constexpr std::string_view boundary = "boundary/";
     const auto at = name.find(boundary);
-    if (at == 0 || (at != std::string::npos && name[at - 1] == '/'))
+    if (at == 0 || (at != std::string::npos && name[at - 1] == '/')) {
         name.erase(at, boundary.size());
+    }
     return name;
 }
 
 /// What the points have too is not needed twice.
 void dropCellCopies(vtkDataSet& mesh) {
     vtkCellData& cells = *mesh.GetCellData();
-    for (int i = cells.GetNumberOfArrays() - 1; i >= 0; --i)
-        if (mesh.GetPointData()->HasArray(cells.GetArrayName(i)) != 0)
+    for (int i = cells.GetNumberOfArrays() - 1; i >= 0; --i) {
+        if (mesh.GetPointData()->HasArray(cells.GetArrayName(i)) != 0) {
             cells.RemoveArray(i);
+        }
+    }
 }
 
 } // namespace
@@ -68,9 +71,10 @@ vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
     const fs::path divided = folder / "processor0";
     const bool isDivided = countTimes(divided) > countTimes(folder);
     const fs::path constant = (isDivided ? divided : folder) / "constant";
-    if (!fs::is_directory(constant))
+    if (!fs::is_directory(constant)) {
         throw readError(path(),
                         "no OpenFOAM case is around it: there is no folder " + constant.string());
+    }
 
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
     const vtkNew<vtkDummyController> controller;

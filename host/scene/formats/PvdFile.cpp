@@ -27,47 +27,58 @@ vtkSmartPointer<vtkXMLDataElement> parse(const std::string& path) {
     const VtkMessages messages;
     const auto root = vtkSmartPointer<vtkXMLDataElement>::Take(
         vtkXMLUtilities::ReadElementFromFile(path.c_str()));
-    if (messages.hasErrors())
+    if (messages.hasErrors()) {
         throw readError(path, messages.reason());
-    if (root == nullptr)
+    }
+    if (root == nullptr) {
         throw readError(path, "it is not well-formed XML");
+    }
     return root;
 }
 
 /// The elements of the list in their order.
 std::vector<vtkXMLDataElement*> entriesOf(vtkXMLDataElement& root, const std::string& path) {
     auto* const collection = root.FindNestedElementWithName("Collection");
-    if (attribute(root, "type") != "Collection" || collection == nullptr)
+    if (attribute(root, "type") != "Collection" || collection == nullptr) {
         throw readError(path, "it holds no collection of data sets");
+    }
     std::vector<vtkXMLDataElement*> entries;
-    for (int i = 0; i < collection->GetNumberOfNestedElements(); ++i)
+    for (int i = 0; i < collection->GetNumberOfNestedElements(); ++i) {
         entries.push_back(collection->GetNestedElement(i));
-    if (entries.empty())
+    }
+    if (entries.empty()) {
         throw readError(path, "its collection is empty");
+    }
     return entries;
 }
 
 PvdPart::Step stepOf(vtkXMLDataElement& entry, const std::string& path) {
     PvdPart::Step step;
     const std::string file = attribute(entry, "file");
-    if (file.empty())
+    if (file.empty()) {
         throw readError(path, "an entry names no file");
+    }
     step.path = (std::filesystem::path(path).parent_path() / file).string();
     if (!attribute(entry, "timestep").empty() &&
-        (entry.GetScalarAttribute("timestep", step.time) == 0 || !std::isfinite(step.time)))
+        (entry.GetScalarAttribute("timestep", step.time) == 0 || !std::isfinite(step.time))) {
         throw readError(path, "\"" + attribute(entry, "timestep") + "\" is not a time");
+    }
     return step;
 }
 
 void checkFilesExist(const std::vector<PvdPart>& parts, const std::string& path) {
     std::string firstMissing;
     int missing = 0;
-    for (const auto& part : parts)
-        for (const auto& step : part.steps)
-            if (!std::filesystem::exists(step.path) && missing++ == 0)
+    for (const auto& part : parts) {
+        for (const auto& step : part.steps) {
+            if (!std::filesystem::exists(step.path) && missing++ == 0) {
                 firstMissing = step.path;
-    if (missing == 0)
+            }
+        }
+    }
+    if (missing == 0) {
         return;
+    }
     const std::string others =
         missing == 1 ? "" : " and " + std::to_string(missing - 1) + " more of its files";
     throw readError(path, "it names " + firstMissing + ", which does not exist" + others);
@@ -86,8 +97,9 @@ void sortSteps(std::vector<PvdPart::Step>& steps) {
 
 std::string nameOf(const std::string& ownName, const std::string& key, const std::string& path,
                    std::size_t partCount) {
-    if (!ownName.empty())
+    if (!ownName.empty()) {
         return ownName;
+    }
     const std::string stem = std::filesystem::path(path).stem().string();
     return partCount == 1 ? stem : stem + " " + key;
 }

@@ -8,8 +8,9 @@ namespace corvane::scene {
 
 vtkSmartPointer<vtkPolyData> buildGeometry(const Recipe& recipe, vtkDataSet* mesh,
                                            SceneStatistics& statistics) {
-    if (mesh == nullptr)
+    if (mesh == nullptr) {
         return vtkSmartPointer<vtkPolyData>::New();
+    }
     // What a filter makes of odd cells is drawn as it is; it must not reach the terminal.
     const VtkMessages silenced;
     switch (recipe.kind) {

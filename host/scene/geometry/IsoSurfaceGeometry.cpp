@@ -40,8 +40,9 @@ vtkSmartPointer<vtkDataArray> scalarOf(vtkDataArray& vector, int component) {
 /// Adds the scalar to contour by, or returns false when the mesh has none.
 bool setIsoScalar(vtkDataSet& mesh, const VariableRef& variable) {
     vtkDataArray* const array = mesh.GetPointData()->GetArray(variable.array.c_str());
-    if (array == nullptr)
+    if (array == nullptr) {
         return false;
+    }
     vtkSmartPointer<vtkDataArray> scalar;
     if (array->GetNumberOfComponents() == 3) {
         scalar = scalarOf(*array, variable.component);
@@ -96,18 +97,20 @@ vtkSmartPointer<vtkPolyData> isoSurfaceOf(vtkDataSet& mesh, const std::string& v
     const auto source = withPointValues(mesh, reference.array);
     const auto copy = vtkSmartPointer<vtkDataSet>::Take(source->NewInstance());
     copy->ShallowCopy(source);
-    if (!setIsoScalar(*copy, reference))
+    if (!setIsoScalar(*copy, reference)) {
         return vtkSmartPointer<vtkPolyData>::New();
+    }
 
     // The fast ways do not carry cell arrays along, which plots may be coloured by.
     const bool hasCellArrays = copy->GetCellData()->GetNumberOfArrays() > 0;
     vtkSmartPointer<vtkPolyData> surface;
-    if (!hasCellArrays && vtkContour3DLinearGrid::CanFullyProcessDataObject(copy, isoArrayName))
+    if (!hasCellArrays && vtkContour3DLinearGrid::CanFullyProcessDataObject(copy, isoArrayName)) {
         surface = contourLinearGrid(*copy, value);
-    else if (!hasCellArrays && vtkImageData::SafeDownCast(copy) != nullptr)
+    } else if (!hasCellArrays && vtkImageData::SafeDownCast(copy) != nullptr) {
         surface = contourImage(*copy, value);
-    else
+    } else {
         surface = contourAny(*copy, value);
+    }
     surface->GetPointData()->RemoveArray(isoArrayName);
     return surface;
 }

@@ -11,8 +11,9 @@ constexpr double tubeRadiusPart = 0.0025;
 void addSurface(PictureContent& content, const host::FrameStyle& style, const MeshId& mesh,
                 int zone) {
     const auto block = static_cast<std::size_t>(mesh.block);
-    if (block >= style.surfaces.size() || !style.surfaces[block].show)
+    if (block >= style.surfaces.size() || !style.surfaces[block].show) {
         return;
+    }
     const host::SurfaceStyle& surface = style.surfaces[block];
     content.plots.push_back(
         {zone,
@@ -25,11 +26,12 @@ void addSlices(PictureContent& content, const host::FrameStyle& style, const Mes
                int zone) {
     for (int i = 0; i < host::FrameStyle::sliceCount; ++i) {
         const host::SliceStyle& slice = style.slices[static_cast<std::size_t>(i)];
-        if (slice.show)
+        if (slice.show) {
             content.plots.push_back({zone,
                                      i,
                                      {mesh, Recipe::Kind::Slice, slice.axis, slice.position, {}},
                                      {slice.useContour, slice.color, slice.opacity, false, false}});
+        }
     }
 }
 
@@ -37,12 +39,13 @@ void addIsoSurfaces(PictureContent& content, const host::FrameStyle& style, cons
                     int zone) {
     for (int i = 0; i < host::FrameStyle::isoSurfaceCount; ++i) {
         const host::IsoSurfaceStyle& surface = style.isoSurfaces[static_cast<std::size_t>(i)];
-        if (surface.show)
+        if (surface.show) {
             content.plots.push_back(
                 {zone,
                  i,
                  {mesh, Recipe::Kind::IsoSurface, 0, surface.value, surface.variable},
                  {surface.useContour, surface.color, surface.opacity}});
+        }
     }
 }
 
@@ -53,8 +56,9 @@ bool isVolume(const SceneDataSet& data, int zone) {
 
 void addStreams(PictureContent& content, const host::StreamtraceStyle& style,
                 const SceneDataSet& data) {
-    if (!style.show)
+    if (!style.show) {
         return;
+    }
     StreamRequest streams;
     std::vector<MeshId> meshes;
     for (const int zone : content.zones) {

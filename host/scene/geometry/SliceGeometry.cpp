@@ -19,8 +19,9 @@ void setNormals(vtkPolyData& slice, const std::array<double, 3>& normal) {
     normals->SetName("Normals");
     normals->SetNumberOfComponents(3);
     normals->SetNumberOfTuples(slice.GetNumberOfPoints());
-    for (int c = 0; c < 3; ++c)
+    for (int c = 0; c < 3; ++c) {
         normals->FillComponent(c, normal[static_cast<std::size_t>(c)]);
+    }
     slice.GetPointData()->SetNormals(normals);
 }
 

@@ -25,8 +25,9 @@ void add(vtkPoints& points, const Vec3& p) {
 }
 
 void addLine(vtkPoints& points, const Vec3& start, const Vec3& end, int count) {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         add(points, start + fraction(i, count) * (end - start));
+    }
 }
 
 void addPlane(vtkPoints& points, const StreamSeeds& seeds) {
@@ -38,9 +39,11 @@ void addPlane(vtkPoints& points, const StreamSeeds& seeds) {
 }
 
 void addList(vtkPoints& points, const std::string& text) {
-    if (const auto list = host::pointsFromText(text))
-        for (const Vec3& p : *list)
+    if (const auto list = host::pointsFromText(text)) {
+        for (const Vec3& p : *list) {
             add(points, p);
+        }
+    }
 }
 
 } // namespace

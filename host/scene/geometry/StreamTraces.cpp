@@ -33,12 +33,14 @@ constexpr int mostSteps = 20000;
 Meshes meshesWith(const std::string& variable, const Meshes& meshes) {
     Meshes found;
     for (const auto& mesh : meshes) {
-        if (mesh == nullptr || mesh->GetNumberOfCells() == 0)
+        if (mesh == nullptr || mesh->GetNumberOfCells() == 0) {
             continue;
+        }
         const auto withValues = withAllPointValues(*mesh);
         vtkDataArray* const vectors = withValues->GetPointData()->GetArray(variable.c_str());
-        if (vectors != nullptr && vectors->GetNumberOfComponents() == 3)
+        if (vectors != nullptr && vectors->GetNumberOfComponents() == 3) {
             found.push_back(withValues);
+        }
     }
     return found;
 }
@@ -58,12 +60,14 @@ vtkSmartPointer<vtkMultiBlockDataSet> blocksWithCommonArrays(const Meshes& meshe
     for (const auto& mesh : meshes) {
         const auto block = vtkSmartPointer<vtkDataSet>::Take(mesh->NewInstance());
         block->CopyStructure(mesh);
-        if (vtkDataArray* const ghosts = mesh->GetCellGhostArray())
+        if (vtkDataArray* const ghosts = mesh->GetCellGhostArray()) {
             block->GetCellData()->AddArray(ghosts);
+        }
         for (int i = 0; i < first.GetNumberOfArrays(); ++i) {
             vtkDataArray* const array = first.GetArray(i);
-            if (array != nullptr && array->GetName() != nullptr && haveAll(meshes, *array))
+            if (array != nullptr && array->GetName() != nullptr && haveAll(meshes, *array)) {
                 block->GetPointData()->AddArray(mesh->GetPointData()->GetArray(array->GetName()));
+            }
         }
         blocks->SetBlock(blocks->GetNumberOfBlocks(), block);
     }
@@ -72,8 +76,9 @@ vtkSmartPointer<vtkMultiBlockDataSet> blocksWithCommonArrays(const Meshes& meshe
 
 double diagonalOf(const Meshes& meshes) {
     vtkBoundingBox box;
-    for (const auto& mesh : meshes)
+    for (const auto& mesh : meshes) {
         box.AddBounds(mesh->GetBounds());
+    }
     return box.GetDiagonalLength();
 }
 
@@ -95,13 +100,15 @@ vtkSmartPointer<vtkPolyData> withoutRepeatedPoints(vtkPolyData& traces) {
         for (vtkIdType i = 0; i < count; ++i) {
             std::array<double, 3> point{};
             traces.GetPoint(points[i], point.data());
-            if (!isFinite(point) || (!kept.empty() && point == last))
+            if (!isFinite(point) || (!kept.empty() && point == last)) {
                 continue;
+            }
             kept.push_back(points[i]);
             last = point;
         }
-        if (kept.size() > 1)
+        if (kept.size() > 1) {
             lines->InsertNextCell(static_cast<vtkIdType>(kept.size()), kept.data());
+        }
     }
     // Values of whole lines, such as the reason of their end, no longer fit.
     traces.GetCellData()->Initialize();
@@ -123,8 +130,9 @@ vtkSmartPointer<vtkPolyData> traceStreams(const StreamRecipe& recipe,
                                           const std::vector<vtkSmartPointer<vtkDataSet>>& meshes) {
     const Meshes flows = meshesWith(recipe.variable, meshes);
     const auto seeds = placeSeeds(recipe.seeds);
-    if (flows.empty() || seeds->GetNumberOfPoints() == 0)
+    if (flows.empty() || seeds->GetNumberOfPoints() == 0) {
         return vtkSmartPointer<vtkPolyData>::New();
+    }
     const vtkNew<vtkStreamTracer> tracer;
     tracer->SetInputData(blocksWithCommonArrays(flows));
     tracer->SetSourceData(seeds);

@@ -30,8 +30,9 @@ vtkSmartPointer<vtkPolyData> outsideOf(vtkDataSet& mesh) {
 
 vtkSmartPointer<vtkPolyData> withNormals(vtkSmartPointer<vtkPolyData> surface) {
     const bool isSurface = surface->GetNumberOfPolys() > 0 || surface->GetNumberOfStrips() > 0;
-    if (!isSurface || surface->GetPointData()->GetNormals() != nullptr)
+    if (!isSurface || surface->GetPointData()->GetNormals() != nullptr) {
         return surface;
+    }
     const vtkNew<vtkPolyDataNormals> normals;
     normals->SetInputData(surface);
     normals->SetFeatureAngle(featureAngle);
@@ -42,10 +43,12 @@ vtkSmartPointer<vtkPolyData> withNormals(vtkSmartPointer<vtkPolyData> surface) {
 } // namespace
 
 vtkSmartPointer<vtkPolyData> surfaceOf(vtkDataSet& mesh) {
-    if (mesh.GetNumberOfCells() == 0)
+    if (mesh.GetNumberOfCells() == 0) {
         return pointsOf(mesh);
-    if (auto* const surface = vtkPolyData::SafeDownCast(&mesh))
+    }
+    if (auto* const surface = vtkPolyData::SafeDownCast(&mesh)) {
         return withNormals(surface);
+    }
     return withNormals(outsideOf(mesh));
 }
 

@@ -28,8 +28,9 @@ struct DepthRange {
 
 /// Distances from the point, along the line of sight.
 DepthRange depthRange(const Bounds& box, const Vec3& from, const Vec3& toViewer) {
-    if (box.isEmpty())
+    if (box.isEmpty()) {
         return {};
+    }
     const Vec3 center = box.center();
     const Vec3 half = 0.5 * box.size();
     const double middle = dot(from - center, toViewer);
@@ -91,10 +92,11 @@ void setWindowCenter(vtkCamera& camera, const FrameArea& area) {
 
 void setCamera(vtkCamera& camera, const View3D& view, const FrameArea& area, const Bounds& shown) {
     const ViewBasis basis = basisOf(view);
-    if (view.perspective)
+    if (view.perspective) {
         setPerspective(camera, view, basis, shown);
-    else
+    } else {
         setOrthographic(camera, view, basis, shown);
+    }
     setWindow(camera, view, area);
 }
 

@@ -11,16 +11,20 @@ namespace {
 constexpr std::size_t channels = 4;
 
 void makeOpaque(std::vector<std::uint8_t>& rgba) {
-    for (std::size_t i = channels - 1; i < rgba.size(); i += channels)
+    for (std::size_t i = channels - 1; i < rgba.size(); i += channels) {
         rgba[i] = 255;
+    }
 }
 
 /// Adds up factor pixels of a drawn row for each pixel of the result.
 void addRow(std::vector<std::uint32_t>& sums, const std::uint8_t* row, std::size_t factor) {
-    for (std::size_t x = 0; x < sums.size() / channels; ++x)
-        for (std::size_t k = 0; k < factor; ++k, row += channels)
-            for (std::size_t c = 0; c < channels; ++c)
+    for (std::size_t x = 0; x < sums.size() / channels; ++x) {
+        for (std::size_t k = 0; k < factor; ++k, row += channels) {
+            for (std::size_t c = 0; c < channels; ++c) {
                 sums[x * channels + c] += row[c];
+            }
+        }
+    }
 }
 
 } // namespace
@@ -40,8 +44,9 @@ host::Picture finishPicture(const std::uint8_t* rgba, int width, int height, int
             continue;
         }
         std::fill(sums.begin(), sums.end(), area / 2);
-        for (std::size_t k = 0; k < n; ++k)
+        for (std::size_t k = 0; k < n; ++k) {
             addRow(sums, drawn + k * n * rowLength, n);
+        }
         std::transform(sums.begin(), sums.end(), target,
                        [area](std::uint32_t sum) { return static_cast<std::uint8_t>(sum / area); });
     }

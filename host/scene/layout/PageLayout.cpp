@@ -32,12 +32,14 @@ std::vector<FrameInPicture> framesInPicture(const host::Page& page,
                             request.height * request.supersample};
     std::vector<FrameInPicture> shown;
     for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame) {
-        if (request.region == ExportRegion_CurrentFrame && frame->get() != page.active())
+        if (request.region == ExportRegion_CurrentFrame && frame->get() != page.active()) {
             continue;
+        }
         const PixelRect full = pixelsOf((*frame)->placement, region, request);
         const PixelRect visible = intersection(full, picture);
-        if (!visible.isEmpty())
+        if (!visible.isEmpty()) {
             shown.push_back({frame->get(), {full, visible}});
+        }
     }
     return shown;
 }
@@ -50,8 +52,9 @@ std::vector<FrameInPicture> framesInTile(const std::vector<FrameInPicture>& fram
         full.x -= tile.x;
         full.y -= tile.y;
         frame.area.visible = intersection(full, {0, 0, tile.width, tile.height});
-        if (!frame.area.visible.isEmpty())
+        if (!frame.area.visible.isEmpty()) {
             shown.push_back(frame);
+        }
     }
     return shown;
 }
@@ -61,9 +64,11 @@ std::vector<PixelRect> tilesOf(const host::PictureRequest& request, int largestS
     const int side = largestSize / n * n;
     const PixelRect picture{0, 0, request.width * n, request.height * n};
     std::vector<PixelRect> tiles;
-    for (int y = 0; y < picture.height; y += side)
-        for (int x = 0; x < picture.width; x += side)
+    for (int y = 0; y < picture.height; y += side) {
+        for (int x = 0; x < picture.width; x += side) {
             tiles.push_back(intersection({x, y, side, side}, picture));
+        }
+    }
     return tiles;
 }
 

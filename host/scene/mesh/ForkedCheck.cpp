@@ -16,8 +16,9 @@ namespace {
 /// Ctrl-C ends it as it ends the wait for it.
 [[noreturn]] void tryIt(const std::function<void()>& work, unsigned seconds) {
     for (const int signal :
-         {SIGALRM, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGHUP})
+         {SIGALRM, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGHUP}) {
         std::signal(signal, SIG_DFL);
+    }
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     alarm(seconds);
@@ -32,10 +33,12 @@ namespace {
 
 bool survives(const std::function<void()>& work, unsigned seconds) {
     const pid_t child = fork();
-    if (child == 0)
+    if (child == 0) {
         tryIt(work, seconds);
-    if (child < 0)
+    }
+    if (child < 0) {
         return true;
+    }
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }

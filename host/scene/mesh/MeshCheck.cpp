@@ -23,9 +23,11 @@ namespace {
 bool hasOrder(vtkCellArray& cells) {
     vtkDataArray& offsets = *cells.GetOffsetsArray();
     const vtkIdType count = offsets.GetNumberOfTuples();
-    for (vtkIdType i = 1; i < count; ++i)
-        if (offsets.GetComponent(i, 0) < offsets.GetComponent(i - 1, 0))
+    for (vtkIdType i = 1; i < count; ++i) {
+        if (offsets.GetComponent(i, 0) < offsets.GetComponent(i - 1, 0)) {
             return false;
+        }
+    }
     return count == 0 || (offsets.GetComponent(0, 0) == 0.0 &&
                           offsets.GetComponent(count - 1, 0) <=
                               static_cast<double>(cells.GetNumberOfConnectivityIds()));
@@ -34,11 +36,13 @@ bool hasOrder(vtkCellArray& cells) {
 /// Of kinds of cells with a certain number of points.
 bool hasSoundKinds(vtkUnstructuredGrid& grid) {
     const vtkIdType count = grid.GetNumberOfCells();
-    if (count == 0)
+    if (count == 0) {
         return true;
+    }
     if (grid.GetCellTypesArray()->GetNumberOfTuples() != count ||
-        grid.GetCells()->GetNumberOfCells() != count)
+        grid.GetCells()->GetNumberOfCells() != count) {
         return false;
+    }
     const vtkNew<vtkGenericCell> cell;
     std::map<int, vtkIdType> pointsOfKind;
     for (vtkIdType i = 0; i < count; ++i) {
@@ -46,26 +50,31 @@ bool hasSoundKinds(vtkUnstructuredGrid& grid) {
         const auto [known, isNew] = pointsOfKind.emplace(kind, 0);
         if (isNew) {
             cell->SetCellType(kind);
-            if (cell->GetCellType() != kind)
+            if (cell->GetCellType() != kind) {
                 return false;
+            }
             known->second = cell->RequiresExplicitFaceRepresentation() ||
                                     vtkCellTypes::IsLinear(static_cast<unsigned char>(kind)) == 0
                                 ? 0
                                 : cell->GetNumberOfPoints();
         }
-        if (known->second > 0 && grid.GetCells()->GetCellSize(i) != known->second)
+        if (known->second > 0 && grid.GetCells()->GetCellSize(i) != known->second) {
             return false;
+        }
     }
     return true;
 }
 
 bool hasPoints(vtkCellArray* cells, vtkIdType pointCount) {
-    if (cells == nullptr)
+    if (cells == nullptr) {
         return true;
-    if (!hasOrder(*cells))
+    }
+    if (!hasOrder(*cells)) {
         return false;
-    if (cells->GetNumberOfConnectivityIds() == 0)
+    }
+    if (cells->GetNumberOfConnectivityIds() == 0) {
         return true;
+    }
     std::array<double, 2> range{};
     cells->GetConnectivityArray()->GetRange(range.data());
     return range[0] >= 0.0 && range[1] < static_cast<double>(pointCount);
@@ -75,18 +84,23 @@ bool hasPoints(vtkCellArray* cells, vtkIdType pointCount) {
 /// points and their ids.
 bool hasPoints(const vtkIdTypeArray& faces, vtkIdType start, vtkIdType pointCount) {
     const vtkIdType size = faces.GetNumberOfValues();
-    if (start >= size)
+    if (start >= size) {
         return false;
+    }
     vtkIdType at = start + 1;
     for (vtkIdType face = faces.GetValue(start); face > 0; --face) {
-        if (at >= size)
+        if (at >= size) {
             return false;
+        }
         const vtkIdType end = at + 1 + faces.GetValue(at);
-        if (end <= at || end > size)
+        if (end <= at || end > size) {
             return false;
-        while (++at < end)
-            if (faces.GetValue(at) < 0 || faces.GetValue(at) >= pointCount)
+        }
+        while (++at < end) {
+            if (faces.GetValue(at) < 0 || faces.GetValue(at) >= pointCount) {
                 return false;
+            }
+        }
     }
     return true;
 }
@@ -94,31 +108,37 @@ bool hasPoints(const vtkIdTypeArray& faces, vtkIdType start, vtkIdType pointCoun
 bool hasSoundPolyhedra(vtkUnstructuredGrid& grid) {
     const vtkIdTypeArray* const faces = grid.GetFaces();
     const vtkIdTypeArray* const locations = grid.GetFaceLocations();
-    if (faces == nullptr || locations == nullptr)
+    if (faces == nullptr || locations == nullptr) {
         return true;
+    }
     for (vtkIdType cell = 0; cell < locations->GetNumberOfValues(); ++cell) {
         const vtkIdType start = locations->GetValue(cell);
-        if (start >= 0 && !hasPoints(*faces, start, grid.GetNumberOfPoints()))
+        if (start >= 0 && !hasPoints(*faces, start, grid.GetNumberOfPoints())) {
             return false;
+        }
     }
     return true;
 }
 
 bool hasSoundCells(vtkDataSet& mesh) {
     const vtkIdType points = mesh.GetNumberOfPoints();
-    if (auto* const grid = vtkUnstructuredGrid::SafeDownCast(&mesh))
+    if (auto* const grid = vtkUnstructuredGrid::SafeDownCast(&mesh)) {
         return hasPoints(grid->GetCells(), points) && hasSoundKinds(*grid) &&
                hasSoundPolyhedra(*grid);
-    if (auto* const surface = vtkPolyData::SafeDownCast(&mesh))
+    }
+    if (auto* const surface = vtkPolyData::SafeDownCast(&mesh)) {
         return hasPoints(surface->GetVerts(), points) && hasPoints(surface->GetLines(), points) &&
                hasPoints(surface->GetPolys(), points) && hasPoints(surface->GetStrips(), points);
+    }
     return true;
 }
 
 bool hasTuples(vtkDataSetAttributes& attributes, vtkIdType count) {
-    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i)
-        if (attributes.GetAbstractArray(i)->GetNumberOfTuples() != count)
+    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i) {
+        if (attributes.GetAbstractArray(i)->GetNumberOfTuples() != count) {
             return false;
+        }
+    }
     return true;
 }
 

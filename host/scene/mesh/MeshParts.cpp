@@ -20,20 +20,23 @@ namespace {
 class PartCollector {
 public:
     void add(vtkDataObject* object, const std::string& name) {
-        if (auto* const mesh = vtkDataSet::SafeDownCast(object))
+        if (auto* const mesh = vtkDataSet::SafeDownCast(object)) {
             addMesh(mesh, name);
-        else if (auto* const tree = vtkDataObjectTree::SafeDownCast(object))
+        } else if (auto* const tree = vtkDataObjectTree::SafeDownCast(object)) {
             addTree(*tree, name);
+        }
     }
     std::vector<MeshPart> take() { return std::move(m_parts); }
 
 private:
     void addMesh(vtkDataSet* mesh, const std::string& name) {
-        if (mesh->GetNumberOfPoints() == 0)
+        if (mesh->GetNumberOfPoints() == 0) {
             return;
+        }
         std::string unique = name;
-        for (int n = 2; !m_names.insert(unique).second; ++n)
+        for (int n = 2; !m_names.insert(unique).second; ++n) {
             unique = name + " " + std::to_string(n);
+        }
         m_parts.push_back({unique, mesh});
     }
 

@@ -25,8 +25,9 @@ vtkSmartPointer<vtkDataSet> carried(vtkDataSet& mesh, const std::vector<std::str
     toPoints->SetInputData(&mesh);
     toPoints->PassCellDataOn();
     toPoints->ProcessAllArraysOff();
-    for (const std::string& array : arrays)
+    for (const std::string& array : arrays) {
         toPoints->AddCellDataArray(array.c_str());
+    }
     toPoints->Update();
     return toPoints->GetOutput();
 }
@@ -34,8 +35,9 @@ vtkSmartPointer<vtkDataSet> carried(vtkDataSet& mesh, const std::vector<std::str
 } // namespace
 
 vtkSmartPointer<vtkDataSet> withPointValues(vtkDataSet& mesh, const std::string& array) {
-    if (!isCarried(mesh, array))
+    if (!isCarried(mesh, array)) {
         return &mesh;
+    }
     return withAllPointValues(mesh);
 }
 
@@ -43,11 +45,13 @@ vtkSmartPointer<vtkDataSet> withAllPointValues(vtkDataSet& mesh) {
     std::vector<std::string> arrays;
     for (int i = 0; i < mesh.GetCellData()->GetNumberOfArrays(); ++i) {
         const char* const name = mesh.GetCellData()->GetArrayName(i);
-        if (name != nullptr && isCarried(mesh, name))
+        if (name != nullptr && isCarried(mesh, name)) {
             arrays.emplace_back(name);
+        }
     }
-    if (arrays.empty())
+    if (arrays.empty()) {
         return &mesh;
+    }
     return carried(mesh, arrays);
 }
 

@@ -28,16 +28,20 @@ host::HostError readError(const std::string& path, const std::string& reason) {
 void checkReadable(const std::string& path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
-    if (!std::filesystem::exists(status))
+    if (!std::filesystem::exists(status)) {
         throw readError(path, "there is no such file");
-    if (std::filesystem::is_directory(status))
+    }
+    if (std::filesystem::is_directory(status)) {
         throw readError(path, "it is a folder");
+    }
     errno = 0;
     std::ifstream stream(path, std::ios::binary);
-    if (!stream)
+    if (!stream) {
         throw readError(path, std::generic_category().message(errno));
-    if (stream.peek() == std::ifstream::traits_type::eof())
+    }
+    if (stream.peek() == std::ifstream::traits_type::eof()) {
         throw readError(path, "the file is empty");
+    }
 }
 
 } // namespace corvane::scene

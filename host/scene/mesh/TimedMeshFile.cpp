@@ -43,14 +43,18 @@ std::vector<MeshPart> TimedMeshFile::read(int step) const {
     withReader([&](vtkAlgorithm& reader, const VtkMessages& messages) {
         goTo(reader, step);
         parts = partsOf(reader);
-        if (messages.hasErrors() && (parts.empty() || !isLenient))
+        if (messages.hasErrors() && (parts.empty() || !isLenient)) {
             throw readError(path(), messages.reason());
+        }
     });
-    if (parts.empty())
+    if (parts.empty()) {
         throw readError(path(), "it holds no mesh");
-    for (const MeshPart& part : parts)
-        if (!isSound(*part.mesh))
+    }
+    for (const MeshPart& part : parts) {
+        if (!isSound(*part.mesh)) {
             throw readError(path(), "its mesh \"" + part.name + "\" is damaged");
+        }
+    }
     return parts;
 }
 
@@ -60,13 +64,15 @@ std::vector<MeshPart> TimedMeshFile::partsOf(vtkAlgorithm& reader) const {
 
 void TimedMeshFile::withReader(const Work& work) const {
     std::unique_lock<std::mutex> lock;
-    if (std::mutex* const mutex = libraryMutex())
+    if (std::mutex* const mutex = libraryMutex()) {
         lock = std::unique_lock(*mutex);
+    }
     const VtkMessages messages;
     try {
         const auto reader = openReader();
-        if (messages.hasErrors())
+        if (messages.hasErrors()) {
             throw readError(path(), messages.reason());
+        }
         work(*reader, messages);
     } catch (const std::bad_alloc&) {
         throw readError(path(), tooLargeReason);
@@ -83,16 +89,18 @@ void TimedMeshFile::goTo(vtkAlgorithm& reader, int step) const {
     const double time = m_times[static_cast<std::size_t>(step)];
     // Readers take the nearest time, which is wrong when a step was deleted meanwhile.
     const std::vector<double> now = timesOf(reader);
-    if (!std::binary_search(now.begin(), now.end(), time))
+    if (!std::binary_search(now.begin(), now.end(), time)) {
         throw readError(path(), "the time " + text(time) + " is not there any more");
+    }
     reader.UpdateTimeStep(time);
 }
 
 std::vector<double> TimedMeshFile::timesOf(vtkAlgorithm& reader) const {
     vtkInformation* const information = reader.GetOutputInformation(0);
     auto* const key = vtkStreamingDemandDrivenPipeline::TIME_STEPS();
-    if (information == nullptr || information->Has(key) == 0)
+    if (information == nullptr || information->Has(key) == 0) {
         return {};
+    }
     const double* const first = information->Get(key);
     std::vector<double> times(first, first + information->Length(key));
     std::sort(times.begin(), times.end());

@@ -15,14 +15,18 @@ std::vector<MeshPart> VtkMeshFile::read(int /*step*/) const {
     checkReadable(path());
     const VtkMessages messages;
     const auto object = readOrRefuse();
-    if (messages.hasErrors() || (areWarningsErrors() && messages.hasWarnings()))
+    if (messages.hasErrors() || (areWarningsErrors() && messages.hasWarnings())) {
         throw readError(path(), messages.reason());
+    }
     auto parts = meshParts(object);
-    if (parts.empty())
+    if (parts.empty()) {
         throw readError(path(), "it holds no mesh");
-    for (const MeshPart& part : parts)
-        if (!isSound(*part.mesh))
+    }
+    for (const MeshPart& part : parts) {
+        if (!isSound(*part.mesh)) {
             throw readError(path(), "it is damaged");
+        }
+    }
     return parts;
 }
 

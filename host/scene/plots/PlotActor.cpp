@@ -16,8 +16,9 @@ PlotActor::PlotActor() {
 }
 
 void PlotActor::setGeometry(const vtkSmartPointer<vtkPolyData>& geometry) {
-    if (m_geometry == geometry)
+    if (m_geometry == geometry) {
         return;
+    }
     m_geometry = geometry;
     m_mapper->SetInputData(m_geometry);
 }

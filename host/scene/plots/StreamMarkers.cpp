@@ -52,8 +52,9 @@ public:
 
     vtkSmartPointer<vtkPolyData> run() {
         forEachLine(m_traces, [this](const vtkIdType* points, vtkIdType count) {
-            for (vtkIdType i = 1; i < count; ++i)
+            for (vtkIdType i = 1; i < count; ++i) {
                 addBetween(points[i - 1], points[i]);
+            }
         });
         return m_markers;
     }
@@ -65,12 +66,14 @@ private:
         const double timeB = m_times.GetTuple1(b);
         const double from = std::min(timeA, timeB);
         const double to = std::max(timeA, timeB);
-        if (!std::isfinite(to - from))
+        if (!std::isfinite(to - from)) {
             return;
+        }
         for (double k = std::ceil((from - m_anchor) / m_interval);; k += 1.0) {
             const double time = m_anchor + k * m_interval;
-            if (!(time < to))
+            if (!(time < to)) {
                 return;
+            }
             add(a, b, (time - timeA) / (timeB - timeA));
         }
     }
@@ -80,8 +83,9 @@ private:
         std::array<double, 3> pointB{};
         m_traces.GetPoint(a, pointA.data());
         m_traces.GetPoint(b, pointB.data());
-        for (std::size_t c = 0; c < 3; ++c)
+        for (std::size_t c = 0; c < 3; ++c) {
             pointA[c] += part * (pointB[c] - pointA[c]);
+        }
         const vtkIdType id = m_markers->GetPoints()->InsertNextPoint(pointA.data());
         m_markers->GetPointData()->InterpolateEdge(m_traces.GetPointData(), id, a, b, part);
     }
@@ -97,8 +101,9 @@ private:
 
 vtkSmartPointer<vtkPolyData> markersOn(vtkPolyData& traces, double anchor, double interval) {
     vtkDataArray* const times = traces.GetPointData()->GetArray(integrationTimeName);
-    if (times == nullptr)
+    if (times == nullptr) {
         return vtkSmartPointer<vtkPolyData>::New();
+    }
     return MarkerSetter(traces, *times, anchor, interval).run();
 }
 

@@ -50,14 +50,16 @@ void StreamPlot::show(const host::FrameStyle& style, const ContourColors& colors
     appearance.isShaded = traces.tubes;
     appearance.lineWidth = lineWidth;
     applyAppearance(*m_actor, *m_mapper, *m_traces, appearance, colors, style.light);
-    if (style.streamTiming.showDashes)
+    if (style.streamTiming.showDashes) {
         setDashes(*m_actor, style.streamTiming.timeAnchor, style.streamTiming.deltaTime);
-    else
+    } else {
         setNoDashes(*m_actor);
+    }
     m_actor->SetVisibility(1);
 
-    if (!style.streamTiming.showMarkers)
+    if (!style.streamTiming.showMarkers) {
         return;
+    }
     showMarkers(style.streamTiming, radius);
     // In the plain colour they stand out against traces that are coloured by values.
     appearance.isShaded = true;

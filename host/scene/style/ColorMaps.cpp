@@ -25,7 +25,7 @@ struct ColorMap {
 const std::vector<ColorMap>& colorMaps() {
     // Viridis and Plasma rise evenly in lightness, so that grey prints and people who see fewer
     // colours read them as well. Between their samples Lab keeps that property.
-    static const std::vector<ColorMap> maps{
+    const static std::vector<ColorMap> maps{
         {"viridis",
          Blend::Lab,
          {0x440154, 0x482878, 0x3E4A89, 0x31688E, 0x26828E, 0x1F9E89, 0x35B779, 0x6DCD59, 0xB4DE2C,
@@ -78,9 +78,10 @@ vtkSmartPointer<vtkLookupTable> makeColorMap(const std::string& name) {
     const vtkNew<vtkColorTransferFunction> function;
     setBlend(*function, map.blend);
     const double last = static_cast<double>(map.colors.size() - 1);
-    for (std::size_t i = 0; i < map.colors.size(); ++i)
+    for (std::size_t i = 0; i < map.colors.size(); ++i) {
         function->AddRGBPoint(static_cast<double>(i) / last, channel(map.colors[i], 16),
                               channel(map.colors[i], 8), channel(map.colors[i], 0));
+    }
 
     constexpr int size = 256;
     const auto table = vtkSmartPointer<vtkLookupTable>::New();

@@ -17,12 +17,14 @@ void setContour(vtkMapper& mapper, vtkPolyData& geometry, const ContourColors& c
     const char* const array = colors.variable().array.c_str();
     const bool ofPoints = geometry.GetPointData()->HasArray(array) != 0;
     const bool ofCells = geometry.GetCellData()->HasArray(array) != 0;
-    if (!ofPoints && !ofCells)
+    if (!ofPoints && !ofCells) {
         return;
-    if (ofPoints)
+    }
+    if (ofPoints) {
         mapper.SetScalarModeToUsePointFieldData();
-    else
+    } else {
         mapper.SetScalarModeToUseCellFieldData();
+    }
     // Values, not colours, are interpolated between points.
     mapper.SetInterpolateScalarsBeforeMapping(ofPoints ? 1 : 0);
     mapper.SetColorModeToMapScalars();
@@ -41,17 +43,19 @@ void applyAppearance(vtkActor& actor, vtkMapper& mapper, vtkPolyData& geometry,
     setColor(property, appearance.color);
     property.SetOpacity(appearance.opacity);
     property.SetLineWidth(static_cast<float>(appearance.lineWidth));
-    if (appearance.isShaded)
+    if (appearance.isShaded) {
         setSurfaceMaterial(property, light);
-    else
+    } else {
         setFlatMaterial(property, light);
+    }
     property.SetEdgeVisibility(appearance.showMesh ? 1 : 0);
     const double edge = meshLineGray * flatBrightness(light);
     property.SetEdgeColor(edge, edge, edge);
 
     mapper.SetScalarVisibility(0);
-    if (appearance.useContour)
+    if (appearance.useContour) {
         setContour(mapper, geometry, colors);
+    }
 }
 
 } // namespace corvane::scene

@@ -29,13 +29,16 @@ EGLDisplay openDisplay() {
     const auto getPlatformDisplay = reinterpret_cast<PFNEGLGETPLATFORMDISPLAYEXTPROC>(
         eglGetProcAddress("eglGetPlatformDisplayEXT"));
     EGLDisplay display = EGL_NO_DISPLAY;
-    if (getPlatformDisplay != nullptr)
+    if (getPlatformDisplay != nullptr) {
         display = getPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr);
-    if (display != EGL_NO_DISPLAY && eglInitialize(display, nullptr, nullptr) == EGL_TRUE)
+    }
+    if (display != EGL_NO_DISPLAY && eglInitialize(display, nullptr, nullptr) == EGL_TRUE) {
         return display;
+    }
     display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
-    if (display == EGL_NO_DISPLAY || eglInitialize(display, nullptr, nullptr) != EGL_TRUE)
+    if (display == EGL_NO_DISPLAY || eglInitialize(display, nullptr, nullptr) != EGL_TRUE) {
         fail("eglInitialize");
+    }
     return display;
 }
 
@@ -44,8 +47,9 @@ EGLConfig chooseConfig(EGLDisplay display) {
                                            EGL_NONE};
     EGLConfig config = nullptr;
     EGLint count = 0;
-    if (eglChooseConfig(display, wanted.data(), &config, 1, &count) != EGL_TRUE || count == 0)
+    if (eglChooseConfig(display, wanted.data(), &config, 1, &count) != EGL_TRUE || count == 0) {
         fail("eglChooseConfig");
+    }
     return config;
 }
 
@@ -53,8 +57,9 @@ EGLConfig chooseConfig(EGLDisplay display) {
 
 EglContext::EglContext() : m_display(openDisplay()) {
     // The display is shared by the whole process, so it is never terminated.
-    if (eglBindAPI(EGL_OPENGL_API) != EGL_TRUE)
+    if (eglBindAPI(EGL_OPENGL_API) != EGL_TRUE) {
         fail("eglBindAPI");
+    }
     constexpr std::array<EGLint, 7> wanted{EGL_CONTEXT_MAJOR_VERSION,
                                            3,
                                            EGL_CONTEXT_MINOR_VERSION,
@@ -63,19 +68,22 @@ EglContext::EglContext() : m_display(openDisplay()) {
                                            EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT,
                                            EGL_NONE};
     m_context = eglCreateContext(m_display, chooseConfig(m_display), EGL_NO_CONTEXT, wanted.data());
-    if (m_context == EGL_NO_CONTEXT)
+    if (m_context == EGL_NO_CONTEXT) {
         fail("eglCreateContext");
+    }
 }
 
 EglContext::~EglContext() {
-    if (isCurrent())
+    if (isCurrent()) {
         eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    }
     eglDestroyContext(m_display, m_context);
 }
 
 void EglContext::makeCurrent() {
-    if (eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, m_context) != EGL_TRUE)
+    if (eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, m_context) != EGL_TRUE) {
         fail("eglMakeCurrent");
+    }
 }
 
 bool EglContext::isCurrent() const {

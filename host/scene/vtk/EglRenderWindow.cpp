@@ -28,8 +28,9 @@ EglRenderWindow::EglRenderWindow() {
 
 EglRenderWindow::~EglRenderWindow() {
     // The base classes release what VTK made in the context, but cannot make it current any more.
-    if (m_context != nullptr)
+    if (m_context != nullptr) {
         m_context->makeCurrent();
+    }
     Finalize();
 }
 
@@ -37,9 +38,10 @@ void EglRenderWindow::open(EglContext& context) {
     m_context = &context;
     MakeCurrent();
     OpenGLInit();
-    if (!GlewInitValid)
+    if (!GlewInitValid) {
         throw host::HostError("No picture can be drawn: the OpenGL functions cannot be loaded; "
                               "install Mesa's OpenGL drivers (libgl1-mesa-dri).");
+    }
 }
 
 int EglRenderWindow::largestSize() {
@@ -54,8 +56,9 @@ int EglRenderWindow::largestSize() {
 }
 
 void EglRenderWindow::MakeCurrent() {
-    if (!m_context->isCurrent())
+    if (!m_context->isCurrent()) {
         m_context->makeCurrent();
+    }
 }
 
 bool EglRenderWindow::IsCurrent() {

@@ -20,12 +20,14 @@ public:
 
     void DisplayText(const char* /*text*/) override {}
     void DisplayErrorText(const char* text) override {
-        if (t_innermost != nullptr)
+        if (t_innermost != nullptr) {
             t_innermost->addError(text);
+        }
     }
     void DisplayWarningText(const char* text) override {
-        if (t_innermost != nullptr)
+        if (t_innermost != nullptr) {
             t_innermost->addWarning(text);
+        }
     }
     void DisplayGenericWarningText(const char* text) override { DisplayWarningText(text); }
     void DisplayDebugText(const char* /*text*/) override {}
@@ -36,13 +38,15 @@ vtkStandardNewMacro(CollectingOutputWindow);
 /// "ERROR: In FILE, line N\nvtkClass (0x1234): the message\n\n", or without the class. Empty when
 /// the text tells of the failure alone and not of its reason.
 std::string withoutDecoration(std::string text) {
-    if (text.find("returned failure for request") != std::string::npos)
+    if (text.find("returned failure for request") != std::string::npos) {
         return {};
+    }
     const std::string endOfClass = "): ";
-    if (const auto end = text.find(endOfClass); end != std::string::npos)
+    if (const auto end = text.find(endOfClass); end != std::string::npos) {
         text.erase(0, end + endOfClass.size());
-    else if (const auto line = text.find('\n'); line + 1 < text.size())
+    } else if (const auto line = text.find('\n'); line + 1 < text.size()) {
         text.erase(0, line + 1);
+    }
     std::replace(text.begin(), text.end(), '\n', ' ');
     const auto last = text.find_last_not_of(" .");
     return last == std::string::npos ? std::string() : text.substr(0, last + 1);
@@ -69,10 +73,13 @@ VtkMessages::~VtkMessages() {
 }
 
 std::string VtkMessages::reason() const {
-    for (const auto* const texts : {&m_errors, &m_warnings})
-        for (const std::string& text : *texts)
-            if (const std::string reason = withoutDecoration(text); !reason.empty())
+    for (const auto* const texts : {&m_errors, &m_warnings}) {
+        for (const std::string& text : *texts) {
+            if (const std::string reason = withoutDecoration(text); !reason.empty()) {
                 return reason;
+            }
+        }
+    }
     return "it is damaged, or of another kind than its name says";
 }
 

@@ -62,8 +62,9 @@ void freeAListTwiceAndUseIt() {
 
 void freeASetTwiceAndUseIt() {
     CorSet set = nullptr;
-    if (!CorUtilZoneGetEnabled(&set))
+    if (!CorUtilZoneGetEnabled(&set)) {
         throw std::runtime_error("This command needs data.");
+    }
     CorSet copy = set;
     CorSet freed = set;
     CorUtilSetDealloc(&set);
@@ -80,8 +81,9 @@ void callFromAThread() {
         CorUtilLockStart(addOnId);
         isRefused = CorUtilRedraw(TRUE) == FALSE && !text && frames == 0;
     }).join();
-    if (!isRefused)
+    if (!isRefused) {
         throw std::runtime_error("The host works on other threads.");
+    }
 }
 
 void useAnIdOfNobody() {
@@ -103,7 +105,7 @@ void listenBadly() {
 }
 
 const std::map<std::string, std::function<void()>>& deeds() {
-    static const std::map<std::string, std::function<void()>> all{
+    const static std::map<std::string, std::function<void()>> all{
         {"throw an exception", throwAnException},
         {"throw a number", throwANumber},
         {"leave a lock", leaveALock},

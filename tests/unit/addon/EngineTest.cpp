@@ -11,9 +11,9 @@ using namespace corutiltools;
 
 namespace {
 
-std::string withoutArguments(std::string const& call) {
-    std::size_t const open = call.find('(');
-    std::string const arguments = call.substr(open);
+std::string withoutArguments(const std::string& call) {
+    const std::size_t open = call.find('(');
+    const std::string arguments = call.substr(open);
     return arguments == "(TRUE)" || arguments == "(FALSE)" ? call : call.substr(0, open);
 }
 
@@ -26,7 +26,7 @@ EngineTest::EngineTest() {
 
 std::vector<std::string> EngineTest::callNames() {
     std::vector<std::string> result;
-    for (std::string const& call : calls()) {
+    for (const std::string& call : calls()) {
         result.push_back(withoutArguments(call));
     }
     return result;
@@ -37,7 +37,7 @@ bool EngineTest::hostIsAtRest() {
            !host.session().status().isActive();
 }
 
-void EngineTest::setSolutionTimes(std::vector<double> const& times, long strand) {
+void EngineTest::setSolutionTimes(const std::vector<double>& times, long strand) {
     auto data = std::make_shared<host::DataSet>();
     data->blocks.push_back({"block", 3});
     for (double time : times) {
@@ -46,10 +46,10 @@ void EngineTest::setSolutionTimes(std::vector<double> const& times, long strand)
     frame().attachData(data);
 }
 
-KeyFrames keyFramesWithCounts(std::vector<unsigned long> const& counts) {
+KeyFrames keyFramesWithCounts(const std::vector<unsigned long>& counts) {
     KeyFrames keyFrames;
     for (unsigned long count : counts) {
-        double const index = static_cast<double>(keyFrames.size());
+        const double index = static_cast<double>(keyFrames.size());
         keyFrames.push_back(
             KeyFrame_s{View(0.0, 0.0, 10.0, 0.0, 0.0, 0.0, 4.0), "", count, 10.0 * index});
     }

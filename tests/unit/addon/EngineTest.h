@@ -27,7 +27,7 @@ protected:
     /// The calls since the last clearCalls().
     std::vector<std::string> calls() { return host.calls(); }
     /// Those of them whose text begins so.
-    std::vector<std::string> callsTo(std::string const& beginning) {
+    std::vector<std::string> callsTo(const std::string& beginning) {
         return host.callsOf(beginning);
     }
     /// Without arguments, except where that is a lone TRUE or FALSE.
@@ -40,13 +40,13 @@ protected:
     bool hostIsAtRest();
 
     /// Gives the frame a data set with zones at these solution times, all of the same strand.
-    void setSolutionTimes(std::vector<double> const& times, long strand = 1);
+    void setSolutionTimes(const std::vector<double>& times, long strand = 1);
 };
 
 using KeyFrames = std::vector<corutiltools::KeyFrame_s>;
 
 /// Key frames that differ in nothing but the frame count; solution times 0, 10, 20, ...
-KeyFrames keyFramesWithCounts(std::vector<unsigned long> const& counts);
+KeyFrames keyFramesWithCounts(const std::vector<unsigned long>& counts);
 
 /// A flight of that many frames between two key frames.
 KeyFrames keyFramesForFrames(unsigned long totalFrames);

@@ -17,12 +17,12 @@ public:
     }
     ~RegisteredAddOn() { corutiltools::AddOnID = nullptr; }
 
-    RegisteredAddOn(RegisteredAddOn const&) = delete;
-    RegisteredAddOn& operator=(RegisteredAddOn const&) = delete;
+    RegisteredAddOn(const RegisteredAddOn&) = delete;
+    RegisteredAddOn& operator=(const RegisteredAddOn&) = delete;
 };
 
 // What the trace says of its locks.
-inline std::string const lockStart = "CorUtilLockStart(\"Key Frame Animation\")";
-inline std::string const lockFinish = "CorUtilLockFinish(\"Key Frame Animation\")";
+inline const std::string lockStart = "CorUtilLockStart(\"Key Frame Animation\")";
+inline const std::string lockFinish = "CorUtilLockFinish(\"Key Frame Animation\")";
 
 } // namespace corvane::test

@@ -13,8 +13,8 @@ protected:
 
     int lockDepth() { return host.session().locks().depth(); }
 
-    RegisteredAddOn const registration;
-    FreshDialogs const prompts;
+    const RegisteredAddOn registration;
+    const FreshDialogs prompts;
 };
 
 } // namespace corvane::test

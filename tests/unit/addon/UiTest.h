@@ -18,8 +18,8 @@ protected:
     std::vector<std::string> errors() { return shown(ShownDialog::Kind::Error); }
     std::vector<std::string> notices() { return shown(ShownDialog::Kind::Notice); }
 
-    RegisteredAddOn const registration;
-    FreshDialogs const prompts;
+    const RegisteredAddOn registration;
+    const FreshDialogs prompts;
 
 private:
     std::vector<std::string> shown(ShownDialog::Kind kind) { return host.prompts().shown(kind); }
@@ -36,7 +36,7 @@ protected:
 
     MemoryDialog window() { return host.gui().dialog(dialog); }
 
-    int const dialog;
+    const int dialog;
 };
 
 // The main dialog, up and refreshed.
@@ -52,43 +52,46 @@ protected:
     corutiltools::ListModelKeyFrame& model() { return dialog().model(); }
     MemoryDialog window() { return host.gui().dialog("Key Frame Animation"); }
 
-    void click(std::string const& button) {
+    void click(const std::string& button) {
         window().button(button).click();
         host.runIdle();
     }
 
     // From 1.
-    void select(std::vector<long> const& positions) {
+    void select(const std::vector<long>& positions) {
         window().list().select(positions);
         host.runIdle();
     }
 
     // Captures that many key frames by the user's hand.
     void capture(int count) {
-        for (int index = 0; index < count; ++index)
+        for (int index = 0; index < count; ++index) {
             click("Append");
+        }
     }
 
-    void enter(std::string const& label, std::string const& text) {
+    void enter(const std::string& label, const std::string& text) {
         window().field(label).type(text);
         window().field(label).commit();
         host.runIdle();
     }
 
-    void setFrameCounts(std::vector<unsigned long> const& counts) {
-        for (unsigned long index = 0; index < counts.size(); ++index)
+    void setFrameCounts(const std::vector<unsigned long>& counts) {
+        for (unsigned long index = 0; index < counts.size(); ++index) {
             model().setFrameCount(index, counts[index]);
+        }
     }
 
     std::vector<unsigned long> frameCounts() {
         std::vector<unsigned long> counts;
-        for (unsigned long index = 0; index < model().size(); ++index)
+        for (unsigned long index = 0; index < model().size(); ++index) {
             counts.push_back(model().frameCount(index));
+        }
         return counts;
     }
 
     std::vector<std::string> rows() { return window().list().rows(); }
-    std::string fieldText(std::string const& label) { return window().field(label).text(); }
+    std::string fieldText(const std::string& label) { return window().field(label).text(); }
 };
 
 } // namespace corvane::test

@@ -23,8 +23,9 @@ using Words = std::vector<std::string>;
 Words wordsOf(const std::string& text) {
     std::istringstream stream(text);
     Words words;
-    for (std::string word; stream >> std::quoted(word);)
+    for (std::string word; stream >> std::quoted(word);) {
         words.push_back(word);
+    }
     return words;
 }
 
@@ -50,17 +51,21 @@ public:
         while (std::getline(stream, line)) {
             ++m_line;
             const Words words = wordsOf(line);
-            if (words.empty() || words.front().starts_with('#'))
+            if (words.empty() || words.front().starts_with('#')) {
                 continue;
-            if (isSection(words))
+            }
+            if (isSection(words)) {
                 m_section = words.front();
-            else
+            } else {
                 readLine(line);
+            }
         }
-        if (!m_isGold)
+        if (!m_isGold) {
             throw std::runtime_error("it is no EnSight Gold case");
-        if (geometry.pattern.empty())
+        }
+        if (geometry.pattern.empty()) {
             throw std::runtime_error("it names no geometry");
+        }
     }
 
     EnSightFiles geometry;
@@ -69,7 +74,7 @@ public:
 
 private:
     static bool isSection(const Words& words) {
-        static const std::set<std::string> sections{"FORMAT", "GEOMETRY", "VARIABLE", "TIME",
+        const static std::set<std::string> sections{"FORMAT", "GEOMETRY", "VARIABLE", "TIME",
                                                     "FILE",   "MATERIAL", "SCRIPTS"};
         return words.size() == 1 && sections.contains(words.front());
     }
@@ -81,31 +86,36 @@ private:
         const Words values = wordsOf(isContinued ? line : line.substr(colon + 1));
         m_key = key;
         std::string name;
-        for (const std::string& word : key)
+        for (const std::string& word : key) {
             name += (name.empty() ? "" : " ") + word;
-        if (m_section == "FORMAT")
+        }
+        if (m_section == "FORMAT") {
             m_isGold = m_isGold || (name == "type" && values == Words{"ensight", "gold"});
-        else if (m_section == "GEOMETRY")
+        } else if (m_section == "GEOMETRY") {
             readGeometry(name, values);
-        else if (m_section == "VARIABLE")
+        } else if (m_section == "VARIABLE") {
             readVariable(isContinued ? "" : name, values);
-        else if (m_section == "TIME")
+        } else if (m_section == "TIME") {
             readTime(name, values);
+        }
     }
 
     void readGeometry(const std::string& name, const Words& values) {
-        if (name != "model")
+        if (name != "model") {
             return;
+        }
         auto [files, words] = takeSets(values);
-        if (words.size() != 1)
+        if (words.size() != 1) {
             fail(words.empty() ? "names no geometry" : "describes a geometry that cannot be read");
+        }
         files.pattern = words.front();
         geometry = files;
     }
 
     void readVariable(const std::string& kind, const Words& values) {
-        if (kind == "constant per case" || kind == "constant per case file")
+        if (kind == "constant per case" || kind == "constant per case file") {
             return;
+        }
         std::istringstream text(kind);
         std::string what;
         std::string per;
@@ -114,14 +124,16 @@ private:
         }
         std::string place;
         text >> place;
-        static const std::set<std::string> known{"scalar", "vector", "tensor", "complex"};
-        static const std::set<std::string> places{"node", "element", "measured"};
+        const static std::set<std::string> known{"scalar", "vector", "tensor", "complex"};
+        const static std::set<std::string> places{"node", "element", "measured"};
         auto [files, words] = takeSets(values);
-        if (!known.contains(what) || !places.contains(place) || words.size() < 2)
+        if (!known.contains(what) || !places.contains(place) || words.size() < 2) {
             fail("describes no variable");
+        }
         const bool isRead = (what == "scalar" || what == "vector") && place != "measured";
-        if (!isRead)
+        if (!isRead) {
             return;
+        }
         files.pattern = words[1];
         variables.push_back({words[0], what == "vector" ? 3 : 1, place == "element", files});
     }
@@ -142,34 +154,38 @@ private:
 
     void readTime(const std::string& name, const Words& values) {
         if (name == "time set") {
-            if (values.empty() || !scene::parse(values.front(), m_timeSet) || m_timeSet < 1)
+            if (values.empty() || !scene::parse(values.front(), m_timeSet) || m_timeSet < 1) {
                 fail("names no time set");
+            }
             timeSets[m_timeSet] = {};
             return;
         }
         const auto current = timeSets.find(m_timeSet);
-        if (current == timeSets.end())
+        if (current == timeSets.end()) {
             fail("belongs to no time set");
+        }
         RawTimeSet& set = current->second;
-        if (name == "number of steps")
+        if (name == "number of steps") {
             set.steps = single(values);
-        else if (name == "filename start number")
+        } else if (name == "filename start number") {
             set.start = single(values);
-        else if (name == "filename increment")
+        } else if (name == "filename increment") {
             set.increment = single(values);
-        else if (name == "filename numbers")
+        } else if (name == "filename numbers") {
             append(set.numbers, values);
-        else if (name == "time values")
+        } else if (name == "time values") {
             append(set.times, values);
-        else
+        } else {
             fail("cannot be understood");
+        }
     }
 
     int single(const Words& values) const {
         std::vector<int> numbers;
         append(numbers, values);
-        if (numbers.size() != 1)
+        if (numbers.size() != 1) {
             fail("holds no number");
+        }
         return numbers.front();
     }
 
@@ -177,8 +193,9 @@ private:
     void append(std::vector<Number>& numbers, const Words& values) const {
         for (const std::string& word : values) {
             Number number{};
-            if (!scene::parse(word, number))
+            if (!scene::parse(word, number)) {
                 fail("holds what is no number");
+            }
             numbers.push_back(number);
         }
     }
@@ -199,19 +216,22 @@ EnSightTimeSet timeSetOf(int name, const RawTimeSet& raw) {
     const auto isFinite = [](double time) { return std::isfinite(time); };
     if (steps == 0 || raw.times.size() != steps ||
         !std::all_of(raw.times.begin(), raw.times.end(), isFinite) ||
-        (!raw.numbers.empty() && raw.numbers.size() != steps))
+        (!raw.numbers.empty() && raw.numbers.size() != steps)) {
         throw std::runtime_error("its time set " + std::to_string(name) +
                                  " does not have as many times as steps");
+    }
     EnSightTimeSet set{raw.times, raw.numbers};
-    for (long long step = 0; set.numbers.size() < steps; ++step)
+    for (long long step = 0; set.numbers.size() < steps; ++step) {
         set.numbers.push_back(static_cast<int>(raw.start + step * raw.increment));
+    }
     return set;
 }
 
 std::string withNumber(const std::string& pattern, int number) {
     const auto first = pattern.find('*');
-    if (first == std::string::npos)
+    if (first == std::string::npos) {
         return pattern;
+    }
     const auto end = std::min(pattern.find_first_not_of('*', first), pattern.size());
     std::ostringstream digits;
     digits << std::setfill('0') << std::setw(static_cast<int>(end - first)) << number;
@@ -225,8 +245,9 @@ EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
     std::ifstream stream(path);
     try {
         parser.parse(stream);
-        for (const auto& [name, raw] : parser.timeSets)
+        for (const auto& [name, raw] : parser.timeSets) {
             m_timeSets[name] = timeSetOf(name, raw);
+        }
     } catch (const std::runtime_error& error) {
         throw readError(path, error.what());
     }
@@ -234,18 +255,22 @@ EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
     m_variables = parser.variables;
 
     std::vector<EnSightFiles*> all{&m_geometry};
-    for (EnSightVariable& variable : m_variables)
+    for (EnSightVariable& variable : m_variables) {
         all.push_back(&variable.files);
+    }
     std::set<double> times;
     for (EnSightFiles* const files : all) {
         // Some leave out the only time set.
-        if (files->timeSet == 0 && files->pattern.find('*') != std::string::npos)
+        if (files->timeSet == 0 && files->pattern.find('*') != std::string::npos) {
             files->timeSet = 1;
-        if (files->timeSet == 0)
+        }
+        if (files->timeSet == 0) {
             continue;
+        }
         const auto set = m_timeSets.find(files->timeSet);
-        if (set == m_timeSets.end())
+        if (set == m_timeSets.end()) {
             throw readError(path, "it has no time set " + std::to_string(files->timeSet));
+        }
         times.insert(set->second.times.begin(), set->second.times.end());
     }
     m_times.assign(times.begin(), times.end());
@@ -253,13 +278,16 @@ EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
 
 EnSightCase::Place EnSightCase::placeOf(const EnSightFiles& files, double time) const {
     const auto folder = std::filesystem::path(m_path).parent_path();
-    if (files.timeSet == 0)
+    if (files.timeSet == 0) {
         return {(folder / files.pattern).string(), 0};
+    }
     const EnSightTimeSet& set = m_timeSets.at(files.timeSet);
     std::size_t step = 0;
-    for (std::size_t i = 1; i < set.times.size(); ++i)
-        if (set.times[i] <= time && (set.times[i] >= set.times[step] || set.times[step] > time))
+    for (std::size_t i = 1; i < set.times.size(); ++i) {
+        if (set.times[i] <= time && (set.times[i] >= set.times[step] || set.times[step] > time)) {
             step = i;
+        }
+    }
     const std::string file = withNumber(files.pattern, set.numbers[step]);
     return {(folder / file).string(), files.isOneFile ? static_cast<int>(step) : 0};
 }

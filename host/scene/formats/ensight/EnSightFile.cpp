@@ -19,8 +19,9 @@ namespace {
 template <class Work>
 auto aboutFile(const std::string& casePath, const std::string& path, Work work) {
     std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error))
+    if (!std::filesystem::is_regular_file(path, error)) {
         throw readError(casePath, "it names " + path + ", which is no file");
+    }
     try {
         return work();
     } catch (const std::runtime_error& failure) {
@@ -32,8 +33,9 @@ std::vector<MeshPart> partsOf(EnSightParts& read) {
     std::vector<MeshPart> parts;
     std::set<std::string> names;
     for (auto& [number, part] : read) {
-        if (part.mesh->GetNumberOfPoints() == 0)
+        if (part.mesh->GetNumberOfPoints() == 0) {
             continue;
+        }
         const std::string name = part.name.empty() ? "part" : part.name;
         const bool isNew = names.insert(name).second;
         parts.push_back({isNew ? name : name + " " + std::to_string(number), part.mesh});
@@ -70,11 +72,14 @@ std::vector<MeshPart> EnSightFile::read(int step) const {
         });
     }
     auto parts = partsOf(read);
-    if (parts.empty())
+    if (parts.empty()) {
         throw readError(path(), "it holds no mesh");
-    for (const MeshPart& part : parts)
-        if (!isSound(*part.mesh))
+    }
+    for (const MeshPart& part : parts) {
+        if (!isSound(*part.mesh)) {
             throw readError(path(), "its part \"" + part.name + "\" is damaged");
+        }
+    }
     return parts;
 }
 

@@ -37,7 +37,7 @@ Shape shape(int cellType, std::size_t nodeCount) {
 
 const Shape* shapeOf(const std::string& kind) {
     // The first triangle of VTK's wedges looks outwards.
-    static const std::map<std::string, Shape> shapes{
+    const static std::map<std::string, Shape> shapes{
         {"point", shape(VTK_VERTEX, 1)},
         {"bar2", shape(VTK_LINE, 2)},
         {"bar3", shape(VTK_QUADRATIC_EDGE, 3)},
@@ -59,15 +59,17 @@ const Shape* shapeOf(const std::string& kind) {
 }
 
 std::size_t counted(int count) {
-    if (count < 0)
+    if (count < 0) {
         throw std::runtime_error("holds a negative count");
+    }
     return static_cast<std::size_t>(count);
 }
 
 std::size_t sumOf(const std::vector<int>& counts) {
     std::size_t sum = 0;
-    for (const int count : counts)
+    for (const int count : counts) {
         sum += counted(count);
+    }
     return sum;
 }
 
@@ -98,8 +100,9 @@ public:
             EnSightPart part;
             part.name = m_input.line();
             readMesh(part);
-            if (!parts.emplace(number, std::move(part)).second)
+            if (!parts.emplace(number, std::move(part)).second) {
                 throw std::runtime_error("has two parts with the number " + std::to_string(number));
+            }
         }
         return parts;
     }
@@ -107,8 +110,9 @@ public:
 private:
     bool hasIds(const std::string& what) {
         const std::string text = m_input.keyword();
-        if (!text.starts_with(what))
+        if (!text.starts_with(what)) {
             throw std::runtime_error("does not say whether there is a \"" + what + "\"");
+        }
         return text.ends_with("given") || text.ends_with("ignore");
     }
 
@@ -132,48 +136,55 @@ private:
         const auto z = m_input.numbers(count);
         auto points = vtkSmartPointer<vtkPoints>::New();
         points->SetNumberOfPoints(static_cast<vtkIdType>(count));
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             points->SetPoint(static_cast<vtkIdType>(i), x[i], y[i], z[i]);
+        }
         return points;
     }
 
     void readUnstructured(EnSightPart& part) {
         const std::size_t count = counted(m_input.integer());
         m_nodeCount = static_cast<int>(count);
-        if (m_hasNodeIds)
+        if (m_hasNodeIds) {
             m_input.integers(count);
+        }
         const auto grid = vtkSmartPointer<vtkUnstructuredGrid>::New();
         grid->SetPoints(readPoints(count));
         while (!m_input.isAtEnd()) {
             const std::string next = m_input.peekKeyword();
-            if (next == "part" || next == "END TIME STEP")
+            if (next == "part" || next == "END TIME STEP") {
                 break;
+            }
             const std::string kind = m_input.keyword();
             const bool isGhost = kind.starts_with("g_");
             const vtkIdType first = grid->GetNumberOfCells();
             const vtkNew<vtkUnstructuredGrid> elsewhere;
             const int cells =
                 readCells(isGhost ? *elsewhere : *grid, isGhost ? kind.substr(2) : kind);
-            if (!part.cells.emplace(kind, EnSightPart::Cells{first, cells, isGhost}).second)
+            if (!part.cells.emplace(kind, EnSightPart::Cells{first, cells, isGhost}).second) {
                 throw std::runtime_error("has the cells \"" + kind + "\" of a part twice");
+            }
         }
         part.mesh = grid;
     }
 
     int readCells(vtkUnstructuredGrid& grid, const std::string& kind) {
         const Shape* const shape = shapeOf(kind);
-        if (shape == nullptr && kind != "nsided" && kind != "nfaced")
+        if (shape == nullptr && kind != "nsided" && kind != "nfaced") {
             throw std::runtime_error("has cells of an unknown kind");
+        }
         const int count = m_input.integer();
         const std::size_t cells = counted(count);
-        if (m_hasElementIds)
+        if (m_hasElementIds) {
             m_input.integers(cells);
-        if (kind == "nsided")
+        }
+        if (kind == "nsided") {
             readPolygons(grid, cells);
-        else if (kind == "nfaced")
+        } else if (kind == "nfaced") {
             readPolyhedra(grid, cells);
-        else
+        } else {
             readShapes(grid, *shape, cells);
+        }
         return count;
     }
 
@@ -181,8 +192,9 @@ private:
         const Ids nodes = readNodes(cells * shape.nodes.size());
         Ids cell(shape.nodes.size());
         for (std::size_t first = 0; first < nodes.size(); first += cell.size()) {
-            for (std::size_t i = 0; i < cell.size(); ++i)
+            for (std::size_t i = 0; i < cell.size(); ++i) {
                 cell[i] = nodes[first + shape.nodes[i]];
+            }
             grid.InsertNextCell(shape.cellType, static_cast<vtkIdType>(cell.size()), cell.data());
         }
     }
@@ -225,33 +237,39 @@ private:
         Ids nodes;
         nodes.reserve(count);
         for (const int number : numbers) {
-            if (number < 1 || number > m_nodeCount)
+            if (number < 1 || number > m_nodeCount) {
                 throw std::runtime_error("has cells with nodes that are not there");
+            }
             nodes.push_back(number - 1);
         }
         return nodes;
     }
 
     void readBlock(EnSightPart& part, const std::set<std::string>& options) {
-        for (const char* const option : {"iblanked", "with_ghost", "range"})
-            if (options.contains(option))
+        for (const char* const option : {"iblanked", "with_ghost", "range"}) {
+            if (options.contains(option)) {
                 throw std::runtime_error(std::string("has a block that is \"") + option +
                                          "\", which cannot be read");
+            }
+        }
         const auto counts = m_input.integers(3);
         std::size_t points = 1;
         for (const int count : counts) {
-            if (count < 1)
+            if (count < 1) {
                 throw std::runtime_error("has a block without points");
+            }
             points *= static_cast<std::size_t>(count);
-            if (points > std::numeric_limits<int>::max())
+            if (points > std::numeric_limits<int>::max()) {
                 throw std::runtime_error("has a block that is too large");
+            }
         }
-        if (options.contains("uniform"))
+        if (options.contains("uniform")) {
             part.mesh = readUniform(counts);
-        else if (options.contains("rectilinear"))
+        } else if (options.contains("rectilinear")) {
             part.mesh = readRectilinear(counts);
-        else
+        } else {
             part.mesh = readCurvilinear(counts, points);
+        }
         part.cells["block"] = {0, part.mesh->GetNumberOfCells(), false};
     }
 
@@ -291,19 +309,23 @@ private:
 } // namespace
 
 bool hasEnSightPart(EnSightInput& input) {
-    if (input.isAtEnd())
+    if (input.isAtEnd()) {
         return false;
+    }
     const std::string next = input.peekKeyword();
-    if (next == "END TIME STEP")
+    if (next == "END TIME STEP") {
         return false;
-    if (next != "part")
+    }
+    if (next != "part") {
         throw std::runtime_error("has something else where a part should begin");
+    }
     return true;
 }
 
 EnSightParts readEnSightGeometry(EnSightInput& input, int index) {
-    if (input.kind() == EnSightInput::Kind::Binary)
+    if (input.kind() == EnSightInput::Kind::Binary) {
         input.line();
+    }
     goToEnSightStep(input, index, [&input] { GeometryReader(input).read(); });
     return GeometryReader(input).read();
 }

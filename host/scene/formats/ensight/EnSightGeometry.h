@@ -38,8 +38,9 @@ void goToEnSightStep(EnSightInput& input, int index, Skip skip) {
     const std::string begin = "BEGIN TIME STEP";
     for (; input.peekKeyword() == begin; --index) {
         input.keyword();
-        if (index == 0)
+        if (index == 0) {
             return;
+        }
         skip();
         input.keyword(); // END TIME STEP
     }

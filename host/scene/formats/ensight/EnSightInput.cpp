@@ -25,8 +25,9 @@ constexpr std::string_view spaces = " \t\r\n\v\f";
 std::string trimmed(std::string_view text) {
     text = text.substr(0, text.find('\0'));
     const auto first = text.find_first_not_of(spaces);
-    if (first == std::string_view::npos)
+    if (first == std::string_view::npos) {
         return {};
+    }
     return std::string(text.substr(first, text.find_last_not_of(spaces) - first + 1));
 }
 
@@ -44,8 +45,9 @@ EnSightInput::Kind EnSightInput::kindOf(const std::string& geometryPath) {
     std::ifstream stream(geometryPath, std::ios::binary);
     stream.read(bytes.data(), bytes.size());
     const std::string_view start(bytes.data(), static_cast<std::size_t>(stream.gcount()));
-    if (start.starts_with("Fortran Binary"))
+    if (start.starts_with("Fortran Binary")) {
         throw std::runtime_error("is in the binary form of Fortran; text and C Binary can be read");
+    }
     return start.starts_with("C Binary") ? Kind::Binary : Kind::Text;
 }
 
@@ -55,16 +57,19 @@ EnSightInput::EnSightInput(const std::string& path, Kind kind) : m_kind(kind) {
 }
 
 bool EnSightInput::isAtEnd() {
-    if (m_kind == Kind::Text)
+    if (m_kind == Kind::Text) {
         skipSpace();
+    }
     return m_at >= m_content.size();
 }
 
 std::string EnSightInput::line() {
-    if (m_kind == Kind::Binary)
+    if (m_kind == Kind::Binary) {
         return trimmed(take(lineLength));
-    if (m_at >= m_content.size())
+    }
+    if (m_at >= m_content.size()) {
         failAtEnd();
+    }
     const auto end = std::min(m_content.find('\n', m_at), m_content.size());
     const std::string text = trimmed(take(end - m_at));
     m_at = std::min(end + 1, m_content.size());
@@ -72,8 +77,9 @@ std::string EnSightInput::line() {
 }
 
 std::string EnSightInput::keyword() {
-    if (isAtEnd())
+    if (isAtEnd()) {
         failAtEnd();
+    }
     return line();
 }
 
@@ -100,32 +106,38 @@ template <class Number>
 std::vector<Number> EnSightInput::values(std::size_t count) {
     // A text has a digit and a space at least for each, but for the last.
     const std::size_t left = m_content.size() - m_at;
-    if (count > (m_kind == Kind::Text ? left / 2 + 1 : left / sizeof(Number)))
+    if (count > (m_kind == Kind::Text ? left / 2 + 1 : left / sizeof(Number))) {
         failAtEnd();
+    }
     std::vector<Number> numbers(count);
-    for (Number& number : numbers)
+    for (Number& number : numbers) {
         number = m_kind == Kind::Text ? textValue<Number>() : binaryValue<Number>();
-    if (m_kind == Kind::Text && count > 0)
+    }
+    if (m_kind == Kind::Text && count > 0) {
         m_at = std::min(m_content.find('\n', m_at), m_content.size() - 1) + 1;
+    }
     return numbers;
 }
 
 template <class Number>
 Number EnSightInput::textValue() {
     skipSpace();
-    if (m_at >= m_content.size())
+    if (m_at >= m_content.size()) {
         failAtEnd();
+    }
     const char* const first = m_content.data() + m_at;
     const char* const last = m_content.data() + m_content.size();
     std::conditional_t<std::is_integral_v<Number>, Number, double> value{};
     const auto [end, error] = std::from_chars(*first == '+' ? first + 1 : first, last, value);
-    if (error != std::errc{} || (end != last && spaces.find(*end) == std::string_view::npos))
+    if (error != std::errc{} || (end != last && spaces.find(*end) == std::string_view::npos)) {
         throw std::runtime_error("holds what is no number where one should be");
+    }
     m_at += static_cast<std::size_t>(end - first);
-    if constexpr (std::is_integral_v<Number>)
+    if constexpr (std::is_integral_v<Number>) {
         return value;
-    else
+    } else {
         return narrowed<Number>(value);
+    }
 }
 
 template <class Number>
@@ -137,18 +149,21 @@ Number EnSightInput::binaryValue() {
         // The number of a part comes first, and is small.
         const auto asItIs = std::bit_cast<Number>(bytes);
         constexpr Number manyParts = 65536;
-        if (!m_isOrderKnown)
+        if (!m_isOrderKnown) {
             m_isSwapped = asItIs < 0 || asItIs > manyParts;
+        }
         m_isOrderKnown = true;
     }
-    if (m_isSwapped)
+    if (m_isSwapped) {
         std::reverse(bytes.begin(), bytes.end());
+    }
     return std::bit_cast<Number>(bytes);
 }
 
 std::string_view EnSightInput::take(std::size_t length) {
-    if (length > m_content.size() - m_at)
+    if (length > m_content.size() - m_at) {
         failAtEnd();
+    }
     const auto taken = std::string_view(m_content).substr(m_at, length);
     m_at += length;
     return taken;

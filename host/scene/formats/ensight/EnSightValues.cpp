@@ -23,21 +23,24 @@ public:
             m_input.keyword();
             const int number = m_input.integer();
             const auto found = m_parts.find(number);
-            if (found == m_parts.end())
+            if (found == m_parts.end()) {
                 throw std::runtime_error("has values for the part " + std::to_string(number) +
                                          ", which the geometry does not have");
-            if (m_variable.isOfCells)
+            }
+            if (m_variable.isOfCells) {
                 readCells(found->second);
-            else
+            } else {
                 readPoints(*found->second.mesh);
+            }
         }
     }
 
 private:
     void readPoints(vtkDataSet& mesh) {
         const std::string kind = m_input.keyword();
-        if (kind != "coordinates" && kind != "block")
+        if (kind != "coordinates" && kind != "block") {
             throw std::runtime_error("has values of an unknown kind");
+        }
         const auto array = makeArray(mesh.GetNumberOfPoints());
         readInto(*array, 0, mesh.GetNumberOfPoints());
         mesh.GetPointData()->AddArray(array);
@@ -48,16 +51,19 @@ private:
         array->Fill(std::nan(""));
         while (!m_input.isAtEnd()) {
             const std::string next = m_input.peekKeyword();
-            if (next == "part" || next == "END TIME STEP")
+            if (next == "part" || next == "END TIME STEP") {
                 break;
+            }
             const auto cells = part.cells.find(m_input.keyword());
-            if (cells == part.cells.end())
+            if (cells == part.cells.end()) {
                 throw std::runtime_error("has values for cells that the geometry does not have");
-            if (cells->second.isGhost)
+            }
+            if (cells->second.isGhost) {
                 m_input.numbers(static_cast<std::size_t>(cells->second.count) *
                                 static_cast<std::size_t>(m_variable.components));
-            else
+            } else {
                 readInto(*array, cells->second.first, cells->second.count);
+            }
         }
         part.mesh->GetCellData()->AddArray(array);
     }
@@ -73,8 +79,9 @@ private:
     void readInto(vtkFloatArray& array, vtkIdType first, vtkIdType count) {
         for (int component = 0; component < m_variable.components; ++component) {
             const auto values = m_input.numbers(static_cast<std::size_t>(count));
-            for (vtkIdType i = 0; i < count; ++i)
+            for (vtkIdType i = 0; i < count; ++i) {
                 array.SetTypedComponent(first + i, component, values[static_cast<std::size_t>(i)]);
+            }
         }
     }
 

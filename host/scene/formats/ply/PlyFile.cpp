@@ -30,8 +30,9 @@ public:
     PlySurface(std::istream& stream, const PlyHeader& header) : m_values(stream, header.format) {
         m_surface->SetPoints(vtkSmartPointer<vtkPoints>::New());
         m_surface->SetPolys(vtkSmartPointer<vtkCellArray>::New());
-        for (const Element& element : header.elements)
+        for (const Element& element : header.elements) {
             read(element);
+        }
         checkFaces();
     }
 
@@ -39,20 +40,23 @@ public:
 
 private:
     void read(const Element& element) {
-        if (element.name == "vertex")
+        if (element.name == "vertex") {
             readPoints(element);
-        else
+        } else {
             readLists(element, element.name == "face");
+        }
     }
 
     void readPoints(const Element& element) {
         std::array<double, 3> point{};
         std::vector<Target> targets;
-        for (const Property& property : element.properties)
+        for (const Property& property : element.properties) {
             targets.push_back(targetOf(property, point));
+        }
         for (long i = 0; i < element.count; ++i) {
-            for (std::size_t p = 0; p < targets.size(); ++p)
+            for (std::size_t p = 0; p < targets.size(); ++p) {
                 readPointValue(element.properties[p], targets[p]);
+            }
             m_surface->GetPoints()->InsertNextPoint(point.data());
         }
     }
@@ -64,11 +68,14 @@ private:
     };
 
     Target targetOf(const Property& property, std::array<double, 3>& point) {
-        for (std::size_t c = 0; c < 3; ++c)
-            if (property.name == std::string(1, "xyz"[c]))
+        for (std::size_t c = 0; c < 3; ++c) {
+            if (property.name == std::string(1, "xyz"[c])) {
                 return {&point[c], nullptr};
-        if (property.isList)
+            }
+        }
+        if (property.isList) {
             return {};
+        }
         const auto array = vtkSmartPointer<vtkFloatArray>::New();
         array->SetName(property.name.c_str());
         m_surface->GetPointData()->AddArray(array);
@@ -81,14 +88,15 @@ private:
             return;
         }
         const double value = m_values.next(property.type);
-        if (target.coordinate != nullptr)
+        if (target.coordinate != nullptr) {
             *target.coordinate = value;
-        else
+        } else {
             target.array->InsertNextValue(static_cast<float>(value));
+        }
     }
 
     void readLists(const Element& element, bool areFaces) {
-        for (long i = 0; i < element.count; ++i)
+        for (long i = 0; i < element.count; ++i) {
             for (const Property& property : element.properties) {
                 if (!property.isList) {
                     m_values.next(property.type);
@@ -97,28 +105,33 @@ private:
                 const auto list = readList(property);
                 const bool isFace = areFaces && (property.name == "vertex_indices" ||
                                                  property.name == "vertex_index");
-                if (isFace && list.size() >= 3)
+                if (isFace && list.size() >= 3) {
                     m_surface->GetPolys()->InsertNextCell(static_cast<vtkIdType>(list.size()),
                                                           list.data());
+                }
             }
+        }
     }
 
     std::vector<vtkIdType> readList(const Property& property) {
         std::vector<vtkIdType> list;
-        for (double left = m_values.next(property.countType); left >= 1.0; left -= 1.0)
+        for (double left = m_values.next(property.countType); left >= 1.0; left -= 1.0) {
             list.push_back(static_cast<vtkIdType>(m_values.next(property.type)));
+        }
         return list;
     }
 
     void checkFaces() {
         vtkCellArray& faces = *m_surface->GetPolys();
-        if (faces.GetNumberOfConnectivityIds() == 0)
+        if (faces.GetNumberOfConnectivityIds() == 0) {
             return;
+        }
         std::array<double, 2> range{};
         faces.GetConnectivityArray()->GetRange(range.data());
         const auto points = static_cast<double>(m_surface->GetNumberOfPoints());
-        if (range[0] < 0.0 || range[1] >= points)
+        if (range[0] < 0.0 || range[1] >= points) {
             throw std::runtime_error("a face has a point that does not exist");
+        }
     }
 
     PlyValues m_values;
@@ -133,8 +146,9 @@ std::vector<MeshPart> PlyFile::read(int /*step*/) const {
     try {
         const PlyHeader header = readPlyHeader(stream);
         const auto surface = PlySurface(stream, header).surface();
-        if (surface->GetNumberOfPoints() == 0)
+        if (surface->GetNumberOfPoints() == 0) {
             throw std::runtime_error("it holds no mesh");
+        }
         return {{"", surface}};
     } catch (const std::runtime_error& error) {
         throw readError(path(), error.what());

@@ -21,13 +21,14 @@ template <class Value>
 Value lookUp(const std::map<std::string, Value, std::less<>>& table, const std::string& word,
              const std::string& line) {
     const auto found = table.find(word);
-    if (found == table.end())
+    if (found == table.end()) {
         fail(line);
+    }
     return found->second;
 }
 
 Type typeOf(const std::string& word, const std::string& line) {
-    static const std::map<std::string, Type, std::less<>> types{
+    const static std::map<std::string, Type, std::less<>> types{
         {"char", Type::Int8},       {"int8", Type::Int8},       {"uchar", Type::Uint8},
         {"uint8", Type::Uint8},     {"short", Type::Int16},     {"int16", Type::Int16},
         {"ushort", Type::Uint16},   {"uint16", Type::Uint16},   {"int", Type::Int32},
@@ -39,7 +40,7 @@ Type typeOf(const std::string& word, const std::string& line) {
 }
 
 Format formatOf(const std::string& word, const std::string& line) {
-    static const std::map<std::string, Format, std::less<>> formats{
+    const static std::map<std::string, Format, std::less<>> formats{
         {"ascii", Format::Ascii},
         {"binary_little_endian", Format::LittleEndian},
         {"binary_big_endian", Format::BigEndian},
@@ -58,32 +59,37 @@ PlyHeader::Property propertyOf(std::istringstream& words, const std::string& lin
         property.countType = typeOf(countType, line);
     }
     property.type = typeOf(type, line);
-    if (!(words >> property.name))
+    if (!(words >> property.name)) {
         fail(line);
+    }
     return property;
 }
 
 PlyHeader::Element elementOf(std::istringstream& words, const std::string& line) {
     PlyHeader::Element element;
-    if (!(words >> element.name >> element.count) || element.count < 0)
+    if (!(words >> element.name >> element.count) || element.count < 0) {
         fail(line);
+    }
     return element;
 }
 
 std::string nextLine(std::istream& stream) {
     std::string line;
-    if (!std::getline(stream, line))
+    if (!std::getline(stream, line)) {
         throw std::runtime_error("its header has no end");
-    if (line.ends_with('\r'))
+    }
+    if (line.ends_with('\r')) {
         line.pop_back();
+    }
     return line;
 }
 
 } // namespace
 
 PlyHeader readPlyHeader(std::istream& stream) {
-    if (nextLine(stream) != "ply")
+    if (nextLine(stream) != "ply") {
         throw std::runtime_error("it is no PLY file");
+    }
     PlyHeader header;
     for (std::string line = nextLine(stream); line != "end_header"; line = nextLine(stream)) {
         std::istringstream words(line);

@@ -20,19 +20,22 @@ namespace {
 template <class Number>
 double PlyValues::nextBinary() {
     std::array<char, sizeof(Number)> bytes{};
-    if (!m_stream.read(bytes.data(), bytes.size()))
+    if (!m_stream.read(bytes.data(), bytes.size())) {
         fail();
+    }
     const bool isLittle = m_format == PlyHeader::Format::LittleEndian;
-    if (isLittle != (std::endian::native == std::endian::little))
+    if (isLittle != (std::endian::native == std::endian::little)) {
         std::reverse(bytes.begin(), bytes.end());
+    }
     return static_cast<double>(std::bit_cast<Number>(bytes));
 }
 
 double PlyValues::next(PlyHeader::Type type) {
     if (m_format == PlyHeader::Format::Ascii) {
         double value = 0.0;
-        if (!(m_stream >> value))
+        if (!(m_stream >> value)) {
             fail();
+        }
         return value;
     }
     using Type = PlyHeader::Type;

@@ -13,7 +13,7 @@ namespace {
 using namespace corvane::corutiltools;
 
 TEST(CaseInsensitiveCharLess, ordersLettersWhateverTheirCase) {
-    CaseInsensitiveCharLess const less;
+    const CaseInsensitiveCharLess less;
     EXPECT_TRUE(less('a', 'B'));
     EXPECT_TRUE(less('A', 'b'));
     EXPECT_FALSE(less('b', 'A'));
@@ -28,27 +28,28 @@ TEST(CaseInsensitiveCharLess, comparesAsLowerCase) {
 }
 
 TEST(CaseInsensitiveCharLess, leavesTheNeighboursOfLettersAlone) {
-    CaseInsensitiveCharLess const less;
+    const CaseInsensitiveCharLess less;
     EXPECT_TRUE(less('@', '`'));
     EXPECT_TRUE(less('[', '{'));
 }
 
 TEST(CaseInsensitiveCharLess, givesBytesBeyondAsciiNoCase) {
-    CaseInsensitiveCharLess const less;
-    char const capital = '\xC4';
-    char const small = '\xE4';
+    const CaseInsensitiveCharLess less;
+    const char capital = '\xC4';
+    const char small = '\xE4';
     EXPECT_TRUE(less(capital, small));
     EXPECT_FALSE(less(small, capital));
     EXPECT_TRUE(less('z', capital));
 }
 
 TEST(CaseInsensitiveCharGreater, mirrorsLess) {
-    for (int left = 0; left < 256; ++left)
+    for (int left = 0; left < 256; ++left) {
         for (int right = 0; right < 256; ++right) {
-            char const l = static_cast<char>(left);
-            char const r = static_cast<char>(right);
+            const char l = static_cast<char>(left);
+            const char r = static_cast<char>(right);
             ASSERT_EQ(CaseInsensitiveCharGreater()(l, r), CaseInsensitiveCharLess()(r, l));
         }
+    }
 }
 
 TEST(CaseInsensitiveStringCompareObj, takesSpellingsOfOneWordForEqual) {
@@ -60,7 +61,7 @@ TEST(CaseInsensitiveStringCompareObj, takesSpellingsOfOneWordForEqual) {
 }
 
 TEST(CaseInsensitiveStringCompareObj, putsAPrefixFirst) {
-    CaseInsensitiveStringCompareObj const less;
+    const CaseInsensitiveStringCompareObj less;
     EXPECT_TRUE(less("FADE", "fadein"));
     EXPECT_FALSE(less("fadein", "FADE"));
     EXPECT_TRUE(less("", "a"));
@@ -68,8 +69,8 @@ TEST(CaseInsensitiveStringCompareObj, putsAPrefixFirst) {
 }
 
 TEST(CaseInsensitiveStringCompareObj, looksBeyondZeroBytes) {
-    std::string const first("a\0b", 3);
-    std::string const second("A\0c", 3);
+    const std::string first("a\0b", 3);
+    const std::string second("A\0c", 3);
     EXPECT_TRUE(CaseInsensitiveStringCompareObj()(first, second));
     EXPECT_FALSE(CaseInsensitiveStringCompareObj()(second, first));
 }

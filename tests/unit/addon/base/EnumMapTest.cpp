@@ -15,21 +15,21 @@ using namespace corvane::corutiltools;
 
 // Checks a whole table in the order of the values, which begin at 0.
 template <typename T>
-void expectTable(std::vector<std::string> const& keywords) {
-    EnumMap<T> const& map = EnumMap<T>::instance();
+void expectTable(const std::vector<std::string>& keywords) {
+    const EnumMap<T>& map = EnumMap<T>::instance();
     EXPECT_EQ(sizeof(T), 4u);
     for (std::size_t index = 0; index < keywords.size(); ++index) {
-        T const value = static_cast<T>(index);
+        const T value = static_cast<T>(index);
         EXPECT_EQ(map.toString(value), keywords[index]);
         T found{};
         EXPECT_TRUE(map.fromString(keywords[index], found)) << keywords[index];
         EXPECT_EQ(found, value);
     }
-    for (int const stranger : {-1, static_cast<int>(keywords.size())}) {
+    for (const int stranger : {-1, static_cast<int>(keywords.size())}) {
         try {
             map.toString(static_cast<T>(stranger));
             FAIL() << "has a keyword: " << stranger;
-        } catch (std::out_of_range const& error) {
+        } catch (const std::out_of_range& error) {
             EXPECT_STREQ(error.what(), "Enumeration out of range.");
         }
     }
@@ -63,8 +63,9 @@ TEST(EnumMap, ignoresLetterCaseOnTheWayBack) {
 
 TEST(EnumMap, leavesTheValueAloneForAnUnknownKeyword) {
     Destination_e value = Destination_ToFile;
-    for (std::string const keyword : {"", "OnScree", "OnScreens", "On Screen", "AVI"})
+    for (const std::string keyword : {"", "OnScree", "OnScreens", "On Screen", "AVI"}) {
         EXPECT_FALSE(EnumMap<Destination_e>::instance().fromString(keyword, value)) << keyword;
+    }
     EXPECT_EQ(value, Destination_ToFile);
 }
 
@@ -73,7 +74,7 @@ TEST(EnumMap, isMadeOnce) {
 }
 
 TEST(ReverseMap, turnsPairsRoundAndKeepsTheFirstOfEqualKeywords) {
-    std::map<int, std::string> const forward{{1, "one"}, {2, "two"}, {3, "ONE"}};
+    const std::map<int, std::string> forward{{1, "one"}, {2, "two"}, {3, "ONE"}};
     std::map<std::string, int, CaseInsensitiveStringCompareObj> backward;
     ReverseMap(forward, backward);
     EXPECT_EQ(backward.size(), 2u);

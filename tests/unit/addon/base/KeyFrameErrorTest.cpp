@@ -17,9 +17,9 @@ TEST(KeyFrameError, tellsItsMessage) {
 
 TEST(KeyFrameError, copiesItsMessage) {
     std::string text = "before";
-    KeyFrameError const error(text);
+    const KeyFrameError error(text);
     text = "after";
-    KeyFrameError const copy(error);
+    const KeyFrameError copy(error);
     EXPECT_STREQ(copy.what(), "before");
 }
 

@@ -17,7 +17,7 @@ using testing::StartsWith;
 
 class OnIdleManagerTest : public ShellTest {
 protected:
-    void add(std::string const& name) {
+    void add(const std::string& name) {
         manager.addCallback([this, name] { ran.push_back(name); });
     }
 

@@ -23,7 +23,7 @@ protected:
     std::vector<int> heard;
     std::vector<int> depths;
     StateChangeListener listener{
-        [this](StateChangeEventInterface const& event, StateChangeNotifierInterface&) {
+        [this](const StateChangeEventInterface& event, StateChangeNotifierInterface&) {
             heard.push_back(event.stateChange());
             depths.push_back(lockDepth());
         }};
@@ -78,8 +78,8 @@ TEST_F(StateChangeListenerTest, takesALockOfItsOwnToStop) {
 
 TEST_F(StateChangeListenerTest, locksWhileItRegisters) {
     host.clearCalls();
-    StateChangeListener const another{
-        [](StateChangeEventInterface const&, StateChangeNotifierInterface&) {}};
+    const StateChangeListener another{
+        [](const StateChangeEventInterface&, StateChangeNotifierInterface&) {}};
     EXPECT_THAT(
         host.calls(),
         ElementsAre(lockStart, "CorUtilStateChangeAddListener(2, non-null, non-null)", lockFinish));
@@ -93,7 +93,7 @@ public:
 
 TEST_F(StateChangeListenerTest, releasesTheLockWhenItsHandlerThrows) {
     StateChangeListener throwing{
-        [](StateChangeEventInterface const&, StateChangeNotifierInterface&) {
+        [](const StateChangeEventInterface&, StateChangeNotifierInterface&) {
             throw std::runtime_error("handler");
         }};
     corvane::toolbox::StateChangeNotifier notifier(StateChangeMode_Synchronous);

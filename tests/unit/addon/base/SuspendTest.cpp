@@ -18,9 +18,9 @@ class SuspendTest : public EngineTest {};
 
 TEST_F(SuspendTest, hostLockHoldsOneLock) {
     {
-        HostLock const lock;
+        const HostLock lock;
         EXPECT_EQ(host.session().locks().depth(), 1);
-        HostLock const nested;
+        const HostLock nested;
         EXPECT_EQ(host.session().locks().depth(), 2);
     }
     EXPECT_EQ(host.session().locks().depth(), 0);
@@ -28,7 +28,7 @@ TEST_F(SuspendTest, hostLockHoldsOneLock) {
 
 TEST_F(SuspendTest, graphicsLocksBeforeItSuspendsAndUndoesBothInReverse) {
     {
-        SuspendGraphics const suspended;
+        const SuspendGraphics suspended;
         EXPECT_THAT(callNames(), ElementsAre("CorUtilLockStart", "CorUtilDrawGraphics(FALSE)"));
         host.clearCalls();
     }
@@ -37,8 +37,8 @@ TEST_F(SuspendTest, graphicsLocksBeforeItSuspendsAndUndoesBothInReverse) {
 
 TEST_F(SuspendTest, graphicsGuardsNest) {
     {
-        SuspendGraphics const outer;
-        { SuspendGraphics const inner; }
+        const SuspendGraphics outer;
+        { const SuspendGraphics inner; }
         EXPECT_EQ(host.session().drawing().suspensions(), 1);
         EXPECT_EQ(host.session().locks().depth(), 1);
     }
@@ -48,7 +48,7 @@ TEST_F(SuspendTest, graphicsGuardsNest) {
 TEST_F(SuspendTest, graphicsComeBackWhenAnExceptionPasses) {
     EXPECT_THROW(
         {
-            SuspendGraphics const suspended;
+            const SuspendGraphics suspended;
             throw std::runtime_error("passing");
         },
         std::runtime_error);
@@ -64,7 +64,7 @@ TEST_F(SuspendTest, graphicsThatCannotBeSuspendedLeaveNoLock) {
 
 TEST_F(SuspendTest, displayListsAreOffForTheScope) {
     {
-        SuspendDisplayLists const off;
+        const SuspendDisplayLists off;
         EXPECT_FALSE(usesDisplayLists());
     }
     EXPECT_TRUE(usesDisplayLists());
@@ -72,13 +72,13 @@ TEST_F(SuspendTest, displayListsAreOffForTheScope) {
 
 TEST_F(SuspendTest, displayListsThatWereOffStayOff) {
     toolbox::StyleValue("Interface").setBoolean(false, "UseDisplayLists");
-    { SuspendDisplayLists const off; }
+    { const SuspendDisplayLists off; }
     EXPECT_FALSE(usesDisplayLists());
 }
 
 TEST_F(SuspendTest, displayListsThatCannotBeReadCountAsOff) {
     host.failNext("CorUtilStyleGet");
-    { SuspendDisplayLists const off; }
+    { const SuspendDisplayLists off; }
     EXPECT_FALSE(usesDisplayLists());
 }
 

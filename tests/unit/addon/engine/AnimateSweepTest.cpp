@@ -17,7 +17,7 @@ namespace {
 
 using namespace corutiltools;
 
-KeyFrames const& sweptFlight() {
+const KeyFrames& sweptFlight() {
     return flightCase("TwoKeysCountTwo").keyFrames;
 }
 
@@ -42,7 +42,7 @@ struct Scene {
     MemoryHost host;
 };
 
-void expectAtRest(MemoryHost& host, std::string const& what) {
+void expectAtRest(MemoryHost& host, const std::string& what) {
     EXPECT_EQ(host.session().locks().depth(), 0) << what;
     EXPECT_EQ(host.session().drawing().suspensions(), 0) << what;
     EXPECT_FALSE(host.session().status().isActive()) << what;
@@ -50,14 +50,14 @@ void expectAtRest(MemoryHost& host, std::string const& what) {
     EXPECT_THAT(host.misuse(), IsEmpty()) << what;
 }
 
-std::string nameOf(std::string const& call) {
+std::string nameOf(const std::string& call) {
     return call.substr(0, call.find('('));
 }
 
 // The calls of the flight that a scope makes when it is left: the host failing there ends the
 // program, so they are not made to throw.
-bool isCleanUp(std::string const& call) {
-    static std::set<std::string> const names{"CorUtilLockFinish", "CorUtilStatusFinishPercentDone",
+bool isCleanUp(const std::string& call) {
+    const static std::set<std::string> names{"CorUtilLockFinish", "CorUtilStatusFinishPercentDone",
                                              "CorUtilSetDealloc", "CorUtilExportFinish"};
     return call == "CorUtilDrawGraphics(TRUE)" || names.count(nameOf(call)) > 0;
 }
@@ -72,14 +72,14 @@ struct Throw {
 std::vector<Throw> throwsOfAFlight() {
     Scene scene;
     scene.fly();
-    std::vector<std::string> const calls = scene.host.calls();
-    std::string const firstOfCleanUp =
+    const std::vector<std::string> calls = scene.host.calls();
+    const std::string firstOfCleanUp =
         R"(CorUtilStyleSet("Interface","UseDisplayLists", IValue=1, DValue=1))";
-    auto const end = std::find(calls.begin(), calls.end(), firstOfCleanUp);
+    const auto end = std::find(calls.begin(), calls.end(), firstOfCleanUp);
     std::vector<Throw> result;
     std::map<std::string, std::size_t> seen;
     for (auto call = calls.begin(); call != end; ++call) {
-        std::size_t const k = ++seen[nameOf(*call)];
+        const std::size_t k = ++seen[nameOf(*call)];
         if (!isCleanUp(*call)) {
             result.push_back({nameOf(*call), k});
         }
@@ -88,12 +88,12 @@ std::vector<Throw> throwsOfAFlight() {
 }
 
 TEST(AnimateSweep, everyCallThatThrowsLeavesTheHostAsItWas) {
-    std::vector<Throw> const all = throwsOfAFlight();
+    const std::vector<Throw> all = throwsOfAFlight();
     ASSERT_GT(all.size(), 100u);
-    for (Throw const& one : all) {
-        std::string const what = one.operation + " " + std::to_string(one.k);
+    for (const Throw& one : all) {
+        const std::string what = one.operation + " " + std::to_string(one.k);
         Scene scene;
-        host::FrameStyle const before = scene.host.frame().style;
+        const host::FrameStyle before = scene.host.frame().style;
         scene.host.throwAt(one.operation, one.k);
         EXPECT_THROW(scene.fly(), std::runtime_error) << what;
         expectAtRest(scene.host, what);
@@ -111,7 +111,7 @@ TEST(AnimateSweep, everyCallThatRefusesLeavesNothingBehind) {
         scene.host.failAt(k);
         try {
             scene.fly();
-        } catch (KeyFrameError const& error) {
+        } catch (const KeyFrameError& error) {
             EXPECT_STRNE(error.what(), "");
         }
         if (!scene.host.hasFailedAt()) {
@@ -125,12 +125,12 @@ TEST(AnimateSweep, everyCallThatRefusesLeavesNothingBehind) {
 TEST(AnimateSweep, everyStopLeavesTheHostAsItWas) {
     Scene complete;
     complete.fly();
-    std::size_t const checks = complete.host.count("CorUtilStatusCheckPercentDone");
+    const std::size_t checks = complete.host.count("CorUtilStatusCheckPercentDone");
     ASSERT_EQ(checks, 1u + 3u);
     for (std::size_t k = 1; k <= checks; ++k) {
-        std::string const what = "stop " + std::to_string(k);
+        const std::string what = "stop " + std::to_string(k);
         Scene scene;
-        host::FrameStyle const before = scene.host.frame().style;
+        const host::FrameStyle before = scene.host.frame().style;
         scene.host.stopAtCheck(k);
         EXPECT_THROW(scene.fly(), KeyFrameError) << what;
         expectAtRest(scene.host, what);

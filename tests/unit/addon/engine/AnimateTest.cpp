@@ -17,7 +17,7 @@ namespace {
 
 using namespace corutiltools;
 
-std::string const outOfMemory = "Not enough memory to produce the animation.\n"
+const std::string outOfMemory = "Not enough memory to produce the animation.\n"
                                 "Try reducing the number of total frames in the animation.";
 
 class AnimateTest : public EngineTest {
@@ -25,11 +25,11 @@ protected:
     AnimateTest() { host.session().exportSetup().fileName = folder.file("flight.avi"); }
 
     // What the user is told; empty when the flight came to its end.
-    static std::string errorOf(KeyFrames const& keyFrames, Settings_s const& settings,
+    static std::string errorOf(const KeyFrames& keyFrames, const Settings_s& settings,
                                MacroOption_e option = MacroOption_DoNotRecord) {
         try {
             Animate(keyFrames, 0, keyFrames.size(), settings, option);
-        } catch (KeyFrameError const& error) {
+        } catch (const KeyFrameError& error) {
             return error.what();
         }
         return "";
@@ -41,14 +41,14 @@ protected:
         return settings;
     }
 
-    TempFolder const folder;
-    KeyFrames const keyFrames = flightCase("FourKeysMixed").keyFrames;
-    KeyFrames const twoFrames = flightCase("TwoKeysCountOne").keyFrames;
+    const TempFolder folder;
+    const KeyFrames keyFrames = flightCase("FourKeysMixed").keyFrames;
+    const KeyFrames twoFrames = flightCase("TwoKeysCountOne").keyFrames;
 };
 
 TEST_F(AnimateTest, callsTheHostInOrder) {
     Animate(twoFrames, 0, 2, plainSettings(), MacroOption_Record);
-    std::vector<std::string> const frameCalls{
+    const std::vector<std::string> frameCalls{
         "CorUtilLockStart",  "CorUtilLockStart",          "CorUtilDrawGraphics(FALSE)",
         "CorUtilStyleSet",   "CorUtilStyleSet",           "CorUtilStyleSet",
         "CorUtilStyleSet",   "CorUtilStyleSet",           "CorUtilStyleSet",
@@ -101,7 +101,7 @@ TEST_F(AnimateTest, playsARangeWithTheFrameNumbersOfTheWholeFlight) {
 
 TEST_F(AnimateTest, leavesTheLastView) {
     EXPECT_EQ(errorOf(keyFrames, plainSettings()), "");
-    View const& last = keyFrames.back().view;
+    const View& last = keyFrames.back().view;
     EXPECT_EQ(view().psi, last.psi());
     EXPECT_EQ(view().theta, last.theta());
     EXPECT_EQ(view().alpha, last.alpha());
@@ -128,7 +128,7 @@ TEST_F(AnimateTest, outsideA3DFrameDoesNothingAtAll) {
 }
 
 TEST_F(AnimateTest, refusesFewerThanTwoKeyFrames) {
-    for (auto const& tooFew : {KeyFrames{}, flightCase("OneKey").keyFrames}) {
+    for (const auto& tooFew : {KeyFrames{}, flightCase("OneKey").keyFrames}) {
         host.clearCalls();
         EXPECT_EQ(errorOf(tooFew, plainSettings()),
                   "At least two keyFrame views must be established to perform an animation.");
@@ -183,7 +183,7 @@ TEST_F(AnimateTest, writesAMovieWithAPictureForEachFrame) {
 
 TEST_F(AnimateTest, finishesTheMovieAfterThePercentDisplayEnds) {
     EXPECT_EQ(errorOf(twoFrames, toFile()), "");
-    std::vector<std::string> const names = callNames();
+    const std::vector<std::string> names = callNames();
     EXPECT_THAT(std::vector<std::string>(names.end() - 4, names.end()),
                 ElementsAre("CorUtilStatusFinishPercentDone", "CorUtilExportIsRecording",
                             "CorUtilExportFinish", "CorUtilLockFinish"));
@@ -278,7 +278,7 @@ TEST_F(AnimateTest, tellsThatMemoryIsShortForADestinationWithoutKeyword) {
 }
 
 TEST_F(AnimateTest, tellsThatMemoryIsShortForAListNobodyCanHold) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     for (unsigned long count : {largest, largest / 2 + 1, largest / 8}) {
         EXPECT_EQ(errorOf(keyFramesWithCounts({count, count, 1}), plainSettings()), outOfMemory)
             << count;
@@ -302,7 +302,7 @@ TEST_F(AnimateTest, letsOtherErrorsPass) {
 }
 
 TEST_F(AnimateTest, runsInsideTheLocksOfItsCaller) {
-    HostLock const lock;
+    const HostLock lock;
     EXPECT_EQ(errorOf(twoFrames, plainSettings()), "");
     EXPECT_EQ(host.session().locks().depth(), 1);
 }
@@ -311,13 +311,13 @@ TEST_F(AnimateTest, showsEachFrameAsItsEffectsWant) {
     setSolutionTimes({0.0, 1.0});
     frame().style.streamTiming.timeAnchor = 2.0;
     frame().style.streamTiming.deltaTime = 0.5;
-    Settings_s const settings{
+    const Settings_s settings{
         {true, TimeAnimationOperation_Forward, 1}, Destination_OnScreen, true, true, true};
     EXPECT_EQ(errorOf(keyFramesForFrames(101), settings), "");
-    auto const& states = host.renderer().states();
+    const auto& states = host.renderer().states();
     ASSERT_GE(states.size(), 101u);
     for (std::size_t i = 0; i <= 100; ++i) {
-        double const frameNumber = static_cast<double>(i);
+        const double frameNumber = static_cast<double>(i);
         EXPECT_NEAR(states[i].solutionTime, frameNumber / 100.0, 1e-12) << i;
         EXPECT_NEAR(states[i].streamTiming.timeAnchor, 2.0 + (frameNumber + 1.0) * 0.1, 1e-9) << i;
         EXPECT_FALSE(states[i].showAxis) << i;

@@ -17,7 +17,7 @@ using namespace corutiltools;
 class AnimationManagerTest : public EngineTest {
 protected:
     AnimationManagerTest() {
-        double const numbers[]{0.0, 10.0, 30.0};
+        const double numbers[]{0.0, 10.0, 30.0};
         for (std::size_t i = 0; i < keyFrames.size(); ++i) {
             keyFrames[i].view.setWidth(1.0 + numbers[i]);
         }

@@ -19,7 +19,7 @@ using Log = std::vector<std::string>;
 // Writes down what it is asked for.
 class Scribe : public AnimatorAbstract {
 public:
-    Scribe(KeyFrames const& keyFrames, Log& log, std::string name, AnimatorAbstract* next = nullptr)
+    Scribe(const KeyFrames& keyFrames, Log& log, std::string name, AnimatorAbstract* next = nullptr)
         : AnimatorAbstract(keyFrames, next), m_log(log), m_name(std::move(name)) {}
     ~Scribe() override { m_log.push_back(m_name + " gone"); }
 
@@ -39,7 +39,7 @@ private:
 // Fails after its base is complete.
 class Failure : public AnimatorAbstract {
 public:
-    Failure(KeyFrames const& keyFrames, AnimatorAbstract* next)
+    Failure(const KeyFrames& keyFrames, AnimatorAbstract* next)
         : AnimatorAbstract(keyFrames, next) {
         throw std::runtime_error("construction failed");
     }
@@ -48,7 +48,7 @@ public:
 
 class AnimatorAbstractTest : public EngineTest {
 protected:
-    KeyFrames const keyFrames = keyFramesWithCounts({10, 20, 5});
+    const KeyFrames keyFrames = keyFramesWithCounts({10, 20, 5});
     Log log;
 };
 
@@ -79,7 +79,7 @@ TEST_F(AnimatorAbstractTest, refusesFewerThanTwoKeyFramesAndTakesItsSuccessorWit
     try {
         Scribe(keyFramesWithCounts({30}), log, "head", next);
         FAIL() << "one key frame was accepted";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(),
                      "At least two keyFrame views must be established to perform an animation.");
     }

@@ -20,19 +20,19 @@ class AnimatorChainTest : public EngineTest {
 protected:
     AnimatorChainTest() { host.session().exportSetup().fileName = folder.file("flight.avi"); }
 
-    std::unique_ptr<AnimatorInterface> chainFor(Settings_s const& settings) {
+    std::unique_ptr<AnimatorInterface> chainFor(const Settings_s& settings) {
         AnimatorAbstractFactory factory;
         return std::unique_ptr<AnimatorInterface>(factory.createAnimator(keyFrames, settings));
     }
 
     // What one frame does to the host, one word for each animator that had a share in it.
-    std::vector<std::string> effectsOfAFrame(Settings_s const& settings) {
-        auto const chain = chainFor(settings);
+    std::vector<std::string> effectsOfAFrame(const Settings_s& settings) {
+        const auto chain = chainFor(settings);
         host.clearCalls();
         chain->drawFrame(0);
         std::vector<std::string> effects;
-        for (std::string const& call : calls()) {
-            std::string const effect = effectOf(call);
+        for (const std::string& call : calls()) {
+            const std::string effect = effectOf(call);
             if (!effect.empty() && (effects.empty() || effects.back() != effect)) {
                 effects.push_back(effect);
             }
@@ -40,16 +40,16 @@ protected:
         return effects;
     }
 
-    TempFolder const folder;
-    KeyFrames const keyFrames = flightCase("Orbit").keyFrames;
+    const TempFolder folder;
+    const KeyFrames keyFrames = flightCase("Orbit").keyFrames;
 
 private:
-    static std::string effectOf(std::string const& call) {
+    static std::string effectOf(const std::string& call) {
         struct Sign {
             std::string beginning;
             std::string effect;
         };
-        std::vector<Sign> const signs{
+        const std::vector<Sign> signs{
             {"CorUtilStyleSet(\"ThreeDView\"", "view"},
             {"CorUtilStyleSet(\"GlobalThreeD\",\"LightSource\"", "light"},
             {"CorUtilStyleSet(\"StreamAttributes\"", "streamtraces"},
@@ -57,7 +57,7 @@ private:
             {"CorUtilRedraw(TRUE)", "screen"},
             {"CorUtilExportStart", "file"},
         };
-        for (Sign const& sign : signs) {
+        for (const Sign& sign : signs) {
             if (call.starts_with(sign.beginning)) {
                 return sign.effect;
             }
@@ -95,7 +95,7 @@ TEST_F(AnimatorChainTest, eitherFadeAddsTheLight) {
 
     settings = plainSettings();
     settings.fadeOut = true;
-    auto const chain = chainFor(settings);
+    const auto chain = chainFor(settings);
     EXPECT_FALSE(frame().style.annotations.showAxis);
 }
 
@@ -116,7 +116,7 @@ TEST_F(AnimatorChainTest, anyOtherDestinationIsAFile) {
 }
 
 TEST_F(AnimatorChainTest, headIsTheView) {
-    auto const chain = chainFor(plainSettings());
+    const auto chain = chainFor(plainSettings());
     EXPECT_NE(dynamic_cast<AnimatorKeyFrame*>(chain.get()), nullptr);
 }
 
@@ -130,9 +130,9 @@ TEST_F(AnimatorChainTest, refusesFewerThanTwoKeyFrames) {
 }
 
 TEST_F(AnimatorChainTest, thatFailsOnTheWayLeavesNothingBehind) {
-    host::FrameStyle const before = frame().style;
+    const host::FrameStyle before = frame().style;
     // In turn: the streamtraces, the light, and the views that come last.
-    for (auto const& [call, k] : std::vector<std::pair<std::string, std::size_t>>{
+    for (const auto& [call, k] : std::vector<std::pair<std::string, std::size_t>>{
              {"CorUtilStyleGet", 1},
              {"CorUtilStyleGet", 3},
              {"CorUtilStyleGet", 5},

@@ -49,7 +49,7 @@ protected:
 };
 
 TEST_F(AnimatorFadeTest, fadesInOverOneFrameMoreThanItFadesOut) {
-    auto const light = fractions(100, true, true);
+    const auto light = fractions(100, true, true);
     for (std::size_t i = 0; i < 100; ++i) {
         if (i <= 30) {
             ASSERT_TRUE(light[i]) << i;
@@ -64,7 +64,7 @@ TEST_F(AnimatorFadeTest, fadesInOverOneFrameMoreThanItFadesOut) {
 }
 
 TEST_F(AnimatorFadeTest, startsAndEndsInTheDarkAndComesToFullLight) {
-    auto const light = fractions(100, true, true);
+    const auto light = fractions(100, true, true);
     EXPECT_EQ(light[0], 0.0);
     EXPECT_EQ(light[30], 1.0);
     EXPECT_NEAR(*light[70], 29.0 / 30.0, 1e-12);
@@ -77,10 +77,10 @@ TEST_F(AnimatorFadeTest, lastsATenthOfAShortFlightAndThirtyFramesOfALongOne) {
         unsigned long totalFrames;
         unsigned long length;
     };
-    for (Case const& flight :
+    for (const Case& flight :
          {Case{10, 1}, Case{15, 1}, Case{19, 1}, Case{20, 2}, Case{30, 3}, Case{60, 6}, Case{70, 7},
           Case{89, 8}, Case{90, 9}, Case{91, 30}, Case{1000, 30}}) {
-        auto const light = fractions(flight.totalFrames, true, false);
+        const auto light = fractions(flight.totalFrames, true, false);
         unsigned long lit = 0;
         while (lit < flight.totalFrames && light[lit]) {
             ++lit;
@@ -90,7 +90,7 @@ TEST_F(AnimatorFadeTest, lastsATenthOfAShortFlightAndThirtyFramesOfALongOne) {
 }
 
 TEST_F(AnimatorFadeTest, outAloneLeavesTheStartAlone) {
-    auto const light = fractions(100, false, true);
+    const auto light = fractions(100, false, true);
     for (std::size_t i = 0; i < 70; ++i) {
         EXPECT_FALSE(light[i]) << i;
     }
@@ -99,7 +99,7 @@ TEST_F(AnimatorFadeTest, outAloneLeavesTheStartAlone) {
 }
 
 TEST_F(AnimatorFadeTest, inAloneLeavesTheEndAlone) {
-    auto const light = fractions(100, true, false);
+    const auto light = fractions(100, true, false);
     for (std::size_t i = 31; i < 100; ++i) {
         EXPECT_FALSE(light[i]) << i;
     }
@@ -107,7 +107,7 @@ TEST_F(AnimatorFadeTest, inAloneLeavesTheEndAlone) {
 
 TEST_F(AnimatorFadeTest, ofAFlightTooShortWritesNoLight) {
     for (unsigned long totalFrames : {1ul, 2ul, 9ul}) {
-        for (auto const& fraction : fractions(totalFrames, true, true)) {
+        for (const auto& fraction : fractions(totalFrames, true, true)) {
             EXPECT_FALSE(fraction) << totalFrames;
         }
     }
@@ -146,13 +146,13 @@ TEST_F(AnimatorFadeTest, putsLightAndAxisBack) {
 
 TEST_F(AnimatorFadeTest, leavesAHiddenAxisHidden) {
     frame().style.annotations.showAxis = false;
-    { AnimatorFade const animator(keyFramesForFrames(100), fading(true, true), nullptr); }
+    { const AnimatorFade animator(keyFramesForFrames(100), fading(true, true), nullptr); }
     EXPECT_FALSE(axisShows());
 }
 
 TEST_F(AnimatorFadeTest, takesWhatCannotBeReadForDarkAndHidden) {
     host.failNext("CorUtilStyleGet", 3);
-    { AnimatorFade const animator(keyFramesForFrames(100), fading(true, true), nullptr); }
+    { const AnimatorFade animator(keyFramesForFrames(100), fading(true, true), nullptr); }
     EXPECT_EQ(light().intensity, 0.0);
     EXPECT_EQ(light().backgroundLight, 0.0);
     EXPECT_FALSE(axisShows());

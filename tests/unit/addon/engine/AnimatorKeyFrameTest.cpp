@@ -23,10 +23,10 @@ using corutiltools::View;
 
 class AnimatorKeyFrameTest : public EngineTest {
 protected:
-    static std::string errorOf(KeyFrames const& keyFrames) {
+    static std::string errorOf(const KeyFrames& keyFrames) {
         try {
-            AnimatorKeyFrame const animator(keyFrames, nullptr);
-        } catch (KeyFrameError const& error) {
+            const AnimatorKeyFrame animator(keyFrames, nullptr);
+        } catch (const KeyFrameError& error) {
             return error.what();
         }
         return "";
@@ -35,29 +35,29 @@ protected:
 
 class EveryFlightTest : public EngineTest, public testing::WithParamInterface<FlightCase> {
 protected:
-    KeyFrames const& keyFrames() { return GetParam().keyFrames; }
+    const KeyFrames& keyFrames() { return GetParam().keyFrames; }
 };
 
 // The longest one is left to the test of drift, as it only repeats the shortest one's steps.
 std::vector<FlightCase> playableFlights() {
     std::vector<FlightCase> flights = flightCases();
-    std::erase_if(flights, [](FlightCase const& flight) {
+    std::erase_if(flights, [](const FlightCase& flight) {
         return flight.keyFrames.size() < 2 || flight.name == "HugeCount";
     });
     return flights;
 }
 
 INSTANTIATE_TEST_SUITE_P(Museum, EveryFlightTest, testing::ValuesIn(playableFlights()),
-                         [](auto const& flight) { return flight.param.name; });
+                         [](const auto& flight) { return flight.param.name; });
 
 TEST_P(EveryFlightTest, hasAViewForEachFrameAndNoRoomForMore) {
-    AnimatorKeyFrame const animator(keyFrames(), nullptr);
+    const AnimatorKeyFrame animator(keyFrames(), nullptr);
     EXPECT_EQ(animator.views().size(), GetTotalFrameCount(keyFrames()));
     EXPECT_EQ(animator.views().capacity(), animator.views().size());
 }
 
 TEST_P(EveryFlightTest, showsKeyFramesAsTheyWereStored) {
-    AnimatorKeyFrame const animator(keyFrames(), nullptr);
+    const AnimatorKeyFrame animator(keyFrames(), nullptr);
     std::size_t index = 0;
     for (std::size_t i = 0; i + 1 < keyFrames().size(); ++i) {
         if (keyFrames()[i].frameCount > 0) {
@@ -71,8 +71,8 @@ TEST_P(EveryFlightTest, showsKeyFramesAsTheyWereStored) {
 
 TEST_P(EveryFlightTest, asksForSixTurnsAStepAndDrawsNothing) {
     // As the driver does: without a lock around it, the host would draw between the calls.
-    HostLock const lock;
-    AnimatorKeyFrame const animator(keyFrames(), nullptr);
+    const HostLock lock;
+    const AnimatorKeyFrame animator(keyFrames(), nullptr);
     std::size_t steps = 0;
     for (std::size_t i = 0; i + 1 < keyFrames().size(); ++i) {
         steps += std::max(keyFrames()[i].frameCount, 1ul) - 1;
@@ -89,22 +89,22 @@ TEST_P(EveryFlightTest, asksForSixTurnsAStepAndDrawsNothing) {
 TEST_P(EveryFlightTest, leavesPerspectiveAsItIs) {
     for (bool perspective : {true, false}) {
         view().perspective = perspective;
-        AnimatorKeyFrame const animator(keyFrames(), nullptr);
+        const AnimatorKeyFrame animator(keyFrames(), nullptr);
         EXPECT_EQ(view().perspective, perspective);
     }
 }
 
 TEST_P(EveryFlightTest, isTheSameWithAndWithoutPerspective) {
     view().perspective = true;
-    AnimatorKeyFrame const with(keyFrames(), nullptr);
+    const AnimatorKeyFrame with(keyFrames(), nullptr);
     view().perspective = false;
-    AnimatorKeyFrame const without(keyFrames(), nullptr);
+    const AnimatorKeyFrame without(keyFrames(), nullptr);
     EXPECT_EQ(with.views(), without.views());
 }
 
 TEST_F(AnimatorKeyFrameTest, withOneFrameHasTheKeyViewsAloneAndMovesNothing) {
-    auto const& keyFrames = flightCase("TwoKeysCountOne").keyFrames;
-    AnimatorKeyFrame const animator(keyFrames, nullptr);
+    const auto& keyFrames = flightCase("TwoKeysCountOne").keyFrames;
+    const AnimatorKeyFrame animator(keyFrames, nullptr);
     EXPECT_THAT(animator.views(), ElementsAre(keyFrames[0].view, keyFrames[1].view));
     EXPECT_THAT(callNames(),
                 ElementsAre("CorUtilStatusStartPercentDone", "CorUtilStatusFinishPercentDone"));
@@ -112,23 +112,23 @@ TEST_F(AnimatorKeyFrameTest, withOneFrameHasTheKeyViewsAloneAndMovesNothing) {
 
 TEST_F(AnimatorKeyFrameTest, ignoresTheLastKeyFramesCount) {
     KeyFrames keyFrames = flightCase("Orbit").keyFrames;
-    std::vector<View> const views = AnimatorKeyFrame(keyFrames, nullptr).views();
+    const std::vector<View> views = AnimatorKeyFrame(keyFrames, nullptr).views();
     keyFrames.back().frameCount = 7;
     EXPECT_EQ(AnimatorKeyFrame(keyFrames, nullptr).views(), views);
 }
 
 TEST_F(AnimatorKeyFrameTest, leavesOutASegmentWithoutFrames) {
-    auto const& first = flightCase("ZeroCountFirst").keyFrames;
+    const auto& first = flightCase("ZeroCountFirst").keyFrames;
     EXPECT_THAT(AnimatorKeyFrame(first, nullptr).views(), ElementsAre(first[1].view));
-    auto const& middle = flightCase("ZeroCountMiddle").keyFrames;
-    std::vector<View> const views = AnimatorKeyFrame(middle, nullptr).views();
+    const auto& middle = flightCase("ZeroCountMiddle").keyFrames;
+    const std::vector<View> views = AnimatorKeyFrame(middle, nullptr).views();
     ASSERT_EQ(views.size(), 4u);
     EXPECT_EQ(views[0], middle[0].view);
     EXPECT_EQ(views[3], middle[2].view);
 }
 
 TEST_F(AnimatorKeyFrameTest, tellsWhatItDoesAndHowFarItIs) {
-    AnimatorKeyFrame const animator(keyFramesWithCounts({3, 2, 9}), nullptr);
+    const AnimatorKeyFrame animator(keyFramesWithCounts({3, 2, 9}), nullptr);
     EXPECT_EQ(calls().front(), "CorUtilStatusStartPercentDone(\"Creating interpolated views.... "
                                "Press [Esc] or click [Stop] to cancel.\", TRUE, TRUE)");
     EXPECT_EQ(calls().back(), "CorUtilStatusFinishPercentDone()");
@@ -148,7 +148,7 @@ TEST_F(AnimatorKeyFrameTest, stopsAtOnceWhenTheUserWantsIt) {
 
 TEST_F(AnimatorKeyFrameTest, thatIsStoppedTakesTheChainWithIt) {
     frame().style.streamTiming.timeAnchor = 2.0;
-    auto const& keyFrames = flightCase("Orbit").keyFrames;
+    const auto& keyFrames = flightCase("Orbit").keyFrames;
     auto* inner = new AnimatorStreams(keyFrames, nullptr);
     inner->drawFrameAtIndex(0);
     host.stopAtCheck(1);
@@ -157,7 +157,7 @@ TEST_F(AnimatorKeyFrameTest, thatIsStoppedTakesTheChainWithIt) {
 }
 
 TEST_F(AnimatorKeyFrameTest, refusesFewerThanTwoViews) {
-    std::string const message =
+    const std::string message =
         "At least two keyFrame views must be established to perform an animation.";
     EXPECT_EQ(errorOf({}), message);
     EXPECT_EQ(errorOf(flightCase("OneKey").keyFrames), message);
@@ -171,14 +171,14 @@ TEST_F(AnimatorKeyFrameTest, refusesFewerThanTwoViewsInABuildToo) {
 }
 
 TEST_F(AnimatorKeyFrameTest, buildReplacesTheList) {
-    auto const& keyFrames = flightCase("TwoKeysCountOne").keyFrames;
+    const auto& keyFrames = flightCase("TwoKeysCountOne").keyFrames;
     AnimatorKeyFrame animator(keyFrames, nullptr);
     animator.buildViewList({keyFrames[1].view, keyFrames[0].view}, {1, 1});
     EXPECT_THAT(animator.views(), ElementsAre(keyFrames[1].view, keyFrames[0].view));
 }
 
 TEST_F(AnimatorKeyFrameTest, refusesAListThatNoVectorCanHoldBeforeItMovesAnything) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     EXPECT_THROW(AnimatorKeyFrame(keyFramesWithCounts({largest, 1}), nullptr), std::length_error);
     EXPECT_THROW(AnimatorKeyFrame(keyFramesWithCounts({largest / 8, 1}), nullptr),
                  std::length_error);
@@ -186,11 +186,11 @@ TEST_F(AnimatorKeyFrameTest, refusesAListThatNoVectorCanHoldBeforeItMovesAnythin
 }
 
 TEST_F(AnimatorKeyFrameTest, drawingAppliesTheViewAndNothingElse) {
-    auto const& keyFrames = flightCase("Orbit").keyFrames;
+    const auto& keyFrames = flightCase("Orbit").keyFrames;
     AnimatorKeyFrame animator(keyFrames, nullptr);
     host.clearCalls();
     animator.drawFrameAtIndex(30);
-    std::vector<std::string> const drawn = calls();
+    const std::vector<std::string> drawn = calls();
     EXPECT_EQ(view().theta, keyFrames[1].view.theta());
 
     host.clearCalls();

@@ -21,7 +21,7 @@ protected:
 
     host::StreamTimingStyle& timing() { return frame().style.streamTiming; }
 
-    KeyFrames const keyFrames = keyFramesForFrames(10);
+    const KeyFrames keyFrames = keyFramesForFrames(10);
 };
 
 TEST_F(AnimatorStreamsTest, movesTheAnchorByAFifthOfTheDeltaTimeAndPutsItBack) {

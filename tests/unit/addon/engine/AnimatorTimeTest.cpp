@@ -44,7 +44,7 @@ protected:
 
     // The solution times of all frames in order. A time that is not a number is refused by the
     // host, and so taken from the call.
-    std::vector<double> timesOf(KeyFrames const& keyFrames, TimeAnimationOperation_e operation,
+    std::vector<double> timesOf(const KeyFrames& keyFrames, TimeAnimationOperation_e operation,
                                 unsigned long numCycles = 1) {
         AnimatorTime animator(keyFrames, {true, operation, numCycles}, nullptr);
         std::vector<double> times;
@@ -52,7 +52,7 @@ protected:
             host.clearCalls();
             animator.drawFrameAtIndex(i);
             EXPECT_EQ(calls().size(), 1u);
-            bool const isNumber = callsTo("CorUtilSolutionTimeSetCurrent(nan").empty() &&
+            const bool isNumber = callsTo("CorUtilSolutionTimeSetCurrent(nan").empty() &&
                                   callsTo("CorUtilSolutionTimeSetCurrent(-nan").empty();
             times.push_back(isNumber ? frame().solutionTime
                                      : std::numeric_limits<double>::quiet_NaN());
@@ -64,9 +64,9 @@ protected:
     std::vector<double> falling(unsigned long count) { return interpolated(1.0, 0.0, count); }
 };
 
-std::vector<double> joined(std::vector<std::vector<double>> const& parts) {
+std::vector<double> joined(const std::vector<std::vector<double>>& parts) {
     std::vector<double> result;
-    for (std::vector<double> const& part : parts) {
+    for (const std::vector<double>& part : parts) {
         result.insert(result.end(), part.begin(), part.end());
     }
     return result;
@@ -112,7 +112,7 @@ TEST_F(AnimatorTimeTest, loopWithACycleForEachFrameHasNoTimes) {
 }
 
 TEST_F(AnimatorTimeTest, moreCyclesThanFramesStayAtTheMaximum) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     EXPECT_THAT(timesOf(keyFramesForFrames(3), TimeAnimationOperation_Loop, 4),
                 ElementsAre(1.0, 1.0, 1.0));
     EXPECT_THAT(timesOf(keyFramesForFrames(3), TimeAnimationOperation_Loop, largest),
@@ -162,7 +162,7 @@ TEST_F(AnimatorTimeTest, asCapturedLeavesOutASegmentWithoutFrames) {
 
 TEST_F(AnimatorTimeTest, asCapturedDoesNotAskForTheRange) {
     host.clearCalls();
-    AnimatorTime const animator(keyFramesForFrames(5), {true, TimeAnimationOperation_AsCaptured, 1},
+    const AnimatorTime animator(keyFramesForFrames(5), {true, TimeAnimationOperation_AsCaptured, 1},
                                 nullptr);
     EXPECT_THAT(calls(), IsEmpty());
 }
@@ -199,7 +199,7 @@ TEST_F(AnimatorTimeTest, refusesFewerThanTwoKeyFrames) {
 }
 
 TEST_F(AnimatorTimeTest, refusesAListThatNoVectorCanHold) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     EXPECT_THROW(AnimatorTime(keyFramesWithCounts({largest, 1}),
                               {true, TimeAnimationOperation_Forward, 1}, nullptr),
                  std::length_error);

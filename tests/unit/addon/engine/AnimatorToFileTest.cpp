@@ -27,14 +27,14 @@ protected:
     static std::string errorOf(AnimatorToFile& animator) {
         try {
             animator.drawFrameAtIndex(0);
-        } catch (KeyFrameError const& error) {
+        } catch (const KeyFrameError& error) {
             return error.what();
         }
         return "";
     }
 
-    TempFolder const folder;
-    KeyFrames const keyFrames = keyFramesForFrames(10);
+    const TempFolder folder;
+    const KeyFrames keyFrames = keyFramesForFrames(10);
 };
 
 TEST_F(AnimatorToFileTest, opensTheExportWithTheFirstFrameAndClosesItAtTheEnd) {

@@ -26,13 +26,13 @@ static_assert(std::is_nothrow_destructible_v<SuspendGraphics>);
 
 class DestructorDeathTest : public EngineTest {
 protected:
-    KeyFrames const keyFrames = keyFramesForFrames(10);
+    const KeyFrames keyFrames = keyFramesForFrames(10);
 };
 
 TEST_F(DestructorDeathTest, streamsCannotPutTheAnchorBack) {
     EXPECT_DEATH(
         {
-            AnimatorStreams const animator(keyFrames, nullptr);
+            const AnimatorStreams animator(keyFrames, nullptr);
             host.throwAt("CorUtilStyleSet");
         },
         "terminate called");
@@ -41,7 +41,7 @@ TEST_F(DestructorDeathTest, streamsCannotPutTheAnchorBack) {
 TEST_F(DestructorDeathTest, fadeCannotPutTheLightBack) {
     EXPECT_DEATH(
         {
-            AnimatorFade const animator(keyFrames, plainSettings(), nullptr);
+            const AnimatorFade animator(keyFrames, plainSettings(), nullptr);
             host.throwAt("CorUtilStyleSet");
         },
         "terminate called");
@@ -50,7 +50,7 @@ TEST_F(DestructorDeathTest, fadeCannotPutTheLightBack) {
 TEST_F(DestructorDeathTest, exportCannotBeFinished) {
     EXPECT_DEATH(
         {
-            TempFolder const folder;
+            const TempFolder folder;
             host.session().exportSetup().fileName = folder.file("flight.avi");
             AnimatorToFile animator(keyFrames);
             animator.drawFrameAtIndex(0);

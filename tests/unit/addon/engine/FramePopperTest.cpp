@@ -25,7 +25,7 @@ protected:
 
     std::vector<long> stack() {
         std::vector<long> ids;
-        for (auto const& one : page().frames()) {
+        for (const auto& one : page().frames()) {
             ids.push_back(one->id());
         }
         return ids;
@@ -40,9 +40,9 @@ protected:
         return ids;
     }
 
-    long const c;
-    long const b;
-    long const a;
+    const long c;
+    const long b;
+    const long a;
 };
 
 TEST_F(FramePopperTest, fullVisitsEveryFrameFromTheTop) {
@@ -59,7 +59,7 @@ TEST_F(FramePopperTest, fullVisitsEveryFrameFromTheTop) {
 
 TEST_F(FramePopperTest, fullSuspendsDrawingUnderOneLock) {
     {
-        FramePopper const popper;
+        const FramePopper popper;
         EXPECT_EQ(host.session().locks().depth(), 1);
         EXPECT_EQ(host.session().drawing().suspensions(), 1);
     }
@@ -69,7 +69,7 @@ TEST_F(FramePopperTest, fullSuspendsDrawingUnderOneLock) {
 
 TEST_F(FramePopperTest, fullCallsTheHostInOrder) {
     {
-        FramePopper const popper;
+        const FramePopper popper;
         EXPECT_THAT(callNames(), ElementsAre("CorUtilLockStart", "CorUtilFrameGetUniqueID",
                                              "CorUtilFrameActivateTop", "CorUtilFrameGetUniqueID",
                                              "CorUtilDrawGraphics(FALSE)"));
@@ -148,15 +148,15 @@ TEST_F(FramePopperTest, popsTheRestAtOnce) {
 TEST_F(FramePopperTest, poppersAliveAreCounted) {
     EXPECT_EQ(FramePopperAbstract::numActivePoppers(), 0u);
     {
-        FramePopper const full;
-        FramePopperLightweight const lightweight;
+        const FramePopper full;
+        const FramePopperLightweight lightweight;
         EXPECT_EQ(FramePopperAbstract::numActivePoppers(), 2u);
     }
     EXPECT_EQ(FramePopperAbstract::numActivePoppers(), 0u);
 }
 
 TEST_F(FramePopperTest, factoryMakesWhatIsAskedFor) {
-    FramePopperAbstractFactory const factory;
+    const FramePopperAbstractFactory factory;
     EXPECT_NE(dynamic_cast<FramePopper*>(factory.getFramePopper(true).get()), nullptr);
     EXPECT_NE(dynamic_cast<FramePopperLightweight*>(factory.getFramePopper(false).get()), nullptr);
 }

@@ -20,13 +20,13 @@ class InterpolationTest : public EngineTest {
 protected:
     InterpolationTest() { stopRemembering(); }
 
-    std::vector<View> viewsOf(std::string const& flight) {
+    std::vector<View> viewsOf(const std::string& flight) {
         return viewsOf(flightCase(flight).keyFrames);
     }
 
-    std::vector<View> viewsOf(KeyFrames const& keyFrames) {
+    std::vector<View> viewsOf(const KeyFrames& keyFrames) {
         // As the driver does: without a lock around it, the host would draw between the calls.
-        HostLock const lock;
+        const HostLock lock;
         return AnimatorKeyFrame(keyFrames, nullptr).views();
     }
 };
@@ -35,8 +35,8 @@ double between(double from, double to, double share) {
     return from + share * (to - from);
 }
 
-void expectNear(View const& actual, View const& expected, std::size_t index) {
-    double const tolerance = 1e-9;
+void expectNear(const View& actual, const View& expected, std::size_t index) {
+    const double tolerance = 1e-9;
     EXPECT_NEAR(actual.x(), expected.x(), tolerance) << "view " << index;
     EXPECT_NEAR(actual.y(), expected.y(), tolerance) << "view " << index;
     EXPECT_NEAR(actual.z(), expected.z(), tolerance) << "view " << index;
@@ -46,24 +46,24 @@ void expectNear(View const& actual, View const& expected, std::size_t index) {
     EXPECT_NEAR(actual.width(), expected.width(), tolerance) << "view " << index;
 }
 
-double distanceToCentre(View const& view) {
+double distanceToCentre(const View& view) {
     return std::sqrt(view.x() * view.x() + view.y() * view.y() + view.z() * view.z());
 }
 
 // Degrees between the directions in which two viewers see the centre.
-double angleBetween(View const& a, View const& b) {
-    double const product = a.x() * b.x() + a.y() * b.y() + a.z() * b.z();
-    double const cosine = product / (distanceToCentre(a) * distanceToCentre(b));
+double angleBetween(const View& a, const View& b) {
+    const double product = a.x() * b.x() + a.y() * b.y() + a.z() * b.z();
+    const double cosine = product / (distanceToCentre(a) * distanceToCentre(b));
     return std::acos(std::min(1.0, cosine)) * 180.0 / std::numbers::pi;
 }
 
 // The largest deviation of a step from their mean, as a share of it.
-double unevenness(std::vector<View> const& views) {
+double unevenness(const std::vector<View>& views) {
     std::vector<double> steps;
     for (std::size_t i = 1; i < views.size(); ++i) {
         steps.push_back(angleBetween(views[i - 1], views[i]));
     }
-    double const mean =
+    const double mean =
         std::accumulate(steps.begin(), steps.end(), 0.0) / static_cast<double>(steps.size());
     double worst = 0.0;
     for (double step : steps) {
@@ -73,20 +73,20 @@ double unevenness(std::vector<View> const& views) {
 }
 
 TEST_F(InterpolationTest, orbitIsACircleInEvenSteps) {
-    std::vector<View> const views = viewsOf("Orbit");
+    const std::vector<View> views = viewsOf("Orbit");
     ASSERT_EQ(views.size(), 31u);
     for (std::size_t i = 0; i < 30; ++i) {
-        double const share = static_cast<double>(i) / 30.0;
+        const double share = static_cast<double>(i) / 30.0;
         expectNear(views[i], viewOfCentre(60.0, between(240.0, 360.0, share), 0.0, 10.0, 4.0), i);
     }
     EXPECT_LT(unevenness(views), 0.01);
 }
 
 TEST_F(InterpolationTest, orbitInAllAnglesKeepsItsDistanceAndLooksAtTheCentre) {
-    std::vector<View> const views = viewsOf("TiltedOrbit");
+    const std::vector<View> views = viewsOf("TiltedOrbit");
     ASSERT_EQ(views.size(), 46u);
     for (std::size_t i = 0; i < 45; ++i) {
-        double const share = static_cast<double>(i) / 45.0;
+        const double share = static_cast<double>(i) / 45.0;
         expectNear(views[i],
                    viewOfCentre(between(20.0, 110.0, share), between(10.0, 80.0, share),
                                 between(5.0, 35.0, share), 10.0, 4.0),
@@ -96,8 +96,8 @@ TEST_F(InterpolationTest, orbitInAllAnglesKeepsItsDistanceAndLooksAtTheCentre) {
 }
 
 TEST_F(InterpolationTest, halfTurnIsEven) {
-    std::vector<View> const views = viewsOf("HalfTurn");
-    for (View const& view : views) {
+    const std::vector<View> views = viewsOf("HalfTurn");
+    for (const View& view : views) {
         EXPECT_NEAR(distanceToCentre(view), 10.0, 1e-9);
     }
     EXPECT_LT(unevenness(views), 0.01);
@@ -105,7 +105,7 @@ TEST_F(InterpolationTest, halfTurnIsEven) {
 
 // Twenty degrees on through straight down, not 340 back.
 TEST_F(InterpolationTest, psiTurnsTheShortWayThrough180) {
-    std::vector<View> const views = viewsOf("PsiThrough180");
+    const std::vector<View> views = viewsOf("PsiThrough180");
     ASSERT_EQ(views.size(), 21u);
     for (std::size_t i = 0; i < 20; ++i) {
         expectNear(views[i], viewOfCentre(170.0 + static_cast<double>(i), 30.0, 0.0, 10.0, 4.0), i);
@@ -114,7 +114,7 @@ TEST_F(InterpolationTest, psiTurnsTheShortWayThrough180) {
 }
 
 TEST_F(InterpolationTest, thetaTurnsTheShortWayThrough360) {
-    std::vector<View> const views = viewsOf("ThetaThrough360");
+    const std::vector<View> views = viewsOf("ThetaThrough360");
     ASSERT_EQ(views.size(), 11u);
     for (std::size_t i = 0; i < 10; ++i) {
         expectNear(views[i],
@@ -124,7 +124,7 @@ TEST_F(InterpolationTest, thetaTurnsTheShortWayThrough360) {
 }
 
 TEST_F(InterpolationTest, alphaTwistsTheShortWayAndLeavesTheViewerInPlace) {
-    std::vector<View> const views = viewsOf("AlphaWraps");
+    const std::vector<View> views = viewsOf("AlphaWraps");
     ASSERT_EQ(views.size(), 13u);
     for (std::size_t i = 0; i < 12; ++i) {
         expectNear(views[i],
@@ -133,7 +133,7 @@ TEST_F(InterpolationTest, alphaTwistsTheShortWayAndLeavesTheViewerInPlace) {
 }
 
 TEST_F(InterpolationTest, zoomChangesTheWidthInEqualSharesAndNothingElse) {
-    std::vector<View> const views = viewsOf("ZoomOnly");
+    const std::vector<View> views = viewsOf("ZoomOnly");
     ASSERT_EQ(views.size(), 15u);
     for (std::size_t i = 0; i < views.size(); ++i) {
         View expected = views.front();
@@ -143,10 +143,10 @@ TEST_F(InterpolationTest, zoomChangesTheWidthInEqualSharesAndNothingElse) {
 }
 
 TEST_F(InterpolationTest, panMovesInAStraightLine) {
-    std::vector<View> const views = viewsOf("PanOnly");
+    const std::vector<View> views = viewsOf("PanOnly");
     ASSERT_EQ(views.size(), 11u);
     for (std::size_t i = 0; i < views.size(); ++i) {
-        double const share = static_cast<double>(i) / 10.0;
+        const double share = static_cast<double>(i) / 10.0;
         View expected = views.front();
         expected.setX(expected.x() + 3.0 * share);
         expected.setY(expected.y() - 2.0 * share);
@@ -156,16 +156,16 @@ TEST_F(InterpolationTest, panMovesInAStraightLine) {
 }
 
 TEST_F(InterpolationTest, dollyMovesTheDistanceInEqualShares) {
-    std::vector<View> const views = viewsOf("DollyIn");
+    const std::vector<View> views = viewsOf("DollyIn");
     ASSERT_EQ(views.size(), 17u);
     for (std::size_t i = 0; i < views.size(); ++i) {
-        double const distance = between(10.0, 2.0, static_cast<double>(i) / 16.0);
+        const double distance = between(10.0, 2.0, static_cast<double>(i) / 16.0);
         expectNear(views[i], viewOfCentre(60.0, 240.0, 0.0, distance, 4.0), i);
     }
 }
 
 TEST_F(InterpolationTest, holdStaysWhereItIs) {
-    std::vector<View> const views = viewsOf("LongHold");
+    const std::vector<View> views = viewsOf("LongHold");
     ASSERT_EQ(views.size(), 26u);
     for (std::size_t i = 0; i < views.size(); ++i) {
         expectNear(views[i], views.front(), i);
@@ -173,7 +173,7 @@ TEST_F(InterpolationTest, holdStaysWhereItIs) {
 }
 
 TEST_F(InterpolationTest, stepInTheMiddleOfTwoStandsHalfWay) {
-    std::vector<View> const views = viewsOf("TwoKeysCountTwo");
+    const std::vector<View> views = viewsOf("TwoKeysCountTwo");
     ASSERT_EQ(views.size(), 3u);
     expectNear(views[1], viewOfCentre(60.0, 300.0, 0.0, 10.0, 4.0), 1);
 }
@@ -181,17 +181,17 @@ TEST_F(InterpolationTest, stepInTheMiddleOfTwoStandsHalfWay) {
 // The position left over is measured from where the whole turn carries the viewer, not from where
 // he stands: turn and pan then mix so that every segment arrives.
 TEST_F(InterpolationTest, everySegmentArrivesAtItsKeyView) {
-    auto const& keyFrames = flightCase("FourKeysMixed").keyFrames;
-    std::vector<View> const views = viewsOf("FourKeysMixed");
+    const auto& keyFrames = flightCase("FourKeysMixed").keyFrames;
+    const std::vector<View> views = viewsOf("FourKeysMixed");
     std::size_t arrival = 0;
     for (std::size_t i = 0; i + 1 < keyFrames.size(); ++i) {
         arrival += keyFrames[i].frameCount;
         if (keyFrames[i].frameCount < 3) {
             continue;
         }
-        View const& last = views[arrival - 1];
-        View const& before = views[arrival - 2];
-        View const& key = views[arrival];
+        const View& last = views[arrival - 1];
+        const View& before = views[arrival - 2];
+        const View& key = views[arrival];
         EXPECT_NEAR(key.width() - last.width(), last.width() - before.width(), 1e-9) << i;
         EXPECT_NEAR(std::remainder(key.psi() - last.psi(), 360.0), last.psi() - before.psi(), 1e-9)
             << i;
@@ -208,10 +208,10 @@ TEST_F(InterpolationTest, longFlightsDoNotDrift) {
     KeyFrames keyFrames = flightCase("HugeCount").keyFrames;
     // Enough to see a drift, and short enough for every run of the tests.
     keyFrames[0].frameCount = 2000;
-    std::vector<View> const views = viewsOf(keyFrames);
+    const std::vector<View> views = viewsOf(keyFrames);
     ASSERT_EQ(views.size(), 2001u);
     for (std::size_t i = 0; i < 2000; i += 100) {
-        double const share = static_cast<double>(i) / 2000.0;
+        const double share = static_cast<double>(i) / 2000.0;
         expectNear(views[i], viewOfCentre(60.0, between(240.0, 360.0, share), 0.0, 10.0, 4.0), i);
     }
     EXPECT_LT(unevenness(views), 0.01);

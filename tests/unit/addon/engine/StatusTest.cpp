@@ -11,14 +11,14 @@ using corutiltools::Status;
 class StatusTest : public EngineTest {};
 
 TEST_F(StatusTest, showsMessageWithHintAndStopButton) {
-    Status const status(4.0, "Working....");
+    const Status status(4.0, "Working....");
     EXPECT_THAT(calls(), ElementsAre("CorUtilStatusStartPercentDone(\"Working.... Press [Esc] or "
                                      "click [Stop] to cancel.\", TRUE, TRUE)"));
 }
 
 TEST_F(StatusTest, endsTheDisplay) {
     {
-        Status const status(4.0, "Working....");
+        const Status status(4.0, "Working....");
         host.clearCalls();
     }
     EXPECT_THAT(calls(), ElementsAre("CorUtilStatusFinishPercentDone()"));
@@ -87,7 +87,7 @@ TEST_F(StatusTest, updateLearnsItToo) {
 }
 
 TEST_F(StatusTest, changesTheMessage) {
-    Status const status(4.0, "Working....");
+    const Status status(4.0, "Working....");
     host.clearCalls();
     status.setMessage("Nearly done....");
     EXPECT_THAT(calls(), ElementsAre("CorUtilStatusSetPercentDoneText(\"Nearly done.... Press "
@@ -95,17 +95,17 @@ TEST_F(StatusTest, changesTheMessage) {
 }
 
 TEST_F(StatusTest, appendsAnyHint) {
-    Status const status(4.0, "Working....", 0, "!");
+    const Status status(4.0, "Working....", 0, "!");
     EXPECT_EQ(status.buildStatusMessage("Stop"), "Stop!");
     EXPECT_EQ(status.buildStatusMessage(""), "!");
 }
 
 TEST_F(StatusTest, leavesMessagesUnchangedInModeOneOnly) {
     {
-        Status const status(4.0, "Working....", 1);
+        const Status status(4.0, "Working....", 1);
         EXPECT_EQ(status.buildStatusMessage("Working...."), "Working....");
     }
-    Status const status(4.0, "Working....", 2, "!");
+    const Status status(4.0, "Working....", 2, "!");
     EXPECT_EQ(status.buildStatusMessage("Working...."), "Working....!");
 }
 

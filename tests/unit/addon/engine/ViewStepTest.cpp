@@ -16,11 +16,11 @@ using corutiltools::View;
 
 class ViewStepTest : public EngineTest {
 protected:
-    View const from = viewOfCentre(60.0, 240.0, 0.0, 10.0, 4.0);
-    View const target = viewOfCentre(70.0, 300.0, -40.0, 5.0, 2.0);
+    const View from = viewOfCentre(60.0, 240.0, 0.0, 10.0, 4.0);
+    const View target = viewOfCentre(70.0, 300.0, -40.0, 5.0, 2.0);
 };
 
-std::vector<std::string> const applyCalls{
+const std::vector<std::string> applyCalls{
     "CorUtilLockStart",  "CorUtilLockStart",          "CorUtilDrawGraphics(FALSE)",
     "CorUtilStyleSet",   "CorUtilStyleSet",           "CorUtilStyleSet",
     "CorUtilStyleSet",   "CorUtilStyleSet",           "CorUtilStyleSet",
@@ -29,7 +29,7 @@ std::vector<std::string> const applyCalls{
     "CorUtilLockFinish",
 };
 
-std::vector<std::string> const rotateAndReadCalls{
+const std::vector<std::string> rotateAndReadCalls{
     "CorUtilViewRotate3D",
     "CorUtilViewRotate3D",
     "CorUtilViewRotate3D",
@@ -39,9 +39,9 @@ std::vector<std::string> const rotateAndReadCalls{
     "CorUtilThreeDViewGetProjection",
 };
 
-std::vector<std::string> joined(std::vector<std::vector<std::string>> const& parts) {
+std::vector<std::string> joined(const std::vector<std::vector<std::string>>& parts) {
     std::vector<std::string> result;
-    for (auto const& part : parts) {
+    for (const auto& part : parts) {
         result.insert(result.end(), part.begin(), part.end());
     }
     return result;
@@ -96,7 +96,7 @@ TEST_F(ViewStepTest, writesPositionAndThenWidthWithoutPerspective) {
 TEST_F(ViewStepTest, takesTheShortWayRound) {
     StepTowards(viewOfCentre(170.0, 350.0, 150.0, 10.0, 4.0),
                 viewOfCentre(-170.0, 10.0, -150.0, 10.0, 4.0), 1.0);
-    auto const turns = callsTo("CorUtilViewRotate3D");
+    const auto turns = callsTo("CorUtilViewRotate3D");
     ASSERT_EQ(turns.size(), 6u);
     EXPECT_EQ(turns[0], "CorUtilViewRotate3D(5, 60, 0, 0, 0, 0)");
     EXPECT_EQ(turns[1], "CorUtilViewRotate3D(3, 20, 0, 0, 0, 0)");
@@ -104,7 +104,7 @@ TEST_F(ViewStepTest, takesTheShortWayRound) {
 }
 
 TEST_F(ViewStepTest, lastStepReachesTheTarget) {
-    View const reached = StepTowards(from, target, 1.0);
+    const View reached = StepTowards(from, target, 1.0);
     EXPECT_NEAR(reached.x(), target.x(), 1e-9);
     EXPECT_NEAR(reached.y(), target.y(), 1e-9);
     EXPECT_NEAR(reached.z(), target.z(), 1e-9);
@@ -115,7 +115,7 @@ TEST_F(ViewStepTest, lastStepReachesTheTarget) {
 }
 
 TEST_F(ViewStepTest, returnsWhatTheHostShows) {
-    View const reached = StepTowards(from, target, 3.0);
+    const View reached = StepTowards(from, target, 3.0);
     EXPECT_EQ(reached, corutiltools::GetCurrentView());
 }
 
@@ -141,10 +141,10 @@ TEST_F(ViewStepTest, outsideA3DFrameFailsAndLeavesNothingLocked) {
 // Whatever call fails in the middle of a step, nothing stays locked or suspended.
 TEST_F(ViewStepTest, leavesNothingLockedWhenTheHostThrows) {
     StepTowards(from, target, 2.0);
-    std::size_t const rotations = callsTo("CorUtilViewRotate3D").size();
-    std::size_t const reads = callsTo("CorUtilThreeDViewGetViewerPos").size();
-    std::size_t const writes = callsTo("CorUtilStyleSet").size();
-    auto const failsAtEach = [&](std::string const& call, std::size_t count) {
+    const std::size_t rotations = callsTo("CorUtilViewRotate3D").size();
+    const std::size_t reads = callsTo("CorUtilThreeDViewGetViewerPos").size();
+    const std::size_t writes = callsTo("CorUtilStyleSet").size();
+    const auto failsAtEach = [&](const std::string& call, std::size_t count) {
         for (std::size_t k = 1; k <= count; ++k) {
             host.throwAt(call, static_cast<int>(k));
             EXPECT_THROW(StepTowards(from, target, 2.0), std::runtime_error) << call << k;

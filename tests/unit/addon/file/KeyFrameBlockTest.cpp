@@ -29,7 +29,7 @@ TEST(KeyFrameBlock, takesTheLaterOfRepeatedItems) {
 }
 
 TEST(KeyFrameBlock, acceptsABlockThatRunsIntoTheEnd) {
-    for (std::string const end : {"%KeyFrameView", "", "\n\n", "  "}) {
+    for (const std::string end : {"%KeyFrameView", "", "\n\n", "  "}) {
         ReadResult result;
         read(header + "%KeyFrameView\n" + place + "Width 7\n" + end, result);
         EXPECT_EQ(result.first().view.width(), 7) << end;
@@ -37,7 +37,7 @@ TEST(KeyFrameBlock, acceptsABlockThatRunsIntoTheEnd) {
 }
 
 TEST(KeyFrameBlock, doesNotLookAtALastItemWithoutLineFeed) {
-    for (std::string const line : {"Width 7", "Width", "nonsense", "%Settings"}) {
+    for (const std::string line : {"Width 7", "Width", "nonsense", "%Settings"}) {
         ReadResult result;
         read(header + "%KeyFrameView\n" + place + line, result);
         EXPECT_EQ(result.first().view.width(), 0) << line;
@@ -63,7 +63,7 @@ TEST(KeyFrameBlock, refusesAnUnknownItem) {
 }
 
 TEST(KeyFrameBlock, failsWithoutPlace) {
-    for (std::string const items : {"", "Position 1 2 3\n", "Angle 1 2 3\n"}) {
+    for (const std::string items : {"", "Position 1 2 3\n", "Angle 1 2 3\n"}) {
         ReadResult result;
         result.settings.fadeIn = true;
         result.model.insertItem(0, fullKeyFrame);
@@ -81,14 +81,14 @@ TEST(KeyFrameBlock, namesThePlaceThatIsMissing) {
     try {
         read(header + "%KeyFrameView\nPosition 1 2 3\n%KeyFrameView\n", result);
         ADD_FAILURE() << "a view without angles was read";
-    } catch (std::out_of_range const& error) {
+    } catch (const std::out_of_range& error) {
         EXPECT_STREQ(error.what(), "The key frame view that ends on line number 4 of the key frame "
                                    "file has no Angle entry.");
     }
 }
 
 TEST(KeyFrameBlock, takesNamesBetweenTheFirstTwoQuotes) {
-    for (auto const& [line, name] :
+    for (const auto& [line, name] :
          std::vector<std::pair<std::string, std::string>>{{"Name \"a\"", "a"},
                                                           {"Name \"a\" and \"b\"", "a"},
                                                           {"Name my \"a\"", "a"},
@@ -103,10 +103,11 @@ TEST(KeyFrameBlock, takesNamesBetweenTheFirstTwoQuotes) {
 }
 
 TEST(KeyFrameBlock, refusesNamesWithoutQuotes) {
-    for (std::string const line : {"Name", "Name a", "Name \"a", "Name \""})
+    for (const std::string line : {"Name", "Name a", "Name \"a", "Name \""}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\n" + line + "\n"),
                   located("View name must be surrounded in quotation marks.", 3))
             << line;
+    }
 }
 
 TEST(KeyFrameBlock, refusesAnEmptyName) {
@@ -117,9 +118,9 @@ TEST(KeyFrameBlock, refusesAnEmptyName) {
 }
 
 TEST(KeyFrameBlock, wantsThreeNumbers) {
-    for (std::string const item : {"Position", "Angle"})
-        for (auto const& [values, count] : std::vector<std::pair<std::string, std::string>>{
-                 {"", "0"}, {" 1", "1"}, {" 1 2", "2"}, {" 1 2 3 4", "4"}})
+    for (const std::string item : {"Position", "Angle"}) {
+        for (const auto& [values, count] : std::vector<std::pair<std::string, std::string>>{
+                 {"", "0"}, {" 1", "1"}, {" 1 2", "2"}, {" 1 2 3 4", "4"}}) {
             EXPECT_EQ(
                 refusal(header + "%KeyFrameView\n" + item + values + "\n"),
                 located("Mismatch between number of expected values and number of values that "
@@ -127,10 +128,12 @@ TEST(KeyFrameBlock, wantsThreeNumbers) {
                         "Number of values read: " +
                             count,
                         3));
+        }
+    }
 }
 
 TEST(KeyFrameBlock, namesTheWordThatIsNoNumber) {
-    for (auto const& [values, word] :
+    for (const auto& [values, word] :
          std::vector<std::pair<std::string, std::string>>{{"1 2 three", "three"},
                                                           {"x 2 3", "x"},
                                                           {"1 2 3 four", "four"},
@@ -140,13 +143,14 @@ TEST(KeyFrameBlock, namesTheWordThatIsNoNumber) {
                                                           {"1 2 3m", "m"},
                                                           {"1 nan 3", "nan"},
                                                           {"1 2 -inf 3", "-inf"},
-                                                          {"1 2 1e999", "1e999"}})
+                                                          {"1 2 1e999", "1e999"}}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\nPosition " + values + "\n"),
                   located("Error reading item from file.\n"
                           "Unable to convert input to appropriate value: " +
                               word,
                           3))
             << values;
+    }
 }
 
 TEST(KeyFrameBlock, readsNumbersInEveryNotation) {
@@ -158,25 +162,28 @@ TEST(KeyFrameBlock, readsNumbersInEveryNotation) {
 }
 
 TEST(KeyFrameBlock, keepsWidthsWithinBounds) {
-    for (std::string const value : {"1e150", "-1e150", "0", "12.25 wide"}) {
+    for (const std::string value : {"1e150", "-1e150", "0", "12.25 wide"}) {
         ReadResult result;
         read(header + block("Width " + value + "\n"), result);
         EXPECT_EQ(result.first().view.width(), std::stod(value));
     }
-    for (std::string const value : {"1.0000001e150", "-2e150", "1e300"})
+    for (const std::string value : {"1.0000001e150", "-2e150", "1e300"}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\nWidth " + value + "\n"),
                   located("Invalid width value. Width must be between -1e150 and 1e150", 3));
-    for (std::string const value : {"", "wide", "1e999", "inf", "nan"})
+    }
+    for (const std::string value : {"", "wide", "1e999", "inf", "nan"}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\nWidth " + value + "\n"),
                   located("Unable to read width value.", 3));
+    }
 }
 
 TEST(KeyFrameBlock, speaksOfTheWidthWhenAFrameCountCannotBeRead) {
-    for (std::string const value :
-         {"", "many", "-1", "-0", " -20", "18446744073709551616", "- 3", "--3"})
+    for (const std::string value :
+         {"", "many", "-1", "-0", " -20", "18446744073709551616", "- 3", "--3"}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\nFrameCount " + value + "\n"),
                   located("Unable to read width value.", 3))
             << value;
+    }
 }
 
 TEST(KeyFrameBlock, wantsAtLeastOneFrame) {
@@ -188,9 +195,10 @@ TEST(KeyFrameBlock, wantsAtLeastOneFrame) {
 }
 
 TEST(KeyFrameBlock, refusesASolutionTimeThatIsNoNumber) {
-    for (std::string const value : {"", "now", "1e999"})
+    for (const std::string value : {"", "now", "1e999"}) {
         EXPECT_EQ(refusal(header + "%KeyFrameView\nSolutionTime " + value + "\n"),
                   located("Unable to read solution time value.", 3));
+    }
 }
 
 } // namespace

@@ -75,8 +75,9 @@ TEST(KeyFrameFileRead, ignoresBlankLinesAndWhiteSpaceAroundLines) {
 
 TEST(KeyFrameFileRead, readsFilesWithCarriageReturns) {
     std::string text;
-    for (char const character : header + settingsBlock("FadeIn true\n") + fullBlock)
+    for (const char character : header + settingsBlock("FadeIn true\n") + fullBlock) {
         text += character == '\n' ? std::string("\r\n") : std::string(1, character);
+    }
     ReadResult result;
     read(text, result);
     EXPECT_TRUE(result.settings.fadeIn);
@@ -99,7 +100,7 @@ TEST(KeyFrameFileRead, hasNoComments) {
 }
 
 TEST(KeyFrameFileRead, isTheSameInEveryLocale) {
-    CommaLocale const german;
+    const CommaLocale german;
     ReadResult result;
     read(header + settingsBlock("FadeIn true\n") + block("Width 1234.5\nFrameCount 1000\n"),
          result);
@@ -113,7 +114,7 @@ TEST(KeyFrameFileRead, isTheSameInEveryLocale) {
 // --- header
 
 TEST(KeyFrameFileRead, acceptsHeadersWithoutANewerVersion) {
-    for (std::string const line :
+    for (const std::string line :
          {"#!KEYFRAME 1", "#!keyframe", "#!KeyFrame 0", "#!KeyFrame -7", "#!KeyFrame one",
           "#!KeyFrame 1 and more", "#!KeyFrame 1.9", "\n\n  #!KeyFrame 1"}) {
         ReadResult result;
@@ -123,15 +124,17 @@ TEST(KeyFrameFileRead, acceptsHeadersWithoutANewerVersion) {
 }
 
 TEST(KeyFrameFileRead, refusesANewerVersion) {
-    for (std::string const line : {"#!KeyFrame 2", "#!KeyFrame 99999999999999999999"})
+    for (const std::string line : {"#!KeyFrame 2", "#!KeyFrame 99999999999999999999"}) {
         EXPECT_EQ(refusal(line + "\n" + fullBlock),
                   "File created with a newer version of the Key Frame add-on.");
+    }
 }
 
 TEST(KeyFrameFileRead, refusesAnotherHeader) {
-    for (std::string const text : {"", "\n", "   ", " \n\t\n", "KeyFrame 1\n", "#!KeyFrame1\n",
-                                   "#!KeyFrames 1\n", "# !KeyFrame 1\n", "%Settings\n"})
+    for (const std::string text : {"", "\n", "   ", " \n\t\n", "KeyFrame 1\n", "#!KeyFrame1\n",
+                                   "#!KeyFrames 1\n", "# !KeyFrame 1\n", "%Settings\n"}) {
         EXPECT_EQ(refusal(text), "Invalid file header.") << text;
+    }
 }
 
 TEST(KeyFrameFileRead, readsAFileOfAHeaderAlone) {
@@ -152,7 +155,7 @@ TEST(KeyFrameFileRead, refusesAnUnknownSectionByItsWholeLine) {
 }
 
 TEST(KeyFrameFileRead, doesNotLookAtALastLineWithoutLineFeedBetweenBlocks) {
-    for (std::string const line : {"nonsense", "%Settings", "%KeyFrameView"}) {
+    for (const std::string line : {"nonsense", "%Settings", "%KeyFrameView"}) {
         ReadResult result;
         read(header + fullBlock + line, result);
         EXPECT_EQ(result.model.size(), 1u) << line;
@@ -191,13 +194,13 @@ private:
     std::string m_text;
 };
 
-std::string refusalOfBrokenFile(std::string const& text) {
+std::string refusalOfBrokenFile(const std::string& text) {
     BreakingBuffer buffer(text);
     std::istream stream(&buffer);
     ReadResult result;
     try {
         KeyFrameFile().read(stream, result.settings, result.model);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         return error.what();
     }
     ADD_FAILURE() << "was read:\n" << text;
@@ -213,30 +216,30 @@ TEST(KeyFrameFileRead, saysWhenReadingFailed) {
 }
 
 TEST(KeyFrameFileRead, saysWhenTheFileCannotBeOpened) {
-    TempFolder const folder;
+    const TempFolder folder;
     ReadResult result;
     try {
         KeyFrameFile().readFile(folder.file("missing"), result.settings, result.model);
         FAIL() << "was read";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(), "Unable to open file for reading.");
     }
 }
 
 TEST(KeyFrameFileRead, takesAFolderForNoKeyFrameFile) {
-    TempFolder const folder;
+    const TempFolder folder;
     ReadResult result;
     try {
         KeyFrameFile().readFile(folder.path().string(), result.settings, result.model);
         FAIL() << "was read";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(), "Invalid file header.");
     }
 }
 
 TEST(KeyFrameFileRead, readsFiles) {
-    TempFolder const folder;
-    std::string const fileName =
+    const TempFolder folder;
+    const std::string fileName =
         folder.write("a.keyframe", header + settingsBlock("FadeOut true\n") + fullBlock);
     ReadResult result;
     KeyFrameFile().readFile(fileName, result.settings, result.model);
@@ -258,15 +261,16 @@ TEST(KeyFrameFileRead, readsZeroBytesLikeOthers) {
 }
 
 TEST(KeyFrameFileRead, readsLongLines) {
-    std::string const longName(8'000'000, 'n');
+    const std::string longName(8'000'000, 'n');
     ReadResult result;
     read(header + block("Name \"" + longName + "\"\n"), result);
     EXPECT_EQ(result.first().name, longName);
     EXPECT_EQ(refusal(std::string(8'000'000, '#')), "Invalid file header.");
     EXPECT_EQ(refusal(std::string(8'000'000, ' ')), "Invalid file header.");
     std::string numbers;
-    for (int count = 0; count < 100'000; ++count)
+    for (int count = 0; count < 100'000; ++count) {
         numbers += " 1";
+    }
     EXPECT_THAT(refusal(header + "%KeyFrameView\nPosition" + numbers + "\n"),
                 testing::HasSubstr("\nNumber of values read: 100000\n"));
 }

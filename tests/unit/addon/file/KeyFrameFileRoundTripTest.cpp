@@ -22,12 +22,12 @@ class KeyFrameFileRoundTrip : public testing::TestWithParam<FlightCase> {};
 TEST_P(KeyFrameFileRoundTrip, keepsFlightsToSixDigits) {
     ListModelKeyFrame model;
     model.setDataList(GetParam().keyFrames);
-    Settings_s const settings{
+    const Settings_s settings{
         {true, TimeAnimationOperation_Loop, 4}, Destination_OnScreen, true, false, true};
-    std::string const text = written(settings, model);
-    bool const hasStill =
+    const std::string text = written(settings, model);
+    const bool hasStill =
         std::any_of(GetParam().keyFrames.begin(), GetParam().keyFrames.end(),
-                    [](KeyFrame_s const& keyFrame) { return keyFrame.frameCount == 0; });
+                    [](const KeyFrame_s& keyFrame) { return keyFrame.frameCount == 0; });
     if (hasStill) {
         EXPECT_THAT(refusal(text), testing::HasSubstr("Invalid frameCount value."));
         return;
@@ -39,9 +39,9 @@ TEST_P(KeyFrameFileRoundTrip, keepsFlightsToSixDigits) {
     for (unsigned long index = 0; index < model.size(); ++index) {
         EXPECT_EQ(result.model.name(index), model.name(index));
         EXPECT_EQ(result.model.frameCount(index), model.frameCount(index));
-        View const& before = model.data(index).view;
-        View const& after = result.model.data(index).view;
-        auto const expectClose = [](double value, double expected) {
+        const View& before = model.data(index).view;
+        const View& after = result.model.data(index).view;
+        const auto expectClose = [](double value, double expected) {
             EXPECT_NEAR(value, expected, 5e-6 * std::abs(expected));
         };
         expectClose(after.x(), before.x());
@@ -57,18 +57,18 @@ TEST_P(KeyFrameFileRoundTrip, keepsFlightsToSixDigits) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Flights, KeyFrameFileRoundTrip, testing::ValuesIn(flightCases()),
-                         [](auto const& flight) { return flight.param.name; });
+                         [](const auto& flight) { return flight.param.name; });
 
 // Hands out a file in pieces and counts its bytes; going back is refused.
 class CountingBuffer : public std::streambuf {
 public:
-    explicit CountingBuffer(std::string const& fileName) { m_file.open(fileName, std::ios::in); }
+    explicit CountingBuffer(const std::string& fileName) { m_file.open(fileName, std::ios::in); }
 
     unsigned long bytes = 0;
 
 private:
     int_type underflow() override {
-        auto const count = m_file.sgetn(m_piece, sizeof m_piece);
+        const auto count = m_file.sgetn(m_piece, sizeof m_piece);
         bytes += static_cast<unsigned long>(count);
         setg(m_piece, m_piece, m_piece + count);
         return count == 0 ? traits_type::eof() : traits_type::to_int_type(*m_piece);
@@ -82,18 +82,18 @@ TEST(KeyFrameFileSize, takesEveryByteAndLineOfAHundredThousandKeyFramesOnce) {
     constexpr unsigned long keyFrameCount = 100'000;
     std::vector<KeyFrame_s> keyFrames;
     for (unsigned long index = 0; index < keyFrameCount; ++index) {
-        double const value = static_cast<double>(index);
+        const double value = static_cast<double>(index);
         keyFrames.push_back({View(value, -value, 0.5, 10, 20, 30, 1 + value),
                              "View " + std::to_string(index + 1), index + 1, value});
     }
     ListModelKeyFrame model;
     model.setDataList(keyFrames);
-    TempFolder const folder;
-    std::string const fileName = folder.file("long.keyframe");
+    const TempFolder folder;
+    const std::string fileName = folder.file("long.keyframe");
     KeyFrameFile().saveFile(fileName, defaultSettings(), model);
-    std::string const text = folder.read("long.keyframe");
+    const std::string text = folder.read("long.keyframe");
     // Ten lines before the first key frame, and nine for each, the blank ones included.
-    unsigned long const lineCount = 10 + 9 * keyFrameCount;
+    const unsigned long lineCount = 10 + 9 * keyFrameCount;
     EXPECT_EQ(static_cast<unsigned long>(std::count(text.begin(), text.end(), '\n')),
               lineCount - 1);
 

@@ -18,7 +18,7 @@ KeyFrame_s illustration() {
     return {View(1.5, 2, 30, 0, 45, -90, 12.25), "Key Frame 1", 20, 0.0};
 }
 
-std::string const illustratedSettings = "#!KeyFrame 1\n"
+const std::string illustratedSettings = "#!KeyFrame 1\n"
                                         "\n"
                                         "%Settings\n"
                                         " AnimateTime false\n"
@@ -29,7 +29,7 @@ std::string const illustratedSettings = "#!KeyFrame 1\n"
                                         " FadeOut false\n"
                                         "%Settings";
 
-std::string const illustratedKeyFrame = "\n"
+const std::string illustratedKeyFrame = "\n"
                                         "\n"
                                         "%KeyFrameView\n"
                                         " Name \"Key Frame 1\"\n"
@@ -89,20 +89,20 @@ TEST(KeyFrameFileWrite, writesNamesAsTheyStand) {
 }
 
 TEST(KeyFrameFileWrite, isTheSameInEveryLocale) {
-    CommaLocale const german;
+    const CommaLocale german;
     ListModelKeyFrame model;
     model.setDataList({{View(1234.5, 0, 0, 0, 0, 0, 0), "x", 1234567, 0}});
-    std::string const text = written(defaultSettings(), model);
+    const std::string text = written(defaultSettings(), model);
     EXPECT_THAT(text, testing::HasSubstr(" AnimateTime false\n"));
     EXPECT_THAT(text, testing::HasSubstr(" Position 1234.5 0 0\n"));
     EXPECT_THAT(text, testing::HasSubstr(" FrameCount 1234567\n"));
-    TempFolder const folder;
+    const TempFolder folder;
     KeyFrameFile().saveFile(folder.file("a"), defaultSettings(), model);
     EXPECT_EQ(folder.read("a"), text);
 }
 
 TEST(KeyFrameFileWrite, refusesASettingWithoutKeywordAndLeavesThePartBefore) {
-    TempFolder const folder;
+    const TempFolder folder;
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
     Settings_s settings = defaultSettings();
@@ -110,7 +110,7 @@ TEST(KeyFrameFileWrite, refusesASettingWithoutKeywordAndLeavesThePartBefore) {
     try {
         KeyFrameFile().saveFile(folder.file("a.keyframe"), settings, model);
         FAIL() << "was written";
-    } catch (std::out_of_range const& error) {
+    } catch (const std::out_of_range& error) {
         EXPECT_STREQ(error.what(), "Enumeration out of range.");
     }
     EXPECT_THAT(folder.read("a.keyframe"),
@@ -118,8 +118,8 @@ TEST(KeyFrameFileWrite, refusesASettingWithoutKeywordAndLeavesThePartBefore) {
 }
 
 TEST(KeyFrameFileWrite, savesToAFileAndReplacesWhatWasThere) {
-    TempFolder const folder;
-    std::string const fileName = folder.write("a.keyframe", std::string(10000, 'x'));
+    const TempFolder folder;
+    const std::string fileName = folder.write("a.keyframe", std::string(10000, 'x'));
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
     KeyFrameFile().saveFile(fileName, defaultSettings(), model);
@@ -127,11 +127,11 @@ TEST(KeyFrameFileWrite, savesToAFileAndReplacesWhatWasThere) {
 }
 
 TEST(KeyFrameFileWrite, makesNoFileWithoutKeyFrames) {
-    TempFolder const folder;
+    const TempFolder folder;
     try {
         KeyFrameFile().saveFile(folder.file("a.keyframe"), defaultSettings(), ListModelKeyFrame());
         FAIL() << "was written";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(), "No Key Frames established.");
     }
     EXPECT_FALSE(folder.has("a.keyframe"));
@@ -144,21 +144,21 @@ TEST(KeyFrameFileWrite, asksTheModelForItsMessage) {
     try {
         KeyFrameFile().saveFile("never made", defaultSettings(), OtherModel());
         FAIL() << "was written";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(), "Nothing.");
     }
 }
 
 TEST(KeyFrameFileWrite, saysWhenTheFileCannotBeOpened) {
-    TempFolder const folder;
+    const TempFolder folder;
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
-    for (std::string const& fileName :
+    for (const std::string& fileName :
          {folder.path().string(), folder.file("missing/a.keyframe")}) {
         try {
             KeyFrameFile().saveFile(fileName, defaultSettings(), model);
             FAIL() << "was written";
-        } catch (KeyFrameError const& error) {
+        } catch (const KeyFrameError& error) {
             EXPECT_STREQ(error.what(), "Unable to open file for writing.");
         }
     }
@@ -168,12 +168,12 @@ TEST(KeyFrameFileWrite, saysWhenTheDiskIsFull) {
     ListModelKeyFrame model;
     model.insertItem(0, illustration());
     // Little enough to stay in the stream's buffer to the end, and too much for it.
-    for (unsigned long const count : {1ul, 1000ul}) {
+    for (const unsigned long count : {1ul, 1000ul}) {
         model.setDataList(std::vector<KeyFrame_s>(count, illustration()));
         try {
             KeyFrameFile().saveFile("/dev/full", defaultSettings(), model);
             FAIL() << "was written";
-        } catch (KeyFrameError const& error) {
+        } catch (const KeyFrameError& error) {
             EXPECT_STREQ(error.what(), "Error during file write.");
         }
     }
@@ -186,7 +186,7 @@ TEST(KeyFrameFileWrite, fetchesKeyFramesOneByOneAndAsksForTheirNumberBeforeEach)
             calls += 's';
             return ListModelKeyFrame::size();
         }
-        KeyFrame_s const& data(unsigned long index) const override {
+        const KeyFrame_s& data(unsigned long index) const override {
             calls += static_cast<char>('0' + index);
             return ListModelKeyFrame::data(index);
         }

@@ -13,7 +13,7 @@
 
 namespace corvane::corutiltools {
 
-inline bool operator==(Settings_s const& left, Settings_s const& right) {
+inline bool operator==(const Settings_s& left, const Settings_s& right) {
     return left.timeOptions.animateTime == right.timeOptions.animateTime &&
            left.timeOptions.operation == right.timeOptions.operation &&
            left.timeOptions.numCycles == right.timeOptions.numCycles &&
@@ -41,16 +41,16 @@ inline Settings_s defaultSettings() {
             false};
 }
 
-inline std::string const header = "#!KeyFrame 1\n";
-inline std::string const place = "Position 1 2 3\nAngle 4 5 6\n";
+inline const std::string header = "#!KeyFrame 1\n";
+inline const std::string place = "Position 1 2 3\nAngle 4 5 6\n";
 
 // A block with a place and these items.
-inline std::string block(std::string const& items) {
+inline std::string block(const std::string& items) {
     return "%KeyFrameView\n" + place + items + "%KeyFrameView\n";
 }
 
 // A key frame with all its items.
-inline std::string const fullBlock = "%KeyFrameView\n"
+inline const std::string fullBlock = "%KeyFrameView\n"
                                      " Name \"Key Frame 1\"\n"
                                      " Position 1.5 2 30\n"
                                      " Angle 0 45 -90\n"
@@ -59,10 +59,10 @@ inline std::string const fullBlock = "%KeyFrameView\n"
                                      " SolutionTime 0.5\n"
                                      "%KeyFrameView\n";
 
-inline KeyFrame_s const fullKeyFrame{corutiltools::View(1.5, 2, 30, 0, 45, -90, 12.25),
+inline const KeyFrame_s fullKeyFrame{corutiltools::View(1.5, 2, 30, 0, 45, -90, 12.25),
                                      "Key Frame 1", 20, 0.5};
 
-inline std::string settingsBlock(std::string const& lines) {
+inline std::string settingsBlock(const std::string& lines) {
     return "%Settings\n" + lines + "%Settings\n";
 }
 
@@ -71,20 +71,20 @@ struct ReadResult {
     Settings_s settings = defaultSettings();
     ListModelKeyFrame model;
 
-    KeyFrame_s const& first() const { return model.data(0); }
+    const KeyFrame_s& first() const { return model.data(0); }
 };
 
-inline void read(std::string const& text, ReadResult& result) {
+inline void read(const std::string& text, ReadResult& result) {
     std::istringstream stream(text);
     KeyFrameFile().read(stream, result.settings, result.model);
 }
 
 // The message with which the text is refused; fails the test when it is read.
-inline std::string refusal(std::string const& text) {
+inline std::string refusal(const std::string& text) {
     ReadResult result;
     try {
         read(text, result);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         return error.what();
     }
     ADD_FAILURE() << "was read:\n" << text;
@@ -92,12 +92,12 @@ inline std::string refusal(std::string const& text) {
 }
 
 // How the reader words a complaint about a line.
-inline std::string located(std::string const& detail, unsigned long line) {
+inline std::string located(const std::string& detail, unsigned long line) {
     return "Error reading key frame settings file.\n\n" + detail +
            "\n\nError occurred on line number " + std::to_string(line) + ".";
 }
 
-inline std::string written(Settings_s const& settings, ListModelKeyFrame const& model) {
+inline std::string written(const Settings_s& settings, const ListModelKeyFrame& model) {
     std::ostringstream stream;
     KeyFrameFile().write(stream, settings, model);
     return stream.str();
@@ -109,8 +109,8 @@ public:
     CommaLocale() : m_before(std::locale::global({std::locale::classic(), new Punctuation})) {}
     ~CommaLocale() { std::locale::global(m_before); }
 
-    CommaLocale(CommaLocale const&) = delete;
-    CommaLocale& operator=(CommaLocale const&) = delete;
+    CommaLocale(const CommaLocale&) = delete;
+    CommaLocale& operator=(const CommaLocale&) = delete;
 
 private:
     class Punctuation : public std::numpunct<char> {

@@ -34,14 +34,17 @@ TEST(SettingsBlock, refusesAnUnknownSetting) {
 }
 
 TEST(SettingsBlock, takesBooleansAsLowerCaseWordsAlone) {
-    for (std::string const value : {"1", "0", "TRUE", "True", "FALSE", "trueish", "tru", "", "yes"})
-        for (std::string const setting :
-             {"AnimateTime", "AnimateStreamtraces", "FadeIn", "FadeOut"})
+    for (const std::string value :
+         {"1", "0", "TRUE", "True", "FALSE", "trueish", "tru", "", "yes"}) {
+        for (const std::string setting :
+             {"AnimateTime", "AnimateStreamtraces", "FadeIn", "FadeOut"}) {
             EXPECT_EQ(refusal(header + "%Settings\n" + setting + " " + value + "\n%Settings\n"),
                       located("Invalid value for " + setting +
                                   " setting.\nValue must be \"true\" or \"false\".",
                               3))
                 << value;
+        }
+    }
 }
 
 TEST(SettingsBlock, namesASettingAsTheTableDoes) {
@@ -52,7 +55,7 @@ TEST(SettingsBlock, namesASettingAsTheTableDoes) {
 }
 
 TEST(SettingsBlock, readsEveryOperation) {
-    std::vector<std::string> const keywords{"Forward", "Loop", "Bounce", "AsCaptured"};
+    const std::vector<std::string> keywords{"Forward", "Loop", "Bounce", "AsCaptured"};
     for (std::size_t value = 0; value < keywords.size(); ++value) {
         ReadResult result;
         read(header + settingsBlock("TimeAnimationOperation " + keywords[value] + "\n"), result);
@@ -61,13 +64,14 @@ TEST(SettingsBlock, readsEveryOperation) {
 }
 
 TEST(SettingsBlock, refusesAnUnknownOperation) {
-    for (std::string const value : {"Backward", "", "1"})
+    for (const std::string value : {"Backward", "", "1"}) {
         EXPECT_EQ(refusal(header + "%Settings\nTimeAnimationOperation " + value + "\n%Settings\n"),
                   located("Invalid value for TimeAnimationOperation setting.", 3));
+    }
 }
 
 TEST(SettingsBlock, acceptsASingleCycleInSpiteOfTheMessage) {
-    for (auto const& [text, value] : std::vector<std::pair<std::string, unsigned long>>{
+    for (const auto& [text, value] : std::vector<std::pair<std::string, unsigned long>>{
              {"1", 1}, {"2147483647", 2147483647}, {"+3", 3}, {"4.9", 4}, {"5 cycles", 5}}) {
         ReadResult result;
         read(header + settingsBlock("NumCycles " + text + "\n"), result);
@@ -76,12 +80,13 @@ TEST(SettingsBlock, acceptsASingleCycleInSpiteOfTheMessage) {
 }
 
 TEST(SettingsBlock, refusesOtherNumbersOfCycles) {
-    for (std::string const value : {"0", "-1", "-2147483649", "2147483648", "many", ""})
+    for (const std::string value : {"0", "-1", "-2147483649", "2147483648", "many", ""}) {
         EXPECT_EQ(refusal(header + "%Settings\nNumCycles " + value + "\n%Settings\n"),
                   located("Invalid value for NumCycles setting.\n"
                           "Value must be an integer greater than 1.",
                           3))
             << value;
+    }
 }
 
 TEST(SettingsBlock, ignoresWhatFollowsASetting) {
@@ -92,7 +97,7 @@ TEST(SettingsBlock, ignoresWhatFollowsASetting) {
 }
 
 TEST(SettingsBlock, keepsTheSettingsOfAFileCutShort) {
-    for (std::string const text :
+    for (const std::string text :
          {"%Settings\nFadeIn true", "%Settings\nFadeIn true\n", "%Settings\nFadeIn true\n\n  ",
           "%Settings\nFadeIn true\n%Settings"}) {
         ReadResult result;

@@ -24,7 +24,7 @@ public:
     std::string displayString(unsigned long index) const override {
         return std::to_string(items.at(index));
     }
-    int const& data(unsigned long index) const override { return items.at(index); }
+    const int& data(unsigned long index) const override { return items.at(index); }
     void rebuildModel() override { ++rebuilds; }
     void freeMemory() override { ++releases; }
 
@@ -37,10 +37,10 @@ public:
     int releases = 0;
 };
 
-ChangeInfo_s const inserted{ListModelGenericInterface::ItemsInserted, {0, 1}};
-ChangeInfo_s const removed{ListModelGenericInterface::ItemsRemoved, {3}};
-ChangeInfo_s const changed{ListModelGenericInterface::ItemsChanged, {2}};
-ChangeInfo_s const reset{ListModelGenericInterface::ModelReset, {}};
+const ChangeInfo_s inserted{ListModelGenericInterface::ItemsInserted, {0, 1}};
+const ChangeInfo_s removed{ListModelGenericInterface::ItemsRemoved, {3}};
+const ChangeInfo_s changed{ListModelGenericInterface::ItemsChanged, {2}};
+const ChangeInfo_s reset{ListModelGenericInterface::ModelReset, {}};
 
 TEST(ListModelAbstract, fixesTheNumbersOfTheKindsOfChange) {
     EXPECT_EQ(ListModelGenericInterface::ItemsInserted, 0);
@@ -189,7 +189,7 @@ TEST(ListModelAbstract, deliversAChangeThatAnObserverMakesOnceToAll) {
     RecordingObserver second;
     model.addObserver(first);
     model.addObserver(second);
-    auto const answerOnce = [&](RecordingObserver& observer) {
+    const auto answerOnce = [&](RecordingObserver& observer) {
         return [&] {
             observer.reaction = nullptr;
             model.notifyOfChange(changed);
@@ -208,7 +208,7 @@ TEST(ListModelAbstract, letsAnObserverLeaveWhileItIsTold) {
     RecordingObserver second;
     model.addObserver(first);
     model.addObserver(second);
-    auto const leave = [&] {
+    const auto leave = [&] {
         model.removeObserver(first);
         model.removeObserver(second);
     };

@@ -14,10 +14,10 @@ using namespace corvane::corutiltools;
 
 enum Speed { Slow, Fast, Faster, Fastest };
 
-PreMappedValue<Speed> const rows[] = {{"&Slow", Slow}, {"Fast", Fast}, {"Rapid", Fast}};
+const PreMappedValue<Speed> rows[] = {{"&Slow", Slow}, {"Fast", Fast}, {"Rapid", Fast}};
 
 TEST(ListModelPreMapped, showsItsRows) {
-    ListModelPreMapped<Speed> const model(rows, 3);
+    const ListModelPreMapped<Speed> model(rows, 3);
     EXPECT_EQ(model.size(), 3u);
     EXPECT_EQ(model.displayString(0), "&Slow");
     EXPECT_EQ(model.displayString(2), "Rapid");
@@ -27,20 +27,20 @@ TEST(ListModelPreMapped, showsItsRows) {
 
 TEST(ListModelPreMapped, keepsItsOwnCopyOfTheRows) {
     std::vector<PreMappedValue<Speed>> passing{{"Fast", Fast}};
-    ListModelPreMapped<Speed> const model(passing.data(), passing.size());
+    const ListModelPreMapped<Speed> model(passing.data(), passing.size());
     passing[0] = {"Slow", Slow};
     EXPECT_EQ(model.displayString(0), "Fast");
     EXPECT_EQ(model.data(0), Fast);
 }
 
 TEST(ListModelPreMapped, throwsForAnIndexOutOfRange) {
-    ListModelPreMapped<Speed> const model(rows, 3);
+    const ListModelPreMapped<Speed> model(rows, 3);
     EXPECT_THROW(model.data(3), std::out_of_range);
     EXPECT_THROW(model.displayString(3), std::out_of_range);
 }
 
 TEST(ListModelPreMapped, findsTheFirstRowOfAValue) {
-    ListModelPreMapped<Speed> const model(rows, 3);
+    const ListModelPreMapped<Speed> model(rows, 3);
     EXPECT_EQ(model.indexForData(Fast), 1u);
     EXPECT_EQ(model.indexForData(Fastest), model.end());
     EXPECT_EQ(model.end(), 4u);
@@ -60,7 +60,7 @@ TEST(ListModelPreMapped, cannotBeChanged) {
 }
 
 TEST(ListModelPreMapped, mayBeEmpty) {
-    ListModelPreMapped<Speed> const model(rows, 0);
+    const ListModelPreMapped<Speed> model(rows, 0);
     EXPECT_EQ(model.size(), 0u);
     EXPECT_EQ(model.indexForData(Slow), 1u);
     EXPECT_EQ(model.emptyModelMessage(), "No items available.");

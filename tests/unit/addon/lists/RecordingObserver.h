@@ -13,11 +13,11 @@ namespace corvane::corutiltools {
 
 using ChangeInfo_s = ListModelGenericInterface::ChangeInfo_s;
 
-inline bool operator==(ChangeInfo_s const& left, ChangeInfo_s const& right) {
+inline bool operator==(const ChangeInfo_s& left, const ChangeInfo_s& right) {
     return left.changeType == right.changeType && left.indices == right.indices;
 }
 
-inline void PrintTo(ChangeInfo_s const& change, std::ostream* out) {
+inline void PrintTo(const ChangeInfo_s& change, std::ostream* out) {
     *out << "kind " << change.changeType << " " << testing::PrintToString(change.indices);
 }
 
@@ -29,10 +29,11 @@ using corutiltools::ChangeInfo_s;
 
 class RecordingObserver : public corutiltools::ListModelObserverInterface {
 public:
-    void modelChanged(ChangeInfo_s const& change) override {
+    void modelChanged(const ChangeInfo_s& change) override {
         changes.push_back(change);
-        if (reaction)
+        if (reaction) {
             reaction();
+        }
     }
 
     std::vector<ChangeInfo_s> changes;

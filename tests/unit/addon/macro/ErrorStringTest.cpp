@@ -38,7 +38,7 @@ protected:
         host.clearCalls();
     }
 
-    RegisteredAddOn const registration;
+    const RegisteredAddOn registration;
 };
 
 TEST_F(ErrorStringTest, isLongerThanTheMessageByTwentyNine) {
@@ -47,7 +47,7 @@ TEST_F(ErrorStringTest, isLongerThanTheMessageByTwentyNine) {
     EXPECT_EQ(MacroManager::corvaneCallback(command, &message), FALSE);
     EXPECT_STREQ(message, "Key Frame Animation error:\nUnknown macro command: Fly");
     std::free(message);
-    std::string const own = "Unknown macro command: Fly";
+    const std::string own = "Unknown macro command: Fly";
     EXPECT_THAT(lengths, ElementsAre(static_cast<long>(own.size()) + 29));
     // It is asked for between taking and giving back the lock.
     EXPECT_EQ(callsBefore, 1u);

@@ -21,19 +21,19 @@ using testing::Pair;
 using Manager = MacroCommandManager<Command_e, Parameter_e, KeyFrameError>;
 using Parameters = std::vector<std::pair<Parameter_e, std::string>>;
 
-Manager const manager(" ");
+const Manager manager(" ");
 
-std::vector<std::string> tokensOf(std::string const& text) {
+std::vector<std::string> tokensOf(const std::string& text) {
     std::vector<std::string> tokens;
     manager.tokenize(text, tokens);
     return tokens;
 }
 
-std::string splitRefusal(std::string const& text) {
+std::string splitRefusal(const std::string& text) {
     std::vector<std::string> tokens{"before"};
     try {
         manager.tokenize(text, tokens);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_THAT(tokens, ElementsAre("before"));
         return error.what();
     }
@@ -41,7 +41,7 @@ std::string splitRefusal(std::string const& text) {
     return {};
 }
 
-Parameters parametersOf(std::string const& text, Command_e expectedCommand) {
+Parameters parametersOf(const std::string& text, Command_e expectedCommand) {
     Command_e command{};
     Parameters parameters{{Parameter_FileName, "from before"}};
     manager.parseMacroCommandString(text, command, parameters);
@@ -49,12 +49,12 @@ Parameters parametersOf(std::string const& text, Command_e expectedCommand) {
     return parameters;
 }
 
-std::string parseRefusal(std::string const& text) {
+std::string parseRefusal(const std::string& text) {
     Command_e command = Command_Animate;
     Parameters parameters{{Parameter_FileName, "from before"}};
     try {
         manager.parseMacroCommandString(text, command, parameters);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_EQ(command, Command_Animate);
         EXPECT_THAT(parameters, ElementsAre(Pair(Parameter_FileName, "from before")));
         return error.what();
@@ -63,8 +63,8 @@ std::string parseRefusal(std::string const& text) {
     return {};
 }
 
-std::string const badFormat = "Invalid macro command string format.";
-std::string const unmatchedQuote = badFormat + " Unmatched quotation mark.";
+const std::string badFormat = "Invalid macro command string format.";
+const std::string unmatchedQuote = badFormat + " Unmatched quotation mark.";
 
 // --- words
 
@@ -124,7 +124,7 @@ TEST(MacroTokenize, refusesAnUnmatchedQuote) {
 }
 
 TEST(MacroTokenize, throwsForATrailingBlank) {
-    for (std::string const text : {"Animate ", "Animate   ", "A b=1 ", "A b=\"1 2\" "}) {
+    for (const std::string text : {"Animate ", "Animate   ", "A b=1 ", "A b=\"1 2\" "}) {
         std::vector<std::string> tokens{"before"};
         EXPECT_THROW(manager.tokenize(text, tokens), std::out_of_range) << text;
         EXPECT_THAT(tokens, ElementsAre("before"));
@@ -140,19 +140,21 @@ TEST(MacroTokenize, splitsAtEachCharacterOfItsDelimiters) {
 TEST(MacroTokenize, splitsManyWordsBeforeTheOnlyEqualsSign) {
     constexpr std::size_t count = 200'000;
     std::string text = "A";
-    for (std::size_t word = 0; word < count; ++word)
+    for (std::size_t word = 0; word < count; ++word) {
         text += " b";
+    }
     EXPECT_EQ(tokensOf(text + "=").size(), count + 1);
 }
 
 // --- parsing
 
 TEST(MacroParse, ignoresLetterCaseOfKeywords) {
-    for (std::string const text :
+    for (const std::string text :
          {"Animate AnimationDestination=OnScreen", "animate animationdestination=OnScreen",
-          "ANIMATE  ANIMATIONDESTINATION=OnScreen"})
+          "ANIMATE  ANIMATIONDESTINATION=OnScreen"}) {
         EXPECT_THAT(parametersOf(text, Command_Animate),
                     ElementsAre(Pair(Parameter_AnimationDestination, "OnScreen")));
+    }
 }
 
 TEST(MacroParse, leavesValuesAsTheyStand) {
@@ -174,7 +176,7 @@ TEST(MacroParse, keepsDuplicatesAndUnneededParametersInOrder) {
 }
 
 TEST(MacroParse, removesAllQuotesAroundAValue) {
-    for (auto const& [text, value] :
+    for (const auto& [text, value] :
          std::vector<std::pair<std::string, std::string>>{{"\"a b\"", "a b"},
                                                           {"\"\"", ""},
                                                           {"", ""},
@@ -182,10 +184,11 @@ TEST(MacroParse, removesAllQuotesAroundAValue) {
                                                           {"a\"", "a"},
                                                           {"a\"b", "a\"b"},
                                                           {"\"a \"b\"", "a \"b"},
-                                                          {"\"\\\"\"", "\\"}})
+                                                          {"\"\\\"\"", "\\"}}) {
         EXPECT_THAT(parametersOf("OpenSettingsFile FileName=" + text, Command_OpenSettingsFile),
                     ElementsAre(Pair(Parameter_FileName, value)))
             << text;
+    }
 }
 
 TEST(MacroParse, refusesNothing) {
@@ -246,7 +249,7 @@ TEST(MacroBuild, writesQuotesAsTheyStand) {
 
 TEST(MacroBuild, refusesAnEnumeratorWithoutKeyword) {
     for (
-        auto const build :
+        const auto build :
         {+[] { manager.buildMacroCommandString(static_cast<Command_e>(2), {}); },
          +[] {
              manager.buildMacroCommandString(Command_Animate, {{static_cast<Parameter_e>(2), "x"}});
@@ -254,17 +257,17 @@ TEST(MacroBuild, refusesAnEnumeratorWithoutKeyword) {
         try {
             build();
             FAIL() << "was built";
-        } catch (std::out_of_range const& error) {
+        } catch (const std::out_of_range& error) {
             EXPECT_STREQ(error.what(), "Enumeration out of range.");
         }
     }
 }
 
 TEST(MacroBuild, isReadBack) {
-    for (std::string const value :
+    for (const std::string value :
          {"a", "", "/my files/a b.keyframe", "C:\\x y\\z", "x=y", "x = y", "\xC3\xA4 \xC3\xB6"}) {
-        Parameters const parameters{{Parameter_FileName, value}, {Parameter_FileName, "b"}};
-        std::string const text =
+        const Parameters parameters{{Parameter_FileName, value}, {Parameter_FileName, "b"}};
+        const std::string text =
             manager.buildMacroCommandString(Command_OpenSettingsFile, parameters);
         EXPECT_EQ(parametersOf(text, Command_OpenSettingsFile), parameters) << text;
     }

@@ -25,15 +25,16 @@ protected:
     static std::string errorOf(std::string command) {
         char* message = nullptr;
         EXPECT_EQ(MacroManager::corvaneCallback(command.data(), &message), FALSE) << command;
-        std::string const text = message ? message : "(unset)";
+        const std::string text = message ? message : "(unset)";
         CorUtilStringDealloc(&message);
         return text;
     }
 
     std::vector<int> depths() const {
         std::vector<int> result;
-        for (auto const& record : host.records())
+        for (const auto& record : host.records()) {
             result.push_back(record.depth);
+        }
         return result;
     }
 };
@@ -80,7 +81,7 @@ TEST_F(MacroManagerTest, registersItsCallback) {
     EXPECT_THAT(host.calls(), ElementsAre("CorUtilMacroAddCommandCallback(\"Key Frame Animation\", "
                                           "non-null)"));
     ASSERT_TRUE(host.session().addOnCommands().find("Key Frame Animation"));
-    auto const failure = (*host.session().addOnCommands().find("Key Frame Animation"))("Fly");
+    const auto failure = (*host.session().addOnCommands().find("Key Frame Animation"))("Fly");
     EXPECT_EQ(failure, "Key Frame Animation error:\nUnknown macro command: Fly");
 }
 
@@ -101,7 +102,7 @@ TEST_F(MacroManagerTest, handsErrorsToTheHostUnderALock) {
 }
 
 TEST_F(MacroManagerTest, handsLongErrorsToTheHost) {
-    std::string const command(100'000, 'x');
+    const std::string command(100'000, 'x');
     EXPECT_EQ(errorOf(command), "Key Frame Animation error:\nUnknown macro command: " + command);
 }
 
@@ -142,7 +143,7 @@ TEST_F(MacroManagerTest, failsInTheHostsMacroWithItsMessage) {
     try {
         host.program().macros().play(macro, "test.mcr", ".");
         FAIL() << "was played";
-    } catch (corvane::host::MacroError const& error) {
+    } catch (const corvane::host::MacroError& error) {
         EXPECT_THAT(error.what(),
                     HasSubstr("Key Frame Animation error:\nInvalid macro command: missing value "
                               "for parameter \"AnimationDestination\""));

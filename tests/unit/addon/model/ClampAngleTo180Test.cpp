@@ -43,7 +43,7 @@ TEST(ClampAngleTo180, staysWithinBoundsFarOut) {
 }
 
 TEST(ClampAngleTo180, leavesWhatIsNotFinite) {
-    double const infinity = std::numeric_limits<double>::infinity();
+    const double infinity = std::numeric_limits<double>::infinity();
     EXPECT_EQ(clamped(infinity), infinity);
     EXPECT_EQ(clamped(-infinity), -infinity);
     EXPECT_TRUE(std::isnan(clamped(std::numeric_limits<double>::quiet_NaN())));

@@ -16,10 +16,10 @@ using testing::IsEmpty;
 using KeyFrames = std::vector<KeyFrame_s>;
 using Counts = std::vector<unsigned long>;
 
-KeyFrames withCounts(Counts const& counts) {
+KeyFrames withCounts(const Counts& counts) {
     KeyFrames keyFrames;
     for (unsigned long count : counts) {
-        double const position = static_cast<double>(keyFrames.size());
+        const double position = static_cast<double>(keyFrames.size());
         keyFrames.push_back(
             KeyFrame_s{View(position, 0, 0, 0, 0, 0, 1), "", count, position / 2.0});
     }
@@ -27,7 +27,7 @@ KeyFrames withCounts(Counts const& counts) {
 }
 
 TEST(Columns, keepTheOrderOfTheKeyFrames) {
-    KeyFrames const keyFrames = withCounts({4, 5, 6});
+    const KeyFrames keyFrames = withCounts({4, 5, 6});
 
     std::vector<View> views;
     ExtractViews(keyFrames, views);
@@ -44,7 +44,7 @@ TEST(Columns, keepTheOrderOfTheKeyFrames) {
 }
 
 TEST(Columns, replaceWhatTheOutputHeld) {
-    KeyFrames const keyFrames = withCounts({4, 5});
+    const KeyFrames keyFrames = withCounts({4, 5});
     Counts counts{1, 2, 3};
     ExtractFrameCounts(keyFrames, counts);
     EXPECT_THAT(counts, ElementsAre(4, 5));
@@ -92,7 +92,7 @@ TEST(TotalFrameCount, withoutStepsIsOne) {
 }
 
 TEST(TotalFrameCount, staysAtTheLargestNumber) {
-    unsigned long const largest = std::numeric_limits<unsigned long>::max();
+    const unsigned long largest = std::numeric_limits<unsigned long>::max();
     EXPECT_EQ(GetTotalFrameCount(withCounts({largest - 1, 1})), largest);
     EXPECT_EQ(GetTotalFrameCount(withCounts({largest, 1})), largest);
     EXPECT_EQ(GetTotalFrameCount(withCounts({largest / 2 + 1, largest / 2 + 1, 5, 1})), largest);

@@ -22,10 +22,10 @@ protected:
         bool enabled = true;
     };
 
-    void setZones(std::vector<Zone> const& zones) {
+    void setZones(const std::vector<Zone>& zones) {
         auto data = std::make_shared<host::DataSet>();
         data->blocks.push_back({"block", 3});
-        for (Zone const& zone : zones) {
+        for (const Zone& zone : zones) {
             data->zones.push_back({0, zone.time, zone.strand, zone.enabled});
         }
         host.frame().attachData(data);

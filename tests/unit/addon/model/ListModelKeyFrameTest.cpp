@@ -20,14 +20,15 @@ using testing::IsEmpty;
 
 using Model = ListModelGenericInterface;
 
-KeyFrame_s keyFrame(std::string const& name, unsigned long frameCount = 10) {
+KeyFrame_s keyFrame(const std::string& name, unsigned long frameCount = 10) {
     return {View(1, 2, 3, 4, 5, 6, 7), name, frameCount, 0.5};
 }
 
-std::vector<std::string> names(ListModelKeyFrame const& model) {
+std::vector<std::string> names(const ListModelKeyFrame& model) {
     std::vector<std::string> result;
-    for (KeyFrame_s const& item : model.dataList())
+    for (const KeyFrame_s& item : model.dataList()) {
         result.push_back(item.name);
+    }
     return result;
 }
 
@@ -60,8 +61,8 @@ TEST_F(ListModelKeyFrameTest, readsTheFieldsOfAKeyFrame) {
 }
 
 TEST_F(ListModelKeyFrameTest, refusesAnIndexWithoutKeyFrame) {
-    std::vector<KeyFrame_s> const before = model.dataList();
-    for (unsigned long const index : {3ul, 4ul, std::numeric_limits<unsigned long>::max()}) {
+    const std::vector<KeyFrame_s> before = model.dataList();
+    for (const unsigned long index : {3ul, 4ul, std::numeric_limits<unsigned long>::max()}) {
         EXPECT_THROW(model.data(index), std::out_of_range);
         EXPECT_THROW(model.displayString(index), std::out_of_range);
         EXPECT_THROW(model.name(index), std::out_of_range);
@@ -127,7 +128,7 @@ TEST_F(ListModelKeyFrameTest, reportsThatNothingWasInserted) {
 TEST_F(ListModelKeyFrameTest, insertsOneItemThroughTheListForm) {
     class Derived : public ListModelKeyFrame {
     public:
-        void insertItems(unsigned long index, std::vector<KeyFrame_s> const& keyFrames) override {
+        void insertItems(unsigned long index, const std::vector<KeyFrame_s>& keyFrames) override {
             insertedAt = index;
             inserted = keyFrames;
         }

@@ -8,10 +8,10 @@
 namespace corvane::corutiltools {
 namespace {
 
-KeyFrame_s const sample{View(1, 2, 3, 4, 5, 6, 7), "View 1", 30, 0.5};
+const KeyFrame_s sample{View(1, 2, 3, 4, 5, 6, 7), "View 1", 30, 0.5};
 
 TEST(KeyFrame, equalsACopy) {
-    KeyFrame_s const copy = sample;
+    const KeyFrame_s copy = sample;
     EXPECT_EQ(copy, sample);
 }
 

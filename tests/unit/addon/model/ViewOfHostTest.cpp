@@ -14,7 +14,7 @@ using corutiltools::KeyFrameError;
 using corutiltools::View;
 using testing::ElementsAre;
 
-View const sample(1.0, 2.0, 3.0, 30.0, 400.0, -50.0, 6.0);
+const View sample(1.0, 2.0, 3.0, 30.0, 400.0, -50.0, 6.0);
 
 class ViewOfHostTest : public HostTest {
 protected:
@@ -29,7 +29,7 @@ TEST_F(ViewOfHostTest, captureTakesPositionAnglesAndWidth) {
     view().theta = -45.0;
     view().alpha = 180.0;
     view().width = 12.0;
-    View const captured = GetCurrentView();
+    const View captured = GetCurrentView();
     EXPECT_EQ(captured.x(), 1.5);
     EXPECT_EQ(captured.y(), -2.5);
     EXPECT_EQ(captured.z(), 3.5);
@@ -58,7 +58,7 @@ TEST_F(ViewOfHostTest, captureAsksInOrderAndWithoutLock) {
 TEST_F(ViewOfHostTest, storeIsTheSameCapture) {
     View stored = sample;
     stored.storeCurrentView();
-    auto const calls = host.calls();
+    const auto calls = host.calls();
     host.clearCalls();
     EXPECT_EQ(stored, GetCurrentView());
     EXPECT_EQ(calls, host.calls());
@@ -70,7 +70,7 @@ TEST_F(ViewOfHostTest, captureOutsideA3DFrameFailsAndLeavesTheRecord) {
     try {
         stored.storeCurrentView();
         FAIL() << "a 2D frame was captured";
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         EXPECT_STREQ(error.what(), "The current frame must be in 3D Cartesian mode.");
     }
     EXPECT_EQ(stored, sample);
@@ -96,7 +96,7 @@ TEST_F(ViewOfHostTest, applySetsEverything) {
 TEST_F(ViewOfHostTest, applyCallsTheHostInOrder) {
     view().perspective = true;
     sample.apply();
-    auto const path = [](std::string const& rest) {
+    const auto path = [](const std::string& rest) {
         return "CorUtilStyleSet(\"ThreeDView\"," + rest + ")";
     };
     EXPECT_THAT(
@@ -167,7 +167,7 @@ TEST_F(ViewOfHostTest, applyReleasesEverythingWhenTheHostThrows) {
 
 TEST_F(ViewOfHostTest, captureAndApplyAreTheIdentity) {
     sample.apply();
-    View const captured = GetCurrentView();
+    const View captured = GetCurrentView();
     EXPECT_NEAR(captured.psi(), sample.psi(), 1e-12);
     EXPECT_NEAR(captured.theta(), sample.theta(), 1e-12);
     EXPECT_NEAR(captured.alpha(), sample.alpha(), 1e-12);

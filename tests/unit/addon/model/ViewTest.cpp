@@ -10,12 +10,12 @@
 namespace corvane::corutiltools {
 namespace {
 
-double const nan = std::numeric_limits<double>::quiet_NaN();
+const double nan = std::numeric_limits<double>::quiet_NaN();
 
-View const sample(1.0, 2.5, -3.0, 30.0, 45.126, 0.0, 1.5);
+const View sample(1.0, 2.5, -3.0, 30.0, 45.126, 0.0, 1.5);
 
 TEST(View, startsWithSevenZeros) {
-    View const view;
+    const View view;
     EXPECT_EQ(view.x(), 0.0);
     EXPECT_EQ(view.y(), 0.0);
     EXPECT_EQ(view.z(), 0.0);
@@ -26,7 +26,7 @@ TEST(View, startsWithSevenZeros) {
 }
 
 TEST(View, takesItsValuesInTheOrderPositionAnglesWidth) {
-    View const view(1, 2, 3, 4, 5, 6, 7);
+    const View view(1, 2, 3, 4, 5, 6, 7);
     EXPECT_EQ(view.x(), 1.0);
     EXPECT_EQ(view.y(), 2.0);
     EXPECT_EQ(view.z(), 3.0);
@@ -54,7 +54,7 @@ TEST(View, costsSevenDoubles) {
 
 TEST(View, swapCopiesOneWay) {
     View view(7, 6, 5, 4, 3, 2, 1);
-    View const other(1, 2, 3, 4, 5, 6, 7);
+    const View other(1, 2, 3, 4, 5, 6, 7);
     view.swap(other);
     EXPECT_EQ(view, View(1, 2, 3, 4, 5, 6, 7));
     EXPECT_EQ(other, View(1, 2, 3, 4, 5, 6, 7));
@@ -67,7 +67,7 @@ TEST(View, swapWithItselfChangesNothing) {
 }
 
 TEST(View, copiesAllSevenValues) {
-    View const copy(sample);
+    const View copy(sample);
     EXPECT_EQ(copy, sample);
     View assigned;
     assigned = sample;
@@ -75,7 +75,7 @@ TEST(View, copiesAllSevenValues) {
 }
 
 TEST(View, differenceInAnyOneValueMakesUnequal) {
-    View const base(1, 2, 3, 4, 5, 6, 7);
+    const View base(1, 2, 3, 4, 5, 6, 7);
     EXPECT_EQ(base, View(1, 2, 3, 4, 5, 6, 7));
     EXPECT_FALSE(base == View(9, 2, 3, 4, 5, 6, 7));
     EXPECT_FALSE(base == View(1, 9, 3, 4, 5, 6, 7));
@@ -87,12 +87,12 @@ TEST(View, differenceInAnyOneValueMakesUnequal) {
 }
 
 TEST(View, comparesWithoutTolerance) {
-    View const other(1.0, 2.5, -3.0, 30.0, 45.126, 0.0, 1.5 + 1e-12);
+    const View other(1.0, 2.5, -3.0, 30.0, 45.126, 0.0, 1.5 + 1e-12);
     EXPECT_FALSE(sample == other);
 }
 
 TEST(View, withNotANumberIsUnequalToItself) {
-    View const view(1, 2, 3, 4, nan, 6, 7);
+    const View view(1, 2, 3, 4, nan, 6, 7);
     EXPECT_FALSE(view == view);
 }
 
@@ -105,7 +105,7 @@ TEST(View, divisionDividesAnglesAndWidthToo) {
 }
 
 TEST(View, divisionByZeroGivesInfinityOrNotANumber) {
-    View const quotient = View(1, -1, 0, 30, 0, 0, 2) / 0.0;
+    const View quotient = View(1, -1, 0, 30, 0, 0, 2) / 0.0;
     EXPECT_EQ(quotient.x(), std::numeric_limits<double>::infinity());
     EXPECT_EQ(quotient.y(), -std::numeric_limits<double>::infinity());
     EXPECT_TRUE(std::isnan(quotient.z()));
@@ -135,8 +135,8 @@ TEST(View, printsADecimalPointInEveryLanguage) {
     struct Comma : std::numpunct<char> {
         char do_decimal_point() const override { return ','; }
     };
-    std::locale const before = std::locale::global(std::locale(std::locale(), new Comma));
-    std::string const text = sample.displayString();
+    const std::locale before = std::locale::global(std::locale(std::locale(), new Comma));
+    const std::string text = sample.displayString();
     std::locale::global(before);
     EXPECT_EQ(text, "X=1.00 Y=2.50 Z=-3.00 Psi=30.00 Theta=45.13 Alpha=0.00 Width=1.50");
 }

@@ -25,20 +25,20 @@ using Factory = CommandExecuterAbstractFactory;
 using Parameters = std::vector<std::pair<Parameter_e, std::string>>;
 
 template <typename T>
-std::string refusalOf(Parameter_e parameter, Parameters const& parameters, T& value) {
+std::string refusalOf(Parameter_e parameter, const Parameters& parameters, T& value) {
     try {
         CommandExecuterAbstract::getRequiredParameter(parameter, parameters, value);
-    } catch (KeyFrameError const& error) {
+    } catch (const KeyFrameError& error) {
         return error.what();
     }
     return "(none)";
 }
 
-std::string const missingFileName =
+const std::string missingFileName =
     "Invalid macro command: missing value for parameter \"FileName\"";
-std::string const missingDestination =
+const std::string missingDestination =
     "Invalid macro command: missing value for parameter \"AnimationDestination\"";
-std::string const invalidDestination =
+const std::string invalidDestination =
     "Invalid macro command: invalid value for parameter \"AnimationDestination\"";
 
 TEST(RequiredParameter, isTheFirstOfItsKind) {
@@ -53,7 +53,7 @@ TEST(RequiredParameter, isTheFirstOfItsKind) {
 }
 
 TEST(RequiredParameter, isTakenAsItStandsForAString) {
-    for (std::string const text : {"", "a b", " x ", "ToFile"}) {
+    for (const std::string text : {"", "a b", " x ", "ToFile"}) {
         std::string value = "before";
         EXPECT_EQ(refusalOf(Parameter_FileName, {{Parameter_FileName, text}}, value), "(none)");
         EXPECT_EQ(value, text);
@@ -61,7 +61,7 @@ TEST(RequiredParameter, isTakenAsItStandsForAString) {
 }
 
 TEST(RequiredParameter, isADestinationInAnyLetterCase) {
-    for (std::string const text : {"ToFile", "tofile", "TOFILE"}) {
+    for (const std::string text : {"ToFile", "tofile", "TOFILE"}) {
         Destination_e value = Destination_OnScreen;
         EXPECT_EQ(refusalOf(Parameter_AnimationDestination,
                             {{Parameter_AnimationDestination, text}}, value),
@@ -79,7 +79,7 @@ TEST(RequiredParameter, mustBeThere) {
 }
 
 TEST(RequiredParameter, mustConvert) {
-    for (std::string const text : {"AVI", "", "ToFile ", "1"}) {
+    for (const std::string text : {"AVI", "", "ToFile ", "1"}) {
         Destination_e value = Destination_ToFile;
         EXPECT_EQ(refusalOf(Parameter_AnimationDestination,
                             {{Parameter_AnimationDestination, text},
@@ -107,14 +107,14 @@ protected:
     // What the host is told when the command fails; empty when it succeeds.
     static std::string run(std::string command) {
         char* message = nullptr;
-        bool const succeeded = MacroManager::corvaneCallback(command.data(), &message) != FALSE;
+        const bool succeeded = MacroManager::corvaneCallback(command.data(), &message) != FALSE;
         EXPECT_EQ(succeeded, message == nullptr);
-        std::string const text = message ? message : "";
+        const std::string text = message ? message : "";
         CorUtilStringDealloc(&message);
         return text;
     }
 
-    static std::string refused(std::string const& message) {
+    static std::string refused(const std::string& message) {
         return "Key Frame Animation error:\n" + message;
     }
 
@@ -130,7 +130,7 @@ protected:
         EXPECT_EQ(dialog.currentFile().fileName(), "animation.keyframe");
     }
 
-    TempFolder const folder;
+    const TempFolder folder;
 };
 
 TEST_F(ExecuterTest, opensAFileIntoTheDialog) {
@@ -139,7 +139,7 @@ TEST_F(ExecuterTest, opensAFileIntoTheDialog) {
     settings.destination = Destination_ToFile;
     settings.fadeOut = true;
     dialog.applySettings(settings);
-    std::string const fileName = folder.write(
+    const std::string fileName = folder.write(
         "my flight.kf", header + settingsBlock("FadeIn true\n") + block("Name \"one\"\n"));
     EXPECT_EQ(run("OpenSettingsFile FileName=\"" + fileName + "\""), "");
     settings.fadeIn = true;
@@ -150,7 +150,7 @@ TEST_F(ExecuterTest, opensAFileIntoTheDialog) {
 }
 
 TEST_F(ExecuterTest, recordsAnOpenedFileAgain) {
-    std::string const fileName = folder.write("a.keyframe", header);
+    const std::string fileName = folder.write("a.keyframe", header);
     host.program().recorder().start();
     EXPECT_EQ(run("opensettingsfile filename=" + fileName), "");
     EXPECT_THAT(host.program().recorder().stop(),

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr char label[] = "&Key Frame Animation...";
-std::string const dimOption =
+const std::string dimOption =
     "CorUtilMenuSetSensitivity(\"Animate\", \"&Key Frame Animation...\", FALSE)";
 
 class EntryPointTest : public EmptyHostTest {
@@ -29,7 +29,7 @@ protected:
         EmptyHostTest::TearDown();
     }
 
-    FreshDialogs const prompts;
+    const FreshDialogs prompts;
 };
 
 TEST_F(EntryPointTest, registersEverythingInOrderUnderALock) {
@@ -44,8 +44,9 @@ TEST_F(EntryPointTest, registersEverythingInOrderUnderALock) {
                     "CorUtilStateChangeAddCallbackX(CallbackFunction=non-null, StateChangeMode=2, "
                     "StateChangeCallbackAPI=1)",
                     "CorUtilFrameGetCount()", dimOption, "CorUtilLockOff()"));
-    for (std::size_t index = 1; index + 1 < host.records().size(); ++index)
+    for (std::size_t index = 1; index + 1 < host.records().size(); ++index) {
         EXPECT_EQ(host.records().at(index).depth, 1) << host.records().at(index).call;
+    }
 }
 
 TEST_F(EntryPointTest, keepsItsIdentity) {
@@ -56,7 +57,7 @@ TEST_F(EntryPointTest, keepsItsIdentity) {
 
 TEST_F(EntryPointTest, makesItsCommandsKnown) {
     InitCorAddOn113();
-    auto const* const command = host.session().addOnCommands().find(AddOnName);
+    const auto* const command = host.session().addOnCommands().find(AddOnName);
     ASSERT_TRUE(command);
     EXPECT_EQ((*command)("Fly"), "Key Frame Animation error:\nUnknown macro command: Fly");
 }
@@ -107,7 +108,7 @@ protected:
         HostTest::TearDown();
     }
 
-    FreshDialogs const prompts;
+    const FreshDialogs prompts;
 };
 
 TEST_F(WindowlessEntryPointTest, hasCommandsAndNoDialog) {
@@ -119,7 +120,7 @@ TEST_F(WindowlessEntryPointTest, hasCommandsAndNoDialog) {
 }
 
 TEST_F(EntryPointTest, releasesTheLockWhereverTheHostThrows) {
-    for (char const* const operation :
+    for (const char* const operation :
          {"CorUtilAddOnRegister", "CorUtilMenuAddOption", "CorUtilMacroAddCommandCallback",
           "CorUtilStateChangeAddCallbackX", "CorUtilFrameGetCount", "CorUtilMenuSetSensitivity"}) {
         host.throwAt(operation);

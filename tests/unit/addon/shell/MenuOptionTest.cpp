@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr char label[] = "&Key Frame Animation...";
-std::string const queueUpdate = "CorUtilOnIdleQueueAddCallback(non-null, 0)";
+const std::string queueUpdate = "CorUtilOnIdleQueueAddCallback(non-null, 0)";
 
 class MenuOptionTest : public ShellTest {
 protected:
@@ -32,7 +32,7 @@ protected:
 };
 
 TEST_F(MenuOptionTest, looksAgainAfterTheseChangesAlone) {
-    for (int const code : {2, 3, 5, 6, 7, 8, 9, 44, 50, 51}) {
+    for (const int code : {2, 3, 5, 6, 7, 8, 9, 44, 50, 51}) {
         change(code);
         EXPECT_TRUE(pendingUpdateFuncOnIdle) << code;
         host.runIdle();
@@ -42,15 +42,17 @@ TEST_F(MenuOptionTest, looksAgainAfterTheseChangesAlone) {
 }
 
 TEST_F(MenuOptionTest, ignoresAllOtherChanges) {
-    for (int const code : {-1, 0, 1, 4, 10, 11, 15, 43, 45, 49, 52, 53, 108})
+    for (const int code : {-1, 0, 1, 4, 10, 11, 15, 43, 45, 49, 52, 53, 108}) {
         change(code);
+    }
     EXPECT_FALSE(pendingUpdateFuncOnIdle);
     EXPECT_THAT(host.calls(), IsEmpty());
 }
 
 TEST_F(MenuOptionTest, takesManyChangesForOne) {
-    for (int const code : {2, 3, 5, 6, 7, 8, 9, 44, 50, 51})
+    for (const int code : {2, 3, 5, 6, 7, 8, 9, 44, 50, 51}) {
         change(code);
+    }
     EXPECT_THAT(host.calls(), ElementsAre(lockStart, queueUpdate, lockFinish));
     host.clearCalls();
     host.runIdle();

@@ -21,7 +21,7 @@ using testing::IsEmpty;
 
 using Kind = ShownDialog::Kind;
 
-std::string withExtension(std::string name, std::string const& extension) {
+std::string withExtension(std::string name, const std::string& extension) {
     addFileNameExtension(name, extension);
     return name;
 }
@@ -46,7 +46,7 @@ TEST(AddFileNameExtension, cutsAtTheDotOfADirectory) {
 }
 
 TEST(FileExists, meansThatItCanBeRead) {
-    TempFolder const folder;
+    const TempFolder folder;
     EXPECT_FALSE(fileExists(folder.file("a")));
     EXPECT_TRUE(fileExists(folder.write("a", "")));
 }
@@ -55,7 +55,7 @@ TEST(CurrentFileManager, givesItsDefaultNameTheExtension) {
     EXPECT_EQ(CurrentFileManager("animation", "keyframe", "x").fileName(), "animation.keyframe");
     EXPECT_EQ(CurrentFileManager("animation.old", "keyframe", "x").fileName(),
               "animation.keyframe");
-    CurrentFileManager const manager("a", "keyframe", "x");
+    const CurrentFileManager manager("a", "keyframe", "x");
     EXPECT_EQ(manager.extension(), "keyframe");
     EXPECT_FALSE(manager.fileHasBeenSelected());
 }
@@ -69,7 +69,7 @@ TEST(CurrentFileManager, takesTheExtensionOfANewName) {
 }
 
 TEST(CurrentFileManager, givesANewNameWithoutExtensionItsOwn) {
-    for (auto const& [name, stored] : std::vector<std::pair<std::string, std::string>>{
+    for (const auto& [name, stored] : std::vector<std::pair<std::string, std::string>>{
              {"b", "b.keyframe"}, {"b.", "b.keyframe"}, {"", ".keyframe"}}) {
         CurrentFileManager manager("a", "keyframe", "x");
         manager.setFileName(name);
@@ -92,20 +92,20 @@ TEST(CurrentFileManager, appliesANewExtension) {
     EXPECT_EQ(manager.extension(), "mp4");
 }
 
-std::string extensionQuestion(std::string const& name) {
+std::string extensionQuestion(const std::string& name) {
     return "You have specified an extension other than the default file extension\n"
            "Are you sure you want to save the file as " +
            name + "\nClick \"No\" to restore the default file extension.";
 }
 
-std::string overwriteQuestion(std::string const& name) {
+std::string overwriteQuestion(const std::string& name) {
     return "The file: " + name + " exists.\nAre you sure you want to overwrite it?";
 }
 
 class FilePromptTest : public HostTest {
 protected:
     // Chooses this name in the next prompt.
-    bool choose(std::string const& name, SelectFileOption_e option) {
+    bool choose(const std::string& name, SelectFileOption_e option) {
         host.prompts().answerFile(name);
         return manager.promptForFile(option);
     }
@@ -118,8 +118,8 @@ protected:
         EXPECT_FALSE(manager.fileHasBeenSelected());
     }
 
-    RegisteredAddOn const registration;
-    TempFolder const folder;
+    const RegisteredAddOn registration;
+    const TempFolder folder;
     CurrentFileManager manager{"flight", "keyframe", "Key Frames"};
 };
 
@@ -133,7 +133,7 @@ TEST_F(FilePromptTest, asksTheHostUnderALock) {
 }
 
 TEST_F(FilePromptTest, keepsANameWithTheDefaultExtension) {
-    std::string const name = folder.file("a.keyframe");
+    const std::string name = folder.file("a.keyframe");
     EXPECT_TRUE(choose(name, SelectFile_Write));
     EXPECT_EQ(manager.fileName(), name);
     EXPECT_TRUE(manager.fileHasBeenSelected());
@@ -149,7 +149,7 @@ TEST_F(FilePromptTest, givesANameWithoutExtensionTheDefaultWithoutAsking) {
 }
 
 TEST_F(FilePromptTest, asksAboutAnotherExtensionWhateverTheOption) {
-    for (SelectFileOption_e const option : {SelectFile_Read, SelectFile_Write}) {
+    for (const SelectFileOption_e option : {SelectFile_Read, SelectFile_Write}) {
         host.prompts().clear();
         EXPECT_TRUE(choose("/flights/a.txt", option));
         EXPECT_THAT(questions(), ElementsAre(extensionQuestion("/flights/a.txt")));
@@ -173,7 +173,7 @@ TEST_F(FilePromptTest, takesAnotherLetterCaseForAnotherExtension) {
 }
 
 TEST_F(FilePromptTest, keepsTheOldFileWhenOverwritingIsDeclined) {
-    std::string const name = folder.write("a.keyframe", "precious");
+    const std::string name = folder.write("a.keyframe", "precious");
     EXPECT_FALSE(choose(name, SelectFile_Write));
     EXPECT_THAT(questions(), ElementsAre(overwriteQuestion(name)));
     expectUnchanged();
@@ -182,14 +182,14 @@ TEST_F(FilePromptTest, keepsTheOldFileWhenOverwritingIsDeclined) {
 
 TEST_F(FilePromptTest, takesAnExistingFileThatMayBeOverwritten) {
     host.prompts().answer("overwrite", true);
-    std::string const name = folder.write("a.keyframe", "old");
+    const std::string name = folder.write("a.keyframe", "old");
     EXPECT_TRUE(choose(name, SelectFile_Write));
     EXPECT_EQ(manager.fileName(), name);
     EXPECT_TRUE(manager.fileHasBeenSelected());
 }
 
 TEST_F(FilePromptTest, asksAboutTheNameWithItsRestoredExtension) {
-    std::string const name = folder.write("a.keyframe", "old");
+    const std::string name = folder.write("a.keyframe", "old");
     EXPECT_FALSE(choose(folder.file("a.txt"), SelectFile_Write));
     EXPECT_THAT(questions(),
                 ElementsAre(extensionQuestion(folder.file("a.txt")), overwriteQuestion(name)));
@@ -197,9 +197,10 @@ TEST_F(FilePromptTest, asksAboutTheNameWithItsRestoredExtension) {
 }
 
 TEST_F(FilePromptTest, doesNotAskAboutOverwritingWhenReading) {
-    for (int const option : {0, 1, 2})
+    for (const int option : {0, 1, 2}) {
         EXPECT_TRUE(
             choose(folder.write("a.keyframe", "old"), static_cast<SelectFileOption_e>(option)));
+    }
     EXPECT_THAT(questions(), IsEmpty());
 }
 
@@ -207,9 +208,11 @@ TEST_F(FilePromptTest, locksForEachDialog) {
     folder.write("a.keyframe", "old");
     choose(folder.file("a.txt"), SelectFile_Write);
     std::vector<int> depths;
-    for (auto const& record : host.records())
-        if (record.call.starts_with("CorUtilDialog"))
+    for (const auto& record : host.records()) {
+        if (record.call.starts_with("CorUtilDialog")) {
             depths.push_back(record.depth);
+        }
+    }
     EXPECT_THAT(depths, ElementsAre(1, 1, 1));
     EXPECT_EQ(host.count("CorUtilLockStart"), 3u);
 }
@@ -232,7 +235,7 @@ TEST_F(FilePromptTest, mayOverwriteWhatDoesNotExist) {
 }
 
 TEST_F(FilePromptTest, asksBeforeOverwriting) {
-    std::string const name = folder.write("a", "");
+    const std::string name = folder.write("a", "");
     EXPECT_FALSE(promptForFileOverwrite(name));
     host.prompts().answer("", true);
     EXPECT_TRUE(promptForFileOverwrite(name));

@@ -20,7 +20,7 @@ protected:
     std::vector<std::string> dialogsUp() { return host.gui().dialogsUp(); }
 };
 
-auto const isUp = ElementsAre("Key Frame Animation");
+const auto isUp = ElementsAre("Key Frame Animation");
 
 TEST_F(DialogDropperTest, closesTheDialogAtIdleTime) {
     host.runIdle();

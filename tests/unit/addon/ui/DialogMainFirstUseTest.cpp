@@ -16,7 +16,7 @@ using testing::StartsWith;
 
 class DialogMainFirstUseTest : public HostTest {
 protected:
-    RegisteredAddOn const registration;
+    const RegisteredAddOn registration;
 };
 
 TEST_F(DialogMainFirstUseTest, setsTheAnimationSpeedOnce) {

@@ -15,7 +15,7 @@ using namespace corvane::corutiltools;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-KeyFrame_s const keyFrame{View(1, 2, 3, 4, 5, 6, 7), "View 1", 30, 0.5};
+const KeyFrame_s keyFrame{View(1, 2, 3, 4, 5, 6, 7), "View 1", 30, 0.5};
 
 TEST_F(DialogMainTest, startsWithItsDefaults) {
     EXPECT_EQ(dialog.settings(), defaultSettings());
@@ -39,7 +39,7 @@ TEST_F(DialogMainTest, namesItsFilesInPrompts) {
 }
 
 TEST_F(DialogMainTest, takesOverSettings) {
-    Settings_s const settings{
+    const Settings_s settings{
         {true, TimeAnimationOperation_Bounce, 5}, Destination_ToFile, true, true, true};
     dialog.applySettings(settings);
     EXPECT_EQ(dialog.settings(), settings);
@@ -80,7 +80,7 @@ TEST_F(DialogMainTest, mayBeLaunchedWithoutData) {
 }
 
 TEST_F(DialogMainTest, mayNotBeLaunchedOverAnotherPlot) {
-    for (PlotType_e const type : {PlotType_Cartesian2D, PlotType_None}) {
+    for (const PlotType_e type : {PlotType_Cartesian2D, PlotType_None}) {
         host.setPlotType(type);
         EXPECT_FALSE(DialogMain::okToLaunch());
     }

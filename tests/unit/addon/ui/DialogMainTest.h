@@ -22,11 +22,11 @@ protected:
         HostTest::TearDown();
     }
 
-    RegisteredAddOn const registration;
+    const RegisteredAddOn registration;
     corutiltools::DialogMain& dialog;
 
 private:
-    corutiltools::CurrentFileManager const m_currentFile;
+    const corutiltools::CurrentFileManager m_currentFile;
 };
 
 } // namespace corvane::test

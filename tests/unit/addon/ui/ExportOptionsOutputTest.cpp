@@ -18,7 +18,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using Kind = ShownDialog::Kind;
 
-std::string number(char const* name, int value) {
+std::string number(const char* name, int value) {
     return "CorUtilExportSetup(\"" + std::string(name) + "\", NULL, " + std::to_string(value) +
            ", 0)";
 }
@@ -31,7 +31,7 @@ protected:
     }
 
     // Confirms with a file of this name.
-    void confirm(std::string const& fileName) {
+    void confirm(const std::string& fileName) {
         file = folder.file(fileName);
         host.prompts().answerFile(file);
         host.program().recorder().start();
@@ -44,7 +44,7 @@ protected:
     std::string fileCall() { return "CorUtilExportSetup(\"ExportFName\", \"" + file + "\", 0, 0)"; }
     std::string fileLine() { return "$!EXPORTSETUP ExportFName = \"" + file + "\""; }
 
-    TempFolder const folder;
+    const TempFolder folder;
     std::string file;
 };
 
@@ -102,16 +102,17 @@ TEST_F(ExportOutputTest, takesNoOptimizationForSpeed) {
 
 TEST_F(ExportOutputTest, writesNoFormatOptionsForOtherFormats) {
     struct Row {
-        char const* name;
-        char const* file;
-        char const* keyword;
+        const char* name;
+        const char* file;
+        const char* keyword;
         int value;
     };
-    for (Row const& row :
+    for (const Row& row :
          {Row{"Flash (FLV)", "a.flv", "FLV", 20}, Row{"MPEG-4", "a.mp4", "MPEG4", 21},
           Row{"Raster Metafile", "a.rm", "RASTERMETAFILE", 0}, Row{"WMV", "a.wmv", "WMV", 22}}) {
-        if (!isUp())
+        if (!isUp()) {
             launch();
+        }
         format().choose(row.name);
         host.prompts().clear();
         confirm(row.file);
@@ -125,15 +126,15 @@ TEST_F(ExportOutputTest, writesNoFormatOptionsForOtherFormats) {
 
 TEST_F(ExportOutputTest, locksEachWriteByItself) {
     confirm("flight.avi");
-    std::vector<std::string> const calls = host.calls();
-    auto const write = std::find(calls.begin(), calls.end(), number("ImageWidth", 800));
+    const std::vector<std::string> calls = host.calls();
+    const auto write = std::find(calls.begin(), calls.end(), number("ImageWidth", 800));
     ASSERT_LT(write, calls.end() - 5);
     EXPECT_THAT(std::vector<std::string>(write - 1, write + 8),
                 ElementsAre(lockStart, number("ImageWidth", 800), lockStart,
                             "CorUtilMacroIsRecordingActive()", lockStart,
                             "CorUtilMacroRecordRawCommand(\"$!EXPORTSETUP ImageWidth = 800\")",
                             lockFinish, lockFinish, lockFinish));
-    for (auto const& record : host.records()) {
+    for (const auto& record : host.records()) {
         if (record.call.starts_with("CorUtilExportSetup")) {
             EXPECT_EQ(record.depth, 1) << record.call;
         }
@@ -142,10 +143,10 @@ TEST_F(ExportOutputTest, locksEachWriteByItself) {
 
 TEST_F(ExportOutputTest, closesAndUnlocksBeforeItWrites) {
     confirm("flight.avi");
-    std::vector<std::string> const calls = host.calls();
-    auto const drop = std::find(calls.begin(), calls.end(),
+    const std::vector<std::string> calls = host.calls();
+    const auto drop = std::find(calls.begin(), calls.end(),
                                 "CorGUIDialogDrop(" + std::to_string(Dialog2Manager) + ")");
-    auto const write = std::find(calls.begin(), calls.end(), number("ExportFormat", 14));
+    const auto write = std::find(calls.begin(), calls.end(), number("ExportFormat", 14));
     ASSERT_LT(drop, write);
     EXPECT_EQ(drop[1], lockFinish);
 }
@@ -171,10 +172,10 @@ TEST_F(ExportOutputTest, staysUpWhenTheFilePromptIsCancelled) {
 
 TEST_F(ExportOutputTest, asksForAFileOfTheFormat) {
     struct Row {
-        char const* name;
-        char const* extension;
+        const char* name;
+        const char* extension;
     };
-    for (Row const& row : {Row{"AVI", "avi"}, Row{"Flash (FLV)", "flv"}, Row{"Flash (SWF)", "swf"},
+    for (const Row& row : {Row{"AVI", "avi"}, Row{"Flash (FLV)", "flv"}, Row{"Flash (SWF)", "swf"},
                            Row{"MPEG-4", "mp4"}, Row{"Raster Metafile", "rm"}, Row{"WMV", "wmv"}}) {
         format().choose(row.name);
         window().ok();

@@ -29,10 +29,11 @@ TEST_F(ExportOptionsTest, offersItsChoices) {
     EXPECT_EQ(width().text(), "300");
     EXPECT_EQ(widthChoice().chosen(), 1);
     EXPECT_EQ(antialiasing().label(), "&Antialiasing");
-    for (char const* const label :
+    for (const char* const label :
          {"Format:", "Region:", "Animation Speed (frames/sec):", "Supersample Factor (2-16):",
-          "AVI Compression:", "Image Type:"})
+          "AVI Compression:", "Image Type:"}) {
         EXPECT_NO_THROW(window().label(label)) << label;
+    }
     window().cancel();
 }
 
@@ -100,8 +101,8 @@ TEST_F(ExportOptionsTest, showsTheSetUpOfTheHost) {
 TEST_F(ExportOptionsTest, readsTheSetUpInThisOrder) {
     launch();
     std::vector<std::string> keywords;
-    for (std::string const& call : host.callsOf("CorUtilStyleGet(\"ExportSetup\",")) {
-        auto const begin = call.find(",\"") + 2;
+    for (const std::string& call : host.callsOf("CorUtilStyleGet(\"ExportSetup\",")) {
+        const auto begin = call.find(",\"") + 2;
         keywords.push_back(call.substr(begin, call.find('"', begin) - begin));
     }
     EXPECT_THAT(keywords, ElementsAre("ExportFormat", "AnimationSpeed",
@@ -173,12 +174,12 @@ TEST_F(ExportOptionsTest, keepsRegionAndWidthAndForgetsTheRest) {
 
 TEST_F(ExportOptionsTest, offersWhatSuitsTheFormat) {
     launch();
-    for (char const* const name :
+    for (const char* const name :
          {"AVI", "Flash (FLV)", "Flash (SWF)", "MPEG-4", "Raster Metafile", "WMV"}) {
         format().choose(name);
-        bool const isAvi = name == std::string("AVI");
-        bool const isSwf = name == std::string("Flash (SWF)");
-        bool const hasSpeed = name != std::string("Raster Metafile");
+        const bool isAvi = name == std::string("AVI");
+        const bool isSwf = name == std::string("Flash (SWF)");
+        const bool hasSpeed = name != std::string("Raster Metafile");
         EXPECT_EQ(aviCompression().isSensitive(), isAvi) << name;
         EXPECT_EQ(window().label("AVI Compression:").isSensitive(), isAvi) << name;
         EXPECT_EQ(imageType().isSensitive(), isSwf) << name;
@@ -241,7 +242,7 @@ TEST_F(ExportOptionsTest, measuresTheBoxOfAllFrames) {
     host.addFrame({.x = 0.5, .y = 3.0, .width = 1.0, .height = 4.0});
     host.addFrame({.x = 2.0, .y = 2.5, .width = 4.0, .height = 1.0});
     host.session().page().workArea.pixelsPerInch = 100.0;
-    long const active = host.frame().id();
+    const long active = host.frame().id();
     launch();
     region().choose("All Frames");
     EXPECT_EQ(dimensions(), "Dimensions: 550 x 500");
@@ -308,7 +309,7 @@ TEST_F(ExportOptionsTest, refusesNumbersOutOfRange) {
     factor().type("17");
     factor().commit();
     EXPECT_EQ(factor().text(), "3");
-    std::string const refusal = "Invalid input. Input must be a number between ";
+    const std::string refusal = "Invalid input. Input must be a number between ";
     EXPECT_THAT(errors(), ElementsAre(refusal + "4 and 32766.", refusal + "4 and 32766.",
                                       refusal + "0.001 and 200.", refusal + "0.001 and 200.",
                                       refusal + "2 and 16.", refusal + "2 and 16."));
@@ -317,17 +318,17 @@ TEST_F(ExportOptionsTest, refusesNumbersOutOfRange) {
 
 TEST_F(ExportOptionsTest, takesTheBoundsThemselves) {
     launch();
-    for (char const* const bound : {"4", "32766"}) {
+    for (const char* const bound : {"4", "32766"}) {
         enterWidth(bound);
         EXPECT_EQ(width().text(), bound);
     }
-    for (char const* const bound : {"0.001", "200"}) {
+    for (const char* const bound : {"0.001", "200"}) {
         speed().type(bound);
         speed().commit();
         EXPECT_EQ(speed().text(), bound);
     }
     antialiasing().click();
-    for (char const* const bound : {"2", "16"}) {
+    for (const char* const bound : {"2", "16"}) {
         factor().type(bound);
         factor().commit();
         EXPECT_EQ(factor().text(), bound);

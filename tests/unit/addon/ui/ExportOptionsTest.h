@@ -31,7 +31,7 @@ protected:
         return window().label(corutiltools::ImageDimensions_LBL_D2).label();
     }
 
-    void enterWidth(std::string const& text) {
+    void enterWidth(const std::string& text) {
         widthChoice().choose("Enter Width:");
         width().type(text);
         width().commit();

@@ -17,30 +17,31 @@ using testing::IsEmpty;
 // A host of its own for each failure.
 struct Scene {
     MemoryHost host;
-    RegisteredAddOn const registration;
-    FreshDialogs const prompts;
-    TempFolder const folder;
+    const RegisteredAddOn registration;
+    const FreshDialogs prompts;
+    const TempFolder folder;
 };
 
 // What a user can still do when something is missing: the rest throws.
-void attempt(std::function<void()> const& act) {
+void attempt(const std::function<void()>& act) {
     try {
         act();
-    } catch (std::logic_error const&) {
+    } catch (const std::logic_error&) {
         // Dimmed, or not there.
     }
 }
 
 // Runs the user's acts once for each call in them, with that call failing.
-void sweep(std::function<void(Scene&)> const& acts) {
+void sweep(const std::function<void(Scene&)>& acts) {
     for (std::size_t k = 1;; ++k) {
         Scene scene;
         scene.host.failAt(k);
         acts(scene);
-        bool const hasFailed = scene.host.hasFailedAt();
+        const bool hasFailed = scene.host.hasFailedAt();
         scene.host.failAt(0);
-        if (scene.host.gui().hasDialog("Export Options"))
+        if (scene.host.gui().hasDialog("Export Options")) {
             attempt([&] { scene.host.gui().dialog("Export Options").cancel(); });
+        }
         EXPECT_THAT(scene.host.leftBehind(), IsEmpty()) << "failure " << k;
         if (!hasFailed) {
             EXPECT_GT(k, 10u);
@@ -49,7 +50,7 @@ void sweep(std::function<void(Scene&)> const& acts) {
     }
 }
 
-void act(Scene& scene, std::function<void(MemoryDialog const&)> const& use) {
+void act(Scene& scene, const std::function<void(const MemoryDialog&)>& use) {
     attempt([&] { use(scene.host.gui().dialog("Key Frame Animation")); });
     scene.host.runIdle();
 }
@@ -57,8 +58,9 @@ void act(Scene& scene, std::function<void(MemoryDialog const&)> const& use) {
 TEST(FailureSweep, ofEditing) {
     sweep([](Scene& scene) {
         DialogMain::launch();
-        for (int count = 0; count < 3; ++count)
+        for (int count = 0; count < 3; ++count) {
             act(scene, [](auto const& window) { window.button("Append").click(); });
+        }
         act(scene, [](auto const& window) { window.list().select({2}); });
         act(scene, [](auto const& window) { window.button("Apply").click(); });
         act(scene, [](auto const& window) { window.button("Update").click(); });
@@ -73,8 +75,9 @@ TEST(FailureSweep, ofPlayingToAFile) {
         // Small pictures, since hundreds of movies are made of them.
         scene.host.session().page().workArea = {.width = 32, .height = 18, .pixelsPerInch = 2.0};
         DialogMain::launch();
-        for (int count = 0; count < 2; ++count)
+        for (int count = 0; count < 2; ++count) {
             act(scene, [](auto const& window) { window.button("Append").click(); });
+        }
         attempt([] { DialogMain::instance().model().setFrameCount(0, 2); });
         act(scene, [](auto const& window) { window.optionMenu().choose("To File"); });
         act(scene, [](auto const& window) { window.button("Animate All").click(); });

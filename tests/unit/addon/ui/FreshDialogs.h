@@ -16,8 +16,8 @@ public:
     FreshDialogs() { forget(); }
     ~FreshDialogs() { forget(); }
 
-    FreshDialogs(FreshDialogs const&) = delete;
-    FreshDialogs& operator=(FreshDialogs const&) = delete;
+    FreshDialogs(const FreshDialogs&) = delete;
+    FreshDialogs& operator=(const FreshDialogs&) = delete;
 
 private:
     static void forget() {

@@ -1,4 +1,6 @@
 // The help pages that the dialogs open.
+#include "tests/support/Folders.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -11,9 +13,9 @@
 
 namespace {
 
-std::filesystem::path const folder = std::filesystem::path(CORVANE_SOURCE_DIR) / "docs" / "help";
+const std::filesystem::path folder = corvane::test::sourceFile("docs/help");
 
-class HelpPagesTest : public testing::TestWithParam<char const*> {
+class HelpPagesTest : public testing::TestWithParam<const char*> {
 protected:
     std::string page() const {
         std::ifstream file(folder / GetParam());
@@ -21,13 +23,14 @@ protected:
     }
 
     // The values of this attribute.
-    std::vector<std::string> values(std::string const& attribute) const {
-        std::string const text = page();
-        std::regex const pattern(attribute + "=\"([^\"]*)\"");
+    std::vector<std::string> values(const std::string& attribute) const {
+        const std::string text = page();
+        const std::regex pattern(attribute + "=\"([^\"]*)\"");
         std::vector<std::string> found;
         for (std::sregex_iterator match(text.begin(), text.end(), pattern), end; match != end;
-             ++match)
+             ++match) {
             found.push_back((*match)[1]);
+        }
         return found;
     }
 };
@@ -38,10 +41,12 @@ TEST_P(HelpPagesTest, standsInTheFolderOfHelpPages) {
 }
 
 TEST_P(HelpPagesTest, leadsOnlyToItsOwnFolder) {
-    for (std::string const& target : values("href"))
+    for (const std::string& target : values("href")) {
         EXPECT_TRUE(std::filesystem::is_regular_file(folder / target)) << target;
-    for (std::string const& picture : values("src"))
+    }
+    for (const std::string& picture : values("src")) {
         EXPECT_THAT(picture, testing::StartsWith("../images/dialog-"));
+    }
 }
 
 TEST_P(HelpPagesTest, describesItsPictures) {

@@ -25,36 +25,39 @@ class WordModel : public ListModelAbstract<std::string> {
 public:
     explicit WordModel(std::vector<std::string> words = {}) : m_words(std::move(words)) {}
     ~WordModel() override {
-        if (isGone)
+        if (isGone) {
             *isGone = true;
+        }
     }
 
     unsigned long size() const override { return m_words.size(); }
     std::string displayString(unsigned long index) const override { return m_words.at(index); }
-    std::string const& data(unsigned long index) const override { return m_words.at(index); }
+    const std::string& data(unsigned long index) const override { return m_words.at(index); }
     void freeMemory() override { ++timesFreed; }
 
-    void insert(std::vector<unsigned long> const& indices, std::string const& word) {
-        for (unsigned long const index : indices)
+    void insert(const std::vector<unsigned long>& indices, const std::string& word) {
+        for (const unsigned long index : indices) {
             m_words.insert(m_words.begin() + static_cast<long>(index), word);
+        }
         notifyOfChange({ItemsInserted, indices});
     }
     // Indices in any order.
-    void remove(std::vector<unsigned long> const& indices) {
-        std::set<unsigned long, std::greater<>> const descending(indices.begin(), indices.end());
-        for (unsigned long const index : descending)
+    void remove(const std::vector<unsigned long>& indices) {
+        const std::set<unsigned long, std::greater<>> descending(indices.begin(), indices.end());
+        for (const unsigned long index : descending) {
             m_words.erase(m_words.begin() + static_cast<long>(index));
+        }
         notifyOfChange({ItemsRemoved, indices});
     }
-    void change(unsigned long index, std::string const& word) {
+    void change(unsigned long index, const std::string& word) {
         m_words.at(index) = word;
         notifyOfChange({ItemsChanged, {index}});
     }
-    void replaceAll(std::vector<std::string> const& words) {
+    void replaceAll(const std::vector<std::string>& words) {
         m_words = words;
         notifyOfReset();
     }
-    void tell(ChangeInfo_s const& change) { notifyOfChange(change); }
+    void tell(const ChangeInfo_s& change) { notifyOfChange(change); }
 
     bool* isGone = nullptr;
     int timesFreed = 0;
@@ -79,17 +82,17 @@ protected:
     bool isSensitive() { return window().list().isSensitive(); }
 
     // Calls without locks, the list's handle and the selection's way there and back.
-    std::vector<std::string> listCalls(std::string const& operation) {
+    std::vector<std::string> listCalls(const std::string& operation) {
         return host.callsOf("CorGUIList" + operation);
     }
 
-    int const list;
+    const int list;
     WordModel words{{"a", "b", "c", "d", "e"}};
     WordModel none;
     ListView view;
 };
 
-std::string call(std::string const& operation, int list, std::string const& rest) {
+std::string call(const std::string& operation, int list, const std::string& rest) {
     return "CorGUIList" + operation + "(" + std::to_string(list) + rest + ")";
 }
 
@@ -117,7 +120,7 @@ TEST_F(ListViewTest, fillsInThisOrder) {
     WordModel model({"a"});
     host.clearCalls();
     view.setModel(model);
-    std::string const handle = std::to_string(list);
+    const std::string handle = std::to_string(list);
     EXPECT_THAT(host.calls(), testing::IsSupersetOf({"CorGUISetSensitivity(" + handle + ", TRUE)",
                                                      call("DeleteAllItems", list, ""),
                                                      call("AppendItem", list, ", \"a\"")}));
@@ -326,7 +329,7 @@ TEST_F(ListViewTest, hasTheSelectionModelOfItsKind) {
 
 TEST_F(ListViewTest, releasesItsLockWhereverTheHostThrows) {
     show(words);
-    for (char const* const operation :
+    for (const char* const operation :
          {"CorGUISetSensitivity", "CorGUIListGetSelectedItems", "CorGUIListDeleteAllItems",
           "CorGUIListAppendItem", "CorGUIListDeselectAllItems", "CorGUIListSetSelectedItems"}) {
         host.throwAt(operation);

@@ -13,14 +13,14 @@ using namespace corvane::corutiltools;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string const time = "Animate Time Concurrently";
-std::string const streamtraces = "Animate Streamtraces Concurrently";
+const std::string time = "Animate Time Concurrently";
+const std::string streamtraces = "Animate Streamtraces Concurrently";
 
 class MainDialogAnimateTest : public MainDialogTest {
 protected:
     // Key frames with these frame counts, each looking another way.
-    void build(std::vector<unsigned long> const& counts) {
-        for (unsigned long const count : counts) {
+    void build(const std::vector<unsigned long>& counts) {
+        for (const unsigned long count : counts) {
             host.frame().view.psi += 10.0;
             click("Append");
             model().setFrameCount(model().size() - 1, count);
@@ -29,7 +29,7 @@ protected:
         host.renderer().clear();
     }
 
-    MemoryMenuToggle option(std::string const& label) {
+    MemoryMenuToggle option(const std::string& label) {
         return window().menu("Options").toggle(label);
     }
 
@@ -189,12 +189,12 @@ TEST_F(MainDialogAnimateTest, checksNothingForASelectedRange) {
 }
 
 TEST_F(MainDialogAnimateTest, switchesEachOption) {
-    for (std::string const& label :
+    for (const std::string& label :
          {time, streamtraces, std::string("Fade In"), std::string("Fade Out")}) {
         option(label).choose();
         EXPECT_TRUE(option(label).isOn()) << label;
     }
-    Settings_s const& settings = dialog().settings();
+    const Settings_s& settings = dialog().settings();
     EXPECT_TRUE(settings.timeOptions.animateTime);
     EXPECT_TRUE(settings.animateStreamtraces);
     EXPECT_TRUE(settings.fadeIn);
@@ -216,7 +216,7 @@ TEST_F(MainDialogAnimateTest, asksForTheExportFirst) {
 }
 
 TEST_F(MainDialogAnimateTest, writesTheMovieWhenTheExportIsConfirmed) {
-    TempFolder const folder;
+    const TempFolder folder;
     build({2, 3});
     window().optionMenu().choose("To File");
     click("Animate All");

@@ -79,7 +79,7 @@ TEST_F(MainDialogEditTest, updatesTheSelectedView) {
 TEST_F(MainDialogEditTest, updatesAndAppliesNothingForManyOrNone) {
     capture(2);
     turn(77.0);
-    for (std::vector<long> const& selection : {std::vector<long>{}, {1, 2}}) {
+    for (const std::vector<long>& selection : {std::vector<long>{}, {1, 2}}) {
         select(selection);
         DialogMain::update_BTN_CB();
         DialogMain::apply_BTN_CB();
@@ -107,8 +107,9 @@ TEST_F(MainDialogEditTest, saysWhenThereIsNoViewToCapture) {
     capture(1);
     select({1});
     host.setPlotType(PlotType_Cartesian2D);
-    for (char const* const button : {"Append", "Insert", "Update"})
+    for (const char* const button : {"Append", "Insert", "Update"}) {
         window().button(button).click();
+    }
     EXPECT_THAT(errors(), testing::AllOf(testing::SizeIs(3),
                                          testing::Each("The current frame must be in 3D Cartesian "
                                                        "mode.")));
@@ -122,7 +123,7 @@ TEST_F(MainDialogEditTest, deletesARunInOneStep) {
     host.clearCalls();
     click("Delete");
     EXPECT_THAT(rows(), ElementsAre("View 1", "View 5"));
-    std::string const list = std::to_string(window().list().handle());
+    const std::string list = std::to_string(window().list().handle());
     EXPECT_THAT(host.callsOf("CorGUIListDeleteItemAtPos"),
                 ElementsAre("CorGUIListDeleteItemAtPos(" + list + ", 4)",
                             "CorGUIListDeleteItemAtPos(" + list + ", 3)",
@@ -136,7 +137,7 @@ TEST_F(MainDialogEditTest, deletesScatteredKeyFramesFromTheEndOn) {
     host.clearCalls();
     click("Delete");
     EXPECT_THAT(rows(), ElementsAre("View 2", "View 5"));
-    std::string const list = std::to_string(window().list().handle());
+    const std::string list = std::to_string(window().list().handle());
     EXPECT_THAT(host.callsOf("CorGUIListDeleteItemAtPos"),
                 ElementsAre("CorGUIListDeleteItemAtPos(" + list + ", 4)",
                             "CorGUIListDeleteItemAtPos(" + list + ", 3)",

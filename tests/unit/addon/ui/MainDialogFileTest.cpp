@@ -17,12 +17,12 @@ using Kind = ShownDialog::Kind;
 
 class MainDialogFileTest : public MainDialogTest {
 protected:
-    void choose(std::string const& item) {
+    void choose(const std::string& item) {
         window().menu("File").item(item).choose();
         host.runIdle();
     }
 
-    void open(std::string const& fileName) {
+    void open(const std::string& fileName) {
         host.prompts().answerFile(fileName);
         choose("Open Animation File...");
     }
@@ -32,11 +32,11 @@ protected:
                host.prompts().shown(Kind::FileToRead).size();
     }
 
-    TempFolder const folder;
+    const TempFolder folder;
 };
 
 TEST_F(MainDialogFileTest, opensAFile) {
-    std::string const file =
+    const std::string file =
         folder.write("orbit.keyframe", header + settingsBlock("FadeIn true\nAnimateTime true\n") +
                                            block("Name \"Bow\"\n") + block("Name \"Stern\"\n"));
     host.program().recorder().start();
@@ -82,7 +82,7 @@ TEST_F(MainDialogFileTest, saysSoWhenAKeyFrameHasNoPlace) {
 }
 
 TEST_F(MainDialogFileTest, keepsAnEarlierFileAfterAFailure) {
-    std::string const good = folder.write("good.keyframe", header + block("Name \"Bow\"\n"));
+    const std::string good = folder.write("good.keyframe", header + block("Name \"Bow\"\n"));
     open(good);
     open(folder.file("missing.keyframe"));
     EXPECT_EQ(errors().size(), 1u);

@@ -26,10 +26,10 @@ TEST_F(MainDialogLayoutTest, isMadeAsItsTableSays) {
         host.callsOf("CorGUIDialogCreateModeless"),
         ElementsAre("CorGUIDialogCreateModeless(-1, 4870, 2620, \"Key Frame Animation\", non-null, "
                     "non-null, non-null)"));
-    std::string const d = std::to_string(Dialog1Manager);
+    const std::string d = std::to_string(Dialog1Manager);
     EXPECT_THAT(host.callsOf("CorGUIListAdd"),
                 ElementsAre("CorGUIListAdd(" + d + ", 224, 65, 2745, 1414, TRUE, non-null)"));
-    auto const button = [&](std::string const& rest) {
+    const auto button = [&](const std::string& rest) {
         return "CorGUIButtonAdd(" + d + ", " + rest + ", non-null)";
     };
     EXPECT_THAT(host.callsOf("CorGUIButtonAdd"),
@@ -41,7 +41,7 @@ TEST_F(MainDialogLayoutTest, isMadeAsItsTableSays) {
                             button("3160, 1341, 1433, 145, \"&Clear         \""),
                             button("518, 2299, 1208, 232, \"A&nimate\\nAll\""),
                             button("2884, 2299, 1243, 232, \"  Animate \\n&Selected\"")));
-    auto const label = [&](std::string const& rest) {
+    const auto label = [&](const std::string& rest) {
         return "CorGUILabelAdd(" + d + ", " + rest + ")";
     };
     EXPECT_THAT(host.callsOf("CorGUILabelAdd"), ElementsAre(label("207, 1595, \"View Name:\""),
@@ -56,7 +56,7 @@ TEST_F(MainDialogLayoutTest, isMadeAsItsTableSays) {
 
 TEST_F(MainDialogLayoutTest, explainsItsControls) {
     DialogMain::launch();
-    MemoryDialog const window = host.gui().dialog("Key Frame Animation");
+    const MemoryDialog window = host.gui().dialog("Key Frame Animation");
     EXPECT_EQ(window.button("Insert").toolTip(),
               "Add the current Corvane view as a key frame below the selected item(s) in the list");
     EXPECT_EQ(window.button("Append").toolTip(),
@@ -79,7 +79,7 @@ TEST_F(MainDialogLayoutTest, explainsItsControls) {
 
 TEST_F(MainDialogLayoutTest, hasItsMenus) {
     DialogMain::launch();
-    MemoryDialog const window = host.gui().dialog("Key Frame Animation");
+    const MemoryDialog window = host.gui().dialog("Key Frame Animation");
     EXPECT_THAT(window.menus(), ElementsAre("&File", "&Options"));
     EXPECT_THAT(window.menu("File").entries(),
                 ElementsAre("&Open Animation File...", "-", "&Save Animation File",
@@ -135,14 +135,15 @@ TEST_F(MainDialogTest, startsEmpty) {
     EXPECT_EQ(window().optionMenu().chosenText(), "On Screen");
 }
 
-std::string const alwaysUsable = "Append";
+const std::string alwaysUsable = "Append";
 
 TEST_F(MainDialogTest, dimsWhatNeedsKeyFrames) {
-    for (char const* const button :
-         {"Apply", "Update", "Delete", "Insert", "Clear", "Animate All", "Animate Selected"})
+    for (const char* const button :
+         {"Apply", "Update", "Delete", "Insert", "Clear", "Animate All", "Animate Selected"}) {
         EXPECT_FALSE(window().button(button).isSensitive()) << button;
+    }
     EXPECT_TRUE(window().button(alwaysUsable).isSensitive());
-    for (char const* const label : {"View Name:", "Frame Count:"}) {
+    for (const char* const label : {"View Name:", "Frame Count:"}) {
         EXPECT_FALSE(window().label(label).isSensitive()) << label;
         EXPECT_FALSE(window().field(label).isSensitive()) << label;
     }
@@ -151,10 +152,12 @@ TEST_F(MainDialogTest, dimsWhatNeedsKeyFrames) {
 
 TEST_F(MainDialogTest, dimsWhatNeedsASelection) {
     capture(2);
-    for (char const* const button : {"Apply", "Update", "Delete", "Insert", "Animate Selected"})
+    for (const char* const button : {"Apply", "Update", "Delete", "Insert", "Animate Selected"}) {
         EXPECT_FALSE(window().button(button).isSensitive()) << button;
-    for (char const* const button : {"Append", "Clear", "Animate All"})
+    }
+    for (const char* const button : {"Append", "Clear", "Animate All"}) {
         EXPECT_TRUE(window().button(button).isSensitive()) << button;
+    }
     EXPECT_FALSE(window().field("View Name:").isSensitive());
     EXPECT_FALSE(window().field("Frame Count:").isSensitive());
 }
@@ -162,11 +165,13 @@ TEST_F(MainDialogTest, dimsWhatNeedsASelection) {
 TEST_F(MainDialogTest, offersEverythingForOneKeyFrameButToPlayIt) {
     capture(1);
     select({1});
-    for (char const* const button : {"Apply", "Update", "Delete", "Insert", "Append", "Clear"})
+    for (const char* const button : {"Apply", "Update", "Delete", "Insert", "Append", "Clear"}) {
         EXPECT_TRUE(window().button(button).isSensitive()) << button;
-    for (char const* const button : {"Animate All", "Animate Selected"})
+    }
+    for (const char* const button : {"Animate All", "Animate Selected"}) {
         EXPECT_FALSE(window().button(button).isSensitive()) << button;
-    for (char const* const label : {"View Name:", "Frame Count:"}) {
+    }
+    for (const char* const label : {"View Name:", "Frame Count:"}) {
         EXPECT_TRUE(window().label(label).isSensitive()) << label;
         EXPECT_TRUE(window().field(label).isSensitive()) << label;
     }
@@ -175,11 +180,13 @@ TEST_F(MainDialogTest, offersEverythingForOneKeyFrameButToPlayIt) {
 TEST_F(MainDialogTest, offersForManyKeyFramesWhatSuitsThem) {
     capture(3);
     select({1, 2});
-    for (char const* const button :
-         {"Delete", "Insert", "Append", "Clear", "Animate All", "Animate Selected"})
+    for (const char* const button :
+         {"Delete", "Insert", "Append", "Clear", "Animate All", "Animate Selected"}) {
         EXPECT_TRUE(window().button(button).isSensitive()) << button;
-    for (char const* const button : {"Apply", "Update"})
+    }
+    for (const char* const button : {"Apply", "Update"}) {
         EXPECT_FALSE(window().button(button).isSensitive()) << button;
+    }
     EXPECT_FALSE(window().field("View Name:").isSensitive());
     EXPECT_FALSE(window().label("View Name:").isSensitive());
     EXPECT_TRUE(window().field("Frame Count:").isSensitive());
@@ -294,11 +301,11 @@ TEST_F(MainDialogTest, showsAListThatWasReplacedWhileItWasClosed) {
 }
 
 TEST_F(MainDialogTest, takesSettingsFromOutside) {
-    Settings_s const settings{
+    const Settings_s settings{
         {true, TimeAnimationOperation_Bounce, 5}, Destination_ToFile, true, false, true};
     dialog().applySettings(settings);
     EXPECT_EQ(dialog().settings(), settings);
-    MemoryMenu const options = window().menu("Options");
+    const MemoryMenu options = window().menu("Options");
     EXPECT_TRUE(options.toggle("Animate Time Concurrently").isOn());
     EXPECT_TRUE(options.toggle("Animate Streamtraces Concurrently").isOn());
     EXPECT_FALSE(options.toggle("Fade In").isOn());
@@ -321,15 +328,16 @@ TEST_F(MainDialogTest, takesAListFromOutside) {
 TEST_F(MainDialogTest, setsItsTogglesInThisOrder) {
     host.clearCalls();
     dialog().onSettingsFileRead("/flights/orbit.keyframe");
-    std::vector<std::string> const calls = host.callsOf("CorGUIMenuSetToggle");
+    const std::vector<std::string> calls = host.callsOf("CorGUIMenuSetToggle");
     ASSERT_EQ(calls.size(), 4u);
-    MemoryMenu const options = window().menu("Options");
+    const MemoryMenu options = window().menu("Options");
     int index = 0;
-    for (char const* const label :
-         {"Animate Streamtraces Concurrently", "Animate Time Concurrently", "Fade In", "Fade Out"})
+    for (const char* const label : {"Animate Streamtraces Concurrently",
+                                    "Animate Time Concurrently", "Fade In", "Fade Out"}) {
         EXPECT_EQ(calls.at(static_cast<std::size_t>(index++)),
                   "CorGUIMenuSetToggle(" + std::to_string(options.toggle(label).handle()) +
                       ", FALSE)");
+    }
     EXPECT_EQ(dialog().currentFile().fileName(), "/flights/orbit.keyframe");
 }
 
@@ -356,14 +364,15 @@ TEST_F(MainDialogTest, comesUpInThisOrder) {
     host.clearCalls();
     DialogMain::launch();
     std::vector<std::string> operations;
-    for (std::string const& call : host.calls()) {
-        std::string const name = call.substr(0, call.find('('));
-        bool const isNoise = name.starts_with("CorUtilLock") || name == "CorGUIDialogIsUp" ||
+    for (const std::string& call : host.calls()) {
+        const std::string name = call.substr(0, call.find('('));
+        const bool isNoise = name.starts_with("CorUtilLock") || name == "CorGUIDialogIsUp" ||
                              name.starts_with("CorGUIListGet");
-        if (!isNoise && (operations.empty() || operations.back() != name))
+        if (!isNoise && (operations.empty() || operations.back() != name)) {
             operations.push_back(name);
+        }
     }
-    std::vector<std::string> const filled = {"CorGUISetSensitivity", "CorGUIListDeleteAllItems",
+    const std::vector<std::string> filled = {"CorGUISetSensitivity", "CorGUIListDeleteAllItems",
                                              "CorGUIListAppendItem", "CorGUIListDeselectAllItems",
                                              "CorGUIListSetSelectedItems"};
     std::vector<std::string> expected = {"CorGUIOptionMenuDeleteAllItems",
@@ -371,9 +380,10 @@ TEST_F(MainDialogTest, comesUpInThisOrder) {
     expected.insert(expected.end(), filled.begin(), filled.end());
     expected.push_back("CorUtilOnIdleQueueAddCallback");
     expected.insert(expected.end(), filled.begin(), filled.end());
-    for (char const* const name : {"CorGUIMenuSetToggle", "CorGUISetSensitivity",
-                                   "CorGUIOptionMenuSet", "CorGUIDialogLaunch"})
+    for (const char* const name : {"CorGUIMenuSetToggle", "CorGUISetSensitivity",
+                                   "CorGUIOptionMenuSet", "CorGUIDialogLaunch"}) {
         expected.push_back(name);
+    }
     EXPECT_THAT(operations, testing::ElementsAreArray(expected));
 }
 
@@ -388,18 +398,19 @@ constexpr unsigned long manyKeyFrames = 100000;
 TEST_F(LongListTest, staysUsable) {
     ListModelKeyFrame many;
     many.setDataList(std::vector<KeyFrame_s>(manyKeyFrames, KeyFrame_s{View(), "View", 30, 0.0}));
-    std::size_t const requestsBefore = host.idleRequests();
-    auto const start = std::chrono::steady_clock::now();
+    const std::size_t requestsBefore = host.idleRequests();
+    const auto start = std::chrono::steady_clock::now();
     dialog().applyDataModel(many);
     host.runIdle();
     window().closeByWindow();
     DialogMain::launch();
     std::vector<long> all(manyKeyFrames);
-    for (unsigned long index = 0; index < manyKeyFrames; ++index)
+    for (unsigned long index = 0; index < manyKeyFrames; ++index) {
         all[index] = static_cast<long>(index) + 1;
+    }
     window().list().select(all);
     host.runIdle();
-    auto const seconds =
+    const auto seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     EXPECT_LT(seconds, 10.0);
     EXPECT_LT(host.idleRequests() - requestsBefore, 20u);

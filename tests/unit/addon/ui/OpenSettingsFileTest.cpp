@@ -18,12 +18,12 @@ using testing::IsEmpty;
 
 class OpenSettingsFileTest : public DialogMainTest {
 protected:
-    TempFolder const folder;
+    const TempFolder folder;
     ReadResult result;
 };
 
 TEST_F(OpenSettingsFileTest, readsTellsTheDialogAndRecords) {
-    std::string const fileName =
+    const std::string fileName =
         folder.write("my flight.kf", header + settingsBlock("FadeIn true\n") + block(""));
     host.program().recorder().start();
     OpenSettingsFile(fileName, result.model, result.settings);
@@ -38,7 +38,7 @@ TEST_F(OpenSettingsFileTest, readsTellsTheDialogAndRecords) {
 }
 
 TEST_F(OpenSettingsFileTest, leavesTheDialogsOwnListAndSettingsToTheCaller) {
-    std::string const fileName =
+    const std::string fileName =
         folder.write("a.keyframe", header + settingsBlock("FadeIn true\n") + block(""));
     OpenSettingsFile(fileName, result.model, result.settings);
     EXPECT_EQ(dialog.settings(), defaultSettings());

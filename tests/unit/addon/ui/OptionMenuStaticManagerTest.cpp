@@ -14,13 +14,13 @@ using namespace corvane::test;
 using namespace corvane::corutiltools;
 using testing::ElementsAre;
 
-PreMappedValue<ExportFormat_e> const rowsOfTable[] = {
+const PreMappedValue<ExportFormat_e> rowsOfTable[] = {
     {"AVI", ExportFormat_AVI}, {"WMV", ExportFormat_WMV}, {"RM", ExportFormat_RasterMetafile}};
 
 class OptionMenuTest : public ControlTest {
 protected:
     OptionMenuTest() : manager(rowsOfTable, 3) {
-        char const* const items[] = {" "};
+        const char* const items[] = {" "};
         menu = CorGUIOptionMenuAdd(dialog, 0, 0, 100, 100, items, 1, nullptr);
         manager.setGuiID(menu);
     }
@@ -34,7 +34,7 @@ protected:
 TEST_F(OptionMenuTest, isFilledInTableOrder) {
     host.clearCalls();
     manager.fill();
-    std::string const handle = std::to_string(menu);
+    const std::string handle = std::to_string(menu);
     EXPECT_THAT(host.calls(),
                 ElementsAre(lockStart, "CorGUIOptionMenuDeleteAllItems(" + handle + ")",
                             "CorGUIOptionMenuAppendItem(" + handle + ", \"AVI\")",
@@ -84,8 +84,9 @@ TEST_F(OptionMenuTest, choosesByNumber) {
     manager.fill();
     manager.setNumber(22);
     EXPECT_EQ(shown().chosen(), 2);
-    for (long const stranger : {21L, -1L, 99L, 1L << 40})
+    for (const long stranger : {21L, -1L, 99L, 1L << 40}) {
         manager.setNumber(stranger);
+    }
     EXPECT_EQ(shown().chosen(), 2);
 }
 
@@ -94,7 +95,7 @@ TEST_F(OptionMenuTest, knowsItsLabels) {
     try {
         manager.getDisplayString(ExportFormat_MPEG4);
         FAIL() << "has a label";
-    } catch (std::out_of_range const& error) {
+    } catch (const std::out_of_range& error) {
         EXPECT_STREQ(error.what(), "Error in OptionMenuStaticManager::getDisplayString:\n"
                                    "The requested item does not exist in the model.");
     }

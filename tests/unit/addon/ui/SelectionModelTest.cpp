@@ -18,10 +18,11 @@ using testing::IsEmpty;
 
 class RecordingObserver : public ListSelectionModelObserverInterface {
 public:
-    void selectionChanged(std::vector<unsigned long> const& selectedItems) override {
+    void selectionChanged(const std::vector<unsigned long>& selectedItems) override {
         heard.push_back(selectedItems);
-        if (reaction)
+        if (reaction) {
             reaction();
+        }
     }
 
     std::vector<std::vector<unsigned long>> heard;
@@ -36,15 +37,16 @@ protected:
           view(list, ListViewInterface::SelectionModel_Multi),
           single(view),
           multi(view) {
-        for (char const* const row : {"a", "b", "c", "d", "e"})
+        for (const char* const row : {"a", "b", "c", "d", "e"}) {
             CorGUIListAppendItem(list, row);
+        }
         single.addObserver(observer);
         multi.addObserver(observer);
     }
 
     std::vector<long> selection() { return window().list().selection(); }
 
-    int const list;
+    const int list;
     ListView view;
     ListSingleSelectionModel single;
     ListMultiSelectionModel multi;
@@ -90,7 +92,7 @@ TEST_F(SelectionModelTest, selectsOneItem) {
 }
 
 TEST_F(SelectionModelTest, deselectsForAnIndexThatNoRowHas) {
-    for (int const item : {5, -1, 1000000}) {
+    for (const int item : {5, -1, 1000000}) {
         window().list().select({2});
         multi.setSelectedItem(item);
         EXPECT_THAT(selection(), IsEmpty()) << item;
@@ -145,7 +147,7 @@ TEST_F(SelectionModelTest, tellsEachObserverOnce) {
 TEST_F(SelectionModelTest, letsObserversLeaveWhileTheyAreTold) {
     RecordingObserver other;
     multi.addObserver(other);
-    auto const leave = [&] {
+    const auto leave = [&] {
         multi.removeObserver(observer);
         multi.removeObserver(other);
     };

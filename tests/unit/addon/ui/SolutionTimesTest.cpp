@@ -23,19 +23,21 @@ using testing::IsEmpty;
 class SolutionTimesTest : public HostTest {
 protected:
     // Zones of one strand.
-    void giveDataTheTimes(std::vector<double> const& times) {
-        auto const data = makeStaticData();
+    void giveDataTheTimes(const std::vector<double>& times) {
+        const auto data = makeStaticData();
         data->zones.clear();
-        for (double const time : times)
+        for (const double time : times) {
             data->zones.push_back({.block = 0, .solutionTime = time, .strand = 1});
+        }
         host.setData(data);
         host.clearCalls();
     }
 
-    void giveListTheFrameCounts(std::vector<unsigned long> const& counts) {
+    void giveListTheFrameCounts(const std::vector<unsigned long>& counts) {
         std::vector<KeyFrame_s> keyFrames;
-        for (unsigned long const count : counts)
+        for (const unsigned long count : counts) {
             keyFrames.push_back({View(), "x", count, -1.0});
+        }
         model.setDataList(keyFrames);
         model.addObserver(observer);
         model.setDataList(keyFrames);
@@ -44,8 +46,9 @@ protected:
 
     std::vector<double> times() const {
         std::vector<double> result;
-        for (KeyFrame_s const& keyFrame : model.dataList())
+        for (const KeyFrame_s& keyFrame : model.dataList()) {
             result.push_back(keyFrame.solutionTime);
+        }
         return result;
     }
 
@@ -76,7 +79,7 @@ TEST_F(SolutionTimesTest, areZeroWithoutData) {
 }
 
 TEST_F(SolutionTimesTest, areNoNumberForASingleKeyFrame) {
-    for (std::vector<double> const& dataTimes : {std::vector{1.0, 2.0}, std::vector{1.0}}) {
+    for (const std::vector<double>& dataTimes : {std::vector{1.0, 2.0}, std::vector{1.0}}) {
         giveDataTheTimes(dataTimes);
         giveListTheFrameCounts({10});
         RedistributeSolutionTimes(model);
@@ -109,7 +112,7 @@ TEST_F(SolutionTimesTest, areTakenFromTheHostByAnUpdate) {
     giveListTheFrameCounts({10, 20});
     host.session().setSolutionTime(1.25);
     host.clearCalls();
-    View const view(1, 2, 3, 4, 5, 6, 7);
+    const View view(1, 2, 3, 4, 5, 6, 7);
     model.update(1, view);
     EXPECT_EQ(model.data(1), (KeyFrame_s{view, "x", 20, 1.25}));
     EXPECT_EQ(model.data(0), (KeyFrame_s{View(), "x", 10, -1.0}));

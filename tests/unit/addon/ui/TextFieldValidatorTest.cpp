@@ -28,13 +28,13 @@ protected:
 
     std::string text() { return window().field().text(); }
 
-    int const field;
+    const int field;
     TextFieldValidator<int> whole{500, true, true, 1, 1000};
     TextFieldValidator<double> real{30.0, true, true, 0.001, 200.0};
 };
 
 TEST_F(ValidatorTest, takesNumbersInRangeWithTheBounds) {
-    for (int const value : {1, 2, 999, 1000}) {
+    for (const int value : {1, 2, 999, 1000}) {
         EXPECT_TRUE(whole.validate(std::to_string(value)));
         EXPECT_EQ(whole.value(), value);
         EXPECT_EQ(text(), std::to_string(value));
@@ -43,7 +43,7 @@ TEST_F(ValidatorTest, takesNumbersInRangeWithTheBounds) {
 }
 
 TEST_F(ValidatorTest, refusesOthersAndRestoresTheField) {
-    for (char const* const entry :
+    for (const char* const entry :
          {"0", "1001", "-1", "", " ", "abc", "x12", "99999999999999999999", "--2"}) {
         EXPECT_FALSE(whole.validate(entry)) << entry;
         EXPECT_EQ(whole.value(), 500) << entry;
@@ -118,7 +118,7 @@ TEST_F(ValidatorTest, touchesNothingWithoutAField) {
 }
 
 TEST_F(ValidatorTest, writesAndReadsTheSameInEveryLocale) {
-    CommaLocale const german;
+    const CommaLocale german;
     TextFieldValidator<int> big(1234567, true, true, 1, largest);
     big.setGuiID(field);
     big.updateTextField();

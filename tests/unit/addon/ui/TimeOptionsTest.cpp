@@ -39,7 +39,7 @@ TEST_F(TimeOptionsTest, isMadeAsItsTableSays) {
     EXPECT_THAT(host.callsOf("CorGUIDialogCreateModal"),
                 ElementsAre("CorGUIDialogCreateModal(-1, 5357, 878, \"Time Animation Options\", "
                             "non-null, non-null, NULL, non-null, non-null)"));
-    std::string const d = "(" + std::to_string(Dialog3Manager);
+    const std::string d = "(" + std::to_string(Dialog3Manager);
     EXPECT_THAT(host.callsOf("CorGUIFrameAdd"), ElementsAre("CorGUIFrameAdd" + d +
                                                             ", 207, 79, 4956, 732, "
                                                             "\"Animation Operation\")"));
@@ -65,7 +65,7 @@ TEST_F(TimeOptionsTest, isMadeOnce) {
 
 TEST_F(TimeOptionsTest, showsEachOperation) {
     long position = 0;
-    for (TimeAnimationOperation_e const operation :
+    for (const TimeAnimationOperation_e operation :
          {TimeAnimationOperation_Forward, TimeAnimationOperation_Loop,
           TimeAnimationOperation_Bounce, TimeAnimationOperation_AsCaptured}) {
         launch(operation, 7);
@@ -112,14 +112,15 @@ TEST_F(TimeOptionsTest, stepsTheCyclesDownToOne) {
     launch(TimeAnimationOperation_Loop, 2);
     cycles().up();
     EXPECT_EQ(cycles().text(), "3");
-    for (int step = 0; step < 4; ++step)
+    for (int step = 0; step < 4; ++step) {
         cycles().down();
+    }
     EXPECT_EQ(cycles().text(), "1");
 }
 
 TEST_F(TimeOptionsTest, refusesWhatIsNoNumberOfCycles) {
     launch(TimeAnimationOperation_Loop, 4);
-    for (char const* const entry : {"many", "0", "-3"}) {
+    for (const char* const entry : {"many", "0", "-3"}) {
         cycles().type(entry);
         cycles().commit();
         EXPECT_EQ(cycles().text(), "4") << entry;
@@ -161,12 +162,13 @@ TEST_F(TimeOptionsTest, isCancelled) {
         launch(TimeAnimationOperation_Forward, 2);
         window().radioBox().choose("Loop");
         cycles().up();
-        if (way == 0)
+        if (way == 0) {
             window().cancel();
-        else if (way == 1)
+        } else if (way == 1) {
             window().closeByWindow();
-        else
+        } else {
             window().pressEscape();
+        }
         EXPECT_FALSE(isUp());
     }
     EXPECT_EQ(options.operation, TimeAnimationOperation_Forward);

@@ -17,22 +17,26 @@ namespace {
 
 std::string quotedForShell(const std::string& text) {
     std::string quoted = "'";
-    for (const char c : text)
+    for (const char c : text) {
         quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
     return quoted + "'";
 }
 
 /// What the command writes to standard output. Throws when it fails.
 std::string outputOf(const std::string& command) {
     FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe)
+    if (!pipe) {
         throw std::runtime_error("cannot run: " + command);
+    }
     std::string output;
     std::array<char, 65536> part{};
-    while (const std::size_t bytes = std::fread(part.data(), 1, part.size(), pipe))
+    while (const std::size_t bytes = std::fread(part.data(), 1, part.size(), pipe)) {
         output.append(part.data(), bytes);
-    if (pclose(pipe) != 0)
+    }
+    if (pclose(pipe) != 0) {
         throw std::runtime_error("failed: " + command);
+    }
     return output;
 }
 
@@ -41,8 +45,9 @@ std::map<std::string, std::string> parsed(const std::string& keysAndValues) {
     std::istringstream lines(keysAndValues);
     for (std::string line; std::getline(lines, line);) {
         const std::size_t equals = line.find('=');
-        if (equals != std::string::npos)
+        if (equals != std::string::npos) {
             values[line.substr(0, equals)] = line.substr(equals + 1);
+        }
     }
     return values;
 }
@@ -79,10 +84,12 @@ DecodedMovie::DecodedMovie(std::string path, MovieEnd end) : m_path(std::move(pa
     // ffmpeg of itself converts as if colours shared by two pixels belonged between them.
     m_colors = values["chroma_location"] == "left" ? "in_h_chr_pos=0:" : "";
     // Where nothing is said, players take high pictures for BT.709, but ffmpeg takes none.
-    if (pixelFormat == "yuv420p" && values["color_space"] == "unknown" && height > 576)
+    if (pixelFormat == "yuv420p" && values["color_space"] == "unknown" && height > 576) {
         m_colors += "in_color_matrix=bt709:";
-    if (frames < 1)
+    }
+    if (frames < 1) {
         throw std::runtime_error("no picture in " + m_path);
+    }
 }
 
 host::Picture DecodedMovie::picture(long n) const {
@@ -96,8 +103,9 @@ host::Picture DecodedMovie::pictureIn256Colors(long n) const {
 
 host::Picture DecodedMovie::onePicture(long n, const std::string& filter) const {
     auto found = decode("select='eq(n," + std::to_string(n) + ")'," + filter);
-    if (found.size() != 1)
+    if (found.size() != 1) {
         throw std::runtime_error("no picture " + std::to_string(n) + " in " + m_path);
+    }
     return std::move(found.front());
 }
 
@@ -133,21 +141,24 @@ std::vector<double> DecodedMovie::times() const {
                  " -of default=nw=1:nk=1 -i " +
                  quotedForShell("file:" + m_path)));
     std::vector<double> found;
-    for (double time = 0.0; lines >> time;)
+    for (double time = 0.0; lines >> time;) {
         found.push_back(time);
+    }
     return found;
 }
 
 double psnr(const host::Picture& a, const host::Picture& b) {
-    if (a.width != b.width || a.height != b.height || a.rgba.size() != b.rgba.size())
+    if (a.width != b.width || a.height != b.height || a.rgba.size() != b.rgba.size()) {
         throw std::runtime_error("pictures of different sizes cannot be compared");
+    }
     double squares = 0.0;
     for (std::size_t i = 0; i < a.rgba.size(); ++i) {
         const double difference = double{1} * a.rgba[i] - b.rgba[i];
         squares += i % 4 == 3 ? 0.0 : difference * difference;
     }
-    if (squares == 0.0)
+    if (squares == 0.0) {
         return std::numeric_limits<double>::infinity();
+    }
     const double values = 3.0 * a.width * a.height;
     return 10.0 * std::log10(255.0 * 255.0 * values / squares);
 }
@@ -156,17 +167,19 @@ host::Picture cropped(const host::Picture& picture, int width, int height) {
     host::Picture part;
     part.width = width;
     part.height = height;
-    for (int y = 0; y < height; ++y)
+    for (int y = 0; y < height; ++y) {
         part.rgba.insert(part.rgba.end(), picture.row(y),
                          picture.row(y) + std::ptrdiff_t{4} * width);
+    }
     return part;
 }
 
 double lowestPsnr(const DecodedMovie& movie, const std::vector<host::Picture>& originals) {
     const std::vector<host::Picture> pictures = movie.pictures();
-    if (pictures.size() != originals.size())
+    if (pictures.size() != originals.size()) {
         throw std::runtime_error("the movie has " + std::to_string(pictures.size()) +
                                  " pictures instead of " + std::to_string(originals.size()));
+    }
     double lowest = std::numeric_limits<double>::infinity();
     for (std::size_t n = 0; n < originals.size(); ++n) {
         const host::Picture& original = originals[n];

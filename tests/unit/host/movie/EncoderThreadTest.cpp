@@ -66,8 +66,9 @@ TEST(EncoderThread, writesAllPicturesInTheirOrder) {
     EncoderThread writer(std::make_unique<RecordingSink>(log), 4);
     std::vector<int> expected(1000);
     std::iota(expected.begin(), expected.end(), 0);
-    for (const int n : expected)
+    for (const int n : expected) {
         writer.add(numberedPicture(n));
+    }
     writer.finish();
     EXPECT_EQ(log.written, expected);
     EXPECT_TRUE(log.finished);
@@ -104,8 +105,9 @@ TEST(EncoderThread, neverHoldsMorePicturesThanItsBound) {
                              }),
                              bound);
         self.set_value(&writer);
-        for (int n = 0; n < 500; ++n)
+        for (int n = 0; n < 500; ++n) {
             writer.add(numberedPicture(n));
+        }
         writer.finish();
         EXPECT_LE(most, bound);
         EXPECT_EQ(writer.waiting(), 0U);
@@ -116,8 +118,9 @@ TEST(EncoderThread, tellsTheCauseAtTheNextPicture) {
     EncoderThread writer(
         std::make_unique<ScriptedSink>([](int) { throw host::HostError("the disk is full"); }), 1);
     const auto addMany = [&] {
-        for (int n = 0; n < 4; ++n) // at most one fails, one waits, and one is taken meanwhile
+        for (int n = 0; n < 4; ++n) { // at most one fails, one waits, and one is taken meanwhile
             writer.add(numberedPicture(n));
+        }
     };
     EXPECT_THAT(addMany, ThrowsMessage<host::HostError>("the disk is full"));
     EXPECT_THAT([&] { writer.add(numberedPicture(9)); },
@@ -141,8 +144,9 @@ TEST(EncoderThread, freesAProducerThatWaitsWhenTheSinkFails) {
                          }),
                          1);
     auto producer = std::async(std::launch::async, [&] {
-        for (int n = 0; n < 50; ++n)
+        for (int n = 0; n < 50; ++n) {
             writer.add(numberedPicture(n));
+        }
     });
     EXPECT_EQ(producer.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
     gate.set_value();
@@ -160,13 +164,15 @@ TEST(EncoderThread, writesNothingAfterAFailure) {
     std::vector<int> seen;
     EncoderThread writer(std::make_unique<ScriptedSink>([&](int number) {
                              seen.push_back(number);
-                             if (number == 2)
+                             if (number == 2) {
                                  throw host::HostError("the disk is full");
+                             }
                          }),
                          2);
     const auto addAll = [&] {
-        for (int n = 0; n < 100; ++n)
+        for (int n = 0; n < 100; ++n) {
             writer.add(numberedPicture(n));
+        }
     };
     EXPECT_THROW(addAll(), host::HostError);
     EXPECT_THROW(writer.finish(), host::HostError);
@@ -183,17 +189,21 @@ TEST(EncoderThread, dropsWaitingPicturesWhenDestroyedUnfinished) {
     auto writer = std::make_unique<EncoderThread>(
         std::make_unique<ScriptedSink>([&](int number) {
             seen.push_back(number);
-            if (number == 0)
+            if (number == 0) {
                 started.set_value();
+            }
             isDestroying.wait();
             const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(120);
-            while (writerReady.get()->waiting() > 0 && std::chrono::steady_clock::now() < deadline)
+            while (writerReady.get()->waiting() > 0 &&
+                   std::chrono::steady_clock::now() < deadline) {
                 std::this_thread::yield();
+            }
         }),
         4);
     self.set_value(writer.get());
-    for (int n = 0; n < 4; ++n)
+    for (int n = 0; n < 4; ++n) {
         writer->add(numberedPicture(n));
+    }
     started.get_future().wait();
     destroying.set_value();
     writer.reset();

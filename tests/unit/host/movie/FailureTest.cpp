@@ -41,8 +41,9 @@ void limitFileSize(rlim_t bytes) {
     try {
         movie::LibavMovieWriters writers;
         const auto writer = writers.open(movieRequest(path, 320, 240));
-        for (; taken < frames; ++taken)
+        for (; taken < frames; ++taken) {
             writer->add(noisyPicture(320, 240, taken));
+        }
         std::cerr << "all were taken; ";
         writer->finish();
     } catch (const host::HostError& error) {
@@ -90,8 +91,9 @@ void writePartUntilItFails(const MovieKind& kind, const std::string& path, int f
     const host::PartFile part(path);
     movie::LibavMovieWriters writers;
     const auto writer = writers.open(movieRequest(kind, part.path(), 320, 240));
-    for (int n = 0; n < frames; ++n)
+    for (int n = 0; n < frames; ++n) {
         writer->add(noisyPicture(320, 240, n));
+    }
     writer->finish();
 }
 
@@ -181,8 +183,9 @@ long threadsOfThisProcess() {
 bool threadsComeDownTo(long wanted) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(120);
     while (threadsOfThisProcess() > wanted) {
-        if (std::chrono::steady_clock::now() > deadline)
+        if (std::chrono::steady_clock::now() > deadline) {
             return false;
+        }
         std::this_thread::yield();
     }
     return true;
@@ -194,8 +197,9 @@ TEST(Failure, destroyingAnUnfinishedMovieStopsItsThreadsAndLeavesItsFile) {
     movie::LibavMovieWriters writers;
     for (int frames = 0; frames < 30; frames += 6) {
         auto writer = writers.open(movieRequest(folder.path("movie.mp4"), 320, 240));
-        for (int n = 0; n < frames; ++n)
+        for (int n = 0; n < frames; ++n) {
             writer->add(movingPicture(320, 240, n));
+        }
         writer.reset();
         EXPECT_TRUE(threadsComeDownTo(before));
         EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));

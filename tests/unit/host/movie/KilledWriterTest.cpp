@@ -25,8 +25,9 @@ constexpr int height = 240;
 [[noreturn]] void writeUntilKilled(const host::MovieRequest& request, int frames) {
     movie::LibavMovieWriters writers;
     const auto writer = writers.open(request);
-    for (int n = 0; n < frames; ++n)
+    for (int n = 0; n < frames; ++n) {
         writer->add(movingPicture(width, height, n));
+    }
     std::raise(SIGKILL);
     std::abort();
 }

@@ -44,8 +44,10 @@ TEST(MovieExtensions, mayBeInCapitals) {
 }
 
 TEST(MovieExtensions, standForNothingWhenTheyAreUnknown) {
-    for (const char* file : {"", "avi", ".avi", "flight", "flight.", "flight.mov", "flight.avi.gz"})
+    for (const char* file :
+         {"", "avi", ".avi", "flight", "flight.", "flight.mov", "flight.avi.gz"}) {
         EXPECT_EQ(app::movieFormatFor(file), nullptr) << file;
+    }
 }
 
 } // namespace

@@ -69,16 +69,18 @@ TEST_P(MovieOfAnyKind, keepsTheOrderOfPictures) {
     const auto originals = writeMovingMovie(movieRequest(GetParam(), m_path, 128, 96), 40);
     const auto pictures = DecodedMovie(m_path).pictures();
     ASSERT_EQ(pictures.size(), originals.size());
-    for (std::size_t n = 1; n < originals.size(); ++n)
+    for (std::size_t n = 1; n < originals.size(); ++n) {
         EXPECT_GT(psnr(pictures[n], originals[n]), psnr(pictures[n], originals[n - 1]) + 3.0);
+    }
 }
 
 TEST_P(MovieOfAnyKind, givesTheSamePicturesOneByOne) {
     writeMovingMovie(movieRequest(GetParam(), m_path, 64, 48), 4);
     const DecodedMovie movie(m_path);
     const auto pictures = movie.pictures();
-    for (const long n : {3L, 1L})
+    for (const long n : {3L, 1L}) {
         EXPECT_EQ(movie.picture(n), pictures[static_cast<std::size_t>(n)]);
+    }
 }
 
 TEST_P(MovieOfAnyKind, keepsStrongColorsAtAnyHeight) {
@@ -86,15 +88,17 @@ TEST_P(MovieOfAnyKind, keepsStrongColorsAtAnyHeight) {
     for (const int height : {120, 720}) {
         movie::LibavMovieWriters writers;
         const auto writer = writers.open(movieRequest(GetParam(), m_path, 64, height));
-        for (const Color& color : colors)
+        for (const Color& color : colors) {
             writer->add(uniformPicture(64, height, color));
+        }
         writer->finish();
         const auto pictures = DecodedMovie(m_path).pictures();
         ASSERT_EQ(pictures.size(), colors.size());
         for (std::size_t n = 0; n < colors.size(); ++n) {
             const auto shown = meanColor(pictures[n], 0, 0, 64, height);
-            for (std::size_t i = 0; i < 3; ++i)
+            for (std::size_t i = 0; i < 3; ++i) {
                 EXPECT_NEAR(shown[i], colors[n][i], 4.0) << "picture " << n << ", " << height;
+            }
         }
     }
 }
@@ -105,10 +109,11 @@ TEST_P(MovieOfAnyKind, saysOnceThatItsPicturesArePadded) {
     writers.open(movieRequest(GetParam(), m_path, 64, 48));
     EXPECT_THAT(notes, IsEmpty());
     writers.open(movieRequest(GetParam(), m_path, 301, 200));
-    if (GetParam().heightStep == 2)
+    if (GetParam().heightStep == 2) {
         EXPECT_THAT(notes, ElementsAre(AllOf(HasSubstr("302 x 200"), HasSubstr("301 x 200"))));
-    else
+    } else {
         EXPECT_THAT(notes, IsEmpty());
+    }
 }
 
 TEST_P(MovieOfAnyKind, replacesWhatStandsAtItsPath) {
@@ -141,10 +146,12 @@ INSTANTIATE_TEST_SUITE_P(Kinds, MovieOfAnyKind, testing::ValuesIn(movieKinds()),
 /// How far the time of a picture may be from the exact one: by the file's own clock.
 double toleranceOf(const MovieKind& kind, double framesPerSecond, double time) {
     constexpr double digitsOfFfprobe = 1e-6;
-    if (kind.format == ExportFormat_FlashSWF) // a frame rate in steps of 1/256
+    if (kind.format == ExportFormat_FlashSWF) { // a frame rate in steps of 1/256
         return time * (1.0 / 512.0) / (framesPerSecond - 1.0 / 512.0) + digitsOfFfprobe;
-    if (kind.format == ExportFormat_FlashFLV || kind.format == ExportFormat_WMV)
+    }
+    if (kind.format == ExportFormat_FlashFLV || kind.format == ExportFormat_WMV) {
         return 0.0005 + digitsOfFfprobe;
+    }
     return 1e-9 * time + digitsOfFfprobe;
 }
 
@@ -166,8 +173,9 @@ protected:
 };
 
 TEST_P(MovieSpeedOfAnyKind, isKept) {
-    for (const double speed : {0.5, 23.976, 29.97, 30.0, 199.999, 200.0})
+    for (const double speed : {0.5, 23.976, 29.97, 30.0, 199.999, 200.0}) {
         expectTimes(speed);
+    }
 }
 
 TEST_P(MovieSpeedOfAnyKind, isKeptWhereItIsSlowest) {

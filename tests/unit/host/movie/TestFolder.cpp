@@ -31,8 +31,9 @@ TestFolder::~TestFolder() {
 
 std::vector<std::string> TestFolder::names() const {
     std::vector<std::string> found;
-    for (const auto& entry : std::filesystem::directory_iterator(m_folder))
+    for (const auto& entry : std::filesystem::directory_iterator(m_folder)) {
         found.push_back(entry.path().filename().string());
+    }
     std::sort(found.begin(), found.end());
     return found;
 }

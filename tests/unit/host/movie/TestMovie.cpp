@@ -18,15 +18,17 @@ std::uint8_t* pixel(host::Picture& picture, int x, int y) {
 }
 
 void paint(host::Picture& picture, int x, int y, const Color& color) {
-    if (x < 0 || y < 0 || x >= picture.width || y >= picture.height)
+    if (x < 0 || y < 0 || x >= picture.width || y >= picture.height) {
         return;
+    }
     std::copy(color.begin(), color.end(), pixel(picture, x, y));
 }
 
 void paintPatch(host::Picture& picture, int left, int top, int size, const Color& color) {
     for (int y = top; y < top + size; ++y) {
-        for (int x = left; x < left + size; ++x)
+        for (int x = left; x < left + size; ++x) {
             paint(picture, x, y, color);
+        }
     }
 }
 
@@ -66,8 +68,9 @@ void paintLines(host::Picture& picture, int n) {
         paint(picture, (picture.width / 3 + 2 * n) % picture.width, y, white);
         paint(picture, y + n, y, black);
     }
-    for (int x = 0; x < picture.width; ++x)
+    for (int x = 0; x < picture.width; ++x) {
         paint(picture, x, (picture.height / 2 + n) % picture.height, white);
+    }
 }
 
 } // namespace
@@ -78,16 +81,18 @@ host::Picture uniformPicture(int width, int height, const Color& color) {
     picture.height = height;
     picture.rgba.assign(4U * static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                         255);
-    for (std::size_t i = 0; i < picture.rgba.size(); i += 4)
+    for (std::size_t i = 0; i < picture.rgba.size(); i += 4) {
         std::copy(color.begin(), color.end(), picture.rgba.data() + i);
+    }
     return picture;
 }
 
 host::Picture movingPicture(int width, int height, int n) {
     host::Picture picture = uniformPicture(width, height, {});
     paintShading(picture, n);
-    if (std::min(width, height) < 128)
+    if (std::min(width, height) < 128) {
         return picture; // a line would be a large part of it
+    }
     const int size = std::min(width, height) / 8;
     paintPatch(picture, size + 2 * n, size, size, {255, 0, 0});
     paintPatch(picture, 3 * size, size + 2 * n, size, {0, 255, 0});
@@ -100,8 +105,9 @@ host::Picture noisyPicture(int width, int height, int n) {
     host::Picture picture = uniformPicture(width, height, {});
     std::minstd_rand random(static_cast<unsigned>(n) + 1U);
     for (std::size_t i = 0; i < picture.rgba.size(); ++i) {
-        if (i % 4 != 3)
+        if (i % 4 != 3) {
             picture.rgba[i] = static_cast<std::uint8_t>(random() >> 8U);
+        }
     }
     return picture;
 }
@@ -118,8 +124,9 @@ host::MovieRequest movieRequest(const std::string& path, int width, int height,
 
 std::vector<host::Picture> movingPictures(int width, int height, int frames) {
     std::vector<host::Picture> pictures;
-    for (int n = 0; n < frames; ++n)
+    for (int n = 0; n < frames; ++n) {
         pictures.push_back(movingPicture(width, height, n));
+    }
     return pictures;
 }
 
@@ -127,8 +134,9 @@ std::vector<host::Picture> writeMovingMovie(const host::MovieRequest& request, i
     movie::LibavMovieWriters writers;
     const auto writer = writers.open(request);
     auto pictures = movingPictures(request.width, request.height, frames);
-    for (const host::Picture& picture : pictures)
+    for (const host::Picture& picture : pictures) {
         writer->add(picture);
+    }
     writer->finish();
     return pictures;
 }
@@ -137,12 +145,14 @@ std::array<double, 3> meanColor(const host::Picture& picture, int x, int y, int 
     std::array<double, 3> sum{};
     for (int row = y; row < y + height; ++row) {
         for (int column = x; column < x + width; ++column) {
-            for (std::size_t i = 0; i < 3; ++i)
+            for (std::size_t i = 0; i < 3; ++i) {
                 sum[i] += picture.row(row)[4U * static_cast<std::size_t>(column) + i];
+            }
         }
     }
-    for (double& value : sum)
+    for (double& value : sum) {
         value /= double{1} * width * height;
+    }
     return sum;
 }
 
@@ -152,10 +162,12 @@ std::string topLevelBoxes(const std::string& path) {
     std::array<unsigned char, 8> head{};
     while (file.read(reinterpret_cast<char*>(head.data()), head.size())) {
         std::uint64_t size = 0;
-        for (std::size_t i = 0; i < 4; ++i)
+        for (std::size_t i = 0; i < 4; ++i) {
             size = size * 256 + head[i];
-        if (size < head.size())
+        }
+        if (size < head.size()) {
             throw std::runtime_error("a box of this size is not known here");
+        }
         types += types.empty() ? "" : " ";
         types.append(head.begin() + 4, head.end());
         file.seekg(static_cast<std::streamoff>(size - head.size()), std::ios::cur);

@@ -31,8 +31,9 @@ void writeWith(const std::string& path, vtkDataObject* object) {
     const vtkNew<Writer> writer;
     writer->SetFileName(path.c_str());
     writer->SetInputDataObject(object);
-    if (writer->Write() == 0)
+    if (writer->Write() == 0) {
         throw std::runtime_error("cannot write " + path);
+    }
 }
 
 /// A parallel file of one piece: VTK's own writer would need its parallel libraries.
@@ -50,7 +51,7 @@ void writeParallel(const std::string& path, vtkDataObject* object) {
 }
 
 const std::map<std::string, Write>& writers() {
-    static const std::map<std::string, Write> table{
+    const static std::map<std::string, Write> table{
         {".vtu", writeWith<vtkXMLUnstructuredGridWriter>},
         {".vtp", writeWith<vtkXMLPolyDataWriter>},
         {".vti", writeWith<vtkXMLImageDataWriter>},
@@ -79,9 +80,10 @@ std::string writePvd(const TempFolder& folder, const std::string& name,
     std::ostringstream text;
     text
         << "<?xml version=\"1.0\"?>\n<VTKFile type=\"Collection\" version=\"0.1\">\n<Collection>\n";
-    for (const PvdEntry& entry : entries)
+    for (const PvdEntry& entry : entries) {
         text << "<DataSet timestep=\"" << entry.time << "\" part=\"" << entry.part << "\" name=\""
              << entry.name << "\" file=\"" << entry.file << "\"/>\n";
+    }
     text << "</Collection>\n</VTKFile>\n";
     return folder.write(name, text.str());
 }

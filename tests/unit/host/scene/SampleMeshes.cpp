@@ -35,18 +35,22 @@ void addArrays(vtkDataSet& mesh, double offset) {
 
     const vtkNew<vtkDoubleArray> ofCells;
     ofCells->SetName("C");
-    for (vtkIdType i = 0; i < mesh.GetNumberOfCells(); ++i)
+    for (vtkIdType i = 0; i < mesh.GetNumberOfCells(); ++i) {
         ofCells->InsertNextValue(static_cast<double>(i));
+    }
     mesh.GetCellData()->AddArray(ofCells);
 }
 
 vtkSmartPointer<vtkPoints> samplePoints() {
     const auto points = vtkSmartPointer<vtkPoints>::New();
     points->SetDataTypeToDouble();
-    for (int k = 0; k < pointsPerEdge; ++k)
-        for (int j = 0; j < pointsPerEdge; ++j)
-            for (int i = 0; i < pointsPerEdge; ++i)
+    for (int k = 0; k < pointsPerEdge; ++k) {
+        for (int j = 0; j < pointsPerEdge; ++j) {
+            for (int i = 0; i < pointsPerEdge; ++i) {
                 points->InsertNextPoint(i * spacing, j * spacing, k * spacing);
+            }
+        }
+    }
     return points;
 }
 
@@ -75,8 +79,9 @@ vtkSmartPointer<vtkImageData> sampleImage() {
 
 vtkSmartPointer<vtkRectilinearGrid> sampleRectilinearGrid() {
     const vtkNew<vtkDoubleArray> coordinates;
-    for (int i = 0; i < pointsPerEdge; ++i)
+    for (int i = 0; i < pointsPerEdge; ++i) {
         coordinates->InsertNextValue(i * spacing);
+    }
     const auto grid = vtkSmartPointer<vtkRectilinearGrid>::New();
     grid->SetDimensions(pointsPerEdge, pointsPerEdge, pointsPerEdge);
     grid->SetXCoordinates(coordinates);

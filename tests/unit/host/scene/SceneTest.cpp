@@ -34,15 +34,18 @@ std::optional<PicturePoint> centerOf(const host::Picture& picture,
                                      const std::function<bool(const Rgb&)>& condition) {
     PicturePoint sum;
     int count = 0;
-    for (int y = 0; y < picture.height; ++y)
-        for (int x = 0; x < picture.width; ++x)
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
             if (condition(pixelAt(picture, x, y))) {
                 sum.x += x + 0.5;
                 sum.y += y + 0.5;
                 ++count;
             }
-    if (count == 0)
+        }
+    }
+    if (count == 0) {
         return std::nullopt;
+    }
     return PicturePoint{sum.x / count, sum.y / count};
 }
 

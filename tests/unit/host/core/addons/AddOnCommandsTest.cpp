@@ -6,7 +6,7 @@
 namespace corvane::host {
 namespace {
 
-TEST(AddOnCommandsTest, FindsCommandsByTheirExactName) {
+TEST(AddOnCommandsTest, findsCommandsByTheirExactName) {
     AddOnCommands commands;
     EXPECT_TRUE(commands.add("Flight", [](const std::string& text) { return text + "!"; }));
     ASSERT_NE(commands.find("Flight"), nullptr);
@@ -15,7 +15,7 @@ TEST(AddOnCommandsTest, FindsCommandsByTheirExactName) {
     EXPECT_EQ(commands.find(""), nullptr);
 }
 
-TEST(AddOnCommandsTest, ANameIsTakenOnce) {
+TEST(AddOnCommandsTest, aNameIsTakenOnce) {
     AddOnCommands commands;
     EXPECT_FALSE(commands.add("", [](const std::string&) { return std::nullopt; }));
     EXPECT_TRUE(commands.add("A", [](const std::string&) { return "first"; }));

@@ -6,7 +6,7 @@
 namespace corvane::host {
 namespace {
 
-TEST(TraceRecordText, ShowsCallResultAndDepth) {
+TEST(TraceRecordText, showsCallResultAndDepth) {
     EXPECT_EQ(toString(TraceRecord{"CorUtilExportStart()", "TRUE", 1}),
               "CorUtilExportStart() = TRUE [1]");
     EXPECT_EQ(toString(TraceRecord{"CorUtilDrawGraphics(FALSE)", "", 0}),

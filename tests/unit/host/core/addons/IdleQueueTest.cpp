@@ -23,7 +23,7 @@ protected:
     std::vector<int> ran;
 };
 
-TEST_F(IdleQueueTest, RunsEachEntryOnceInOrder) {
+TEST_F(IdleQueueTest, runsEachEntryOnceInOrder) {
     queue.add(note(1));
     queue.add(note(2));
     queue.add(note(2));
@@ -34,20 +34,20 @@ TEST_F(IdleQueueTest, RunsEachEntryOnceInOrder) {
     EXPECT_TRUE(queue.isEmpty());
 }
 
-TEST_F(IdleQueueTest, AsksForIdleTimeForEachEntry) {
+TEST_F(IdleQueueTest, asksForIdleTimeForEachEntry) {
     queue.add(note(1));
     queue.add(note(2));
     EXPECT_EQ(timer.requests, 2);
 }
 
-TEST_F(IdleQueueTest, NeedsNoTimer) {
+TEST_F(IdleQueueTest, needsNoTimer) {
     IdleQueue batch(nullptr);
     batch.add(note(1));
     batch.run();
     EXPECT_THAT(ran, ElementsAre(1));
 }
 
-TEST_F(IdleQueueTest, AnEntryAddedWhileRunningRunsTheNextTime) {
+TEST_F(IdleQueueTest, anEntryAddedWhileRunningRunsTheNextTime) {
     queue.add([this] {
         ran.push_back(1);
         queue.add(note(3));
@@ -60,14 +60,14 @@ TEST_F(IdleQueueTest, AnEntryAddedWhileRunningRunsTheNextTime) {
     EXPECT_THAT(ran, ElementsAre(1, 2, 3));
 }
 
-TEST_F(IdleQueueTest, ANestedRunTakesWhatIsLeft) {
+TEST_F(IdleQueueTest, aNestedRunTakesWhatIsLeft) {
     queue.add([this] { queue.run(); });
     queue.add(note(2));
     queue.run();
     EXPECT_THAT(ran, ElementsAre(2));
 }
 
-TEST_F(IdleQueueTest, CloseDropsEverythingForGood) {
+TEST_F(IdleQueueTest, closeDropsEverythingForGood) {
     queue.add(note(1));
     queue.close();
     queue.add(note(2));
@@ -77,14 +77,14 @@ TEST_F(IdleQueueTest, CloseDropsEverythingForGood) {
     EXPECT_EQ(timer.requests, 1);
 }
 
-TEST_F(IdleQueueTest, CloseWhileRunningDropsTheRest) {
+TEST_F(IdleQueueTest, closeWhileRunningDropsTheRest) {
     queue.add([this] { queue.close(); });
     queue.add(note(2));
     queue.run();
     EXPECT_THAT(ran, IsEmpty());
 }
 
-TEST_F(IdleQueueTest, CallsEntriesThroughTheCaller) {
+TEST_F(IdleQueueTest, callsEntriesThroughTheCaller) {
     int calls = 0;
     IdleQueue called(nullptr, [&calls](const std::string&, const std::function<void()>& work) {
         ++calls;

@@ -15,7 +15,7 @@ protected:
     Locks locks;
 };
 
-TEST_F(LocksTest, CountsByOwnerAndInTotal) {
+TEST_F(LocksTest, countsByOwnerAndInTotal) {
     locks.start(&first);
     locks.start(&first);
     locks.start(&second);
@@ -26,7 +26,7 @@ TEST_F(LocksTest, CountsByOwnerAndInTotal) {
     EXPECT_EQ(locks.depthOf(nullptr), 1);
 }
 
-TEST_F(LocksTest, RefusesAFinishWithoutAStartOfThisOwner) {
+TEST_F(LocksTest, refusesAFinishWithoutAStartOfThisOwner) {
     locks.start(&first);
     EXPECT_FALSE(locks.finish(&second));
     EXPECT_FALSE(locks.finish(nullptr));
@@ -37,7 +37,7 @@ TEST_F(LocksTest, RefusesAFinishWithoutAStartOfThisOwner) {
     EXPECT_EQ(locks.depthOf(&first), 0);
 }
 
-TEST_F(LocksTest, RestoresWhatWasHeld) {
+TEST_F(LocksTest, restoresWhatWasHeld) {
     locks.start(&first);
     const Locks::Snapshot before = locks.snapshot();
     locks.start(&first);
@@ -50,7 +50,7 @@ TEST_F(LocksTest, RestoresWhatWasHeld) {
     EXPECT_EQ(locks.depth(), 0);
 }
 
-TEST_F(LocksTest, BalancedLocksLeaveTheSameSnapshot) {
+TEST_F(LocksTest, balancedLocksLeaveTheSameSnapshot) {
     const Locks::Snapshot before = locks.snapshot();
     locks.start(&first);
     EXPECT_NE(locks.snapshot(), before);

@@ -40,7 +40,7 @@ protected:
     Ear second{changes, {}, {}};
 };
 
-TEST_F(StateChangesTest, TellsEveryoneOfEveryChange) {
+TEST_F(StateChangesTest, tellsEveryoneOfEveryChange) {
     changes.addCallback(&tellGlobal);
     changes.addListener(&Ear::listen, &first);
     changes.addListener(&Ear::listen, &second);
@@ -51,7 +51,7 @@ TEST_F(StateChangesTest, TellsEveryoneOfEveryChange) {
     EXPECT_EQ(second.told.size(), 2U);
 }
 
-TEST_F(StateChangesTest, APairCountsOnce) {
+TEST_F(StateChangesTest, aPairCountsOnce) {
     changes.addListener(&Ear::listen, &first);
     changes.addListener(&Ear::listen, &first);
     changes.notify(StateChange_HostQuit);
@@ -62,7 +62,7 @@ TEST_F(StateChangesTest, APairCountsOnce) {
     EXPECT_EQ(first.told.size(), 1U);
 }
 
-TEST_F(StateChangesTest, APairIsFunctionAndData) {
+TEST_F(StateChangesTest, aPairIsFunctionAndData) {
     changes.addListener(&Ear::listen, &first);
     changes.addListener(&Ear::listenToo, &first);
     EXPECT_FALSE(changes.removeListener(&Ear::listen, &second));
@@ -70,7 +70,7 @@ TEST_F(StateChangesTest, APairIsFunctionAndData) {
     EXPECT_EQ(first.told.size(), 2U);
 }
 
-TEST_F(StateChangesTest, AListenerMayRemoveItselfWhileItIsTold) {
+TEST_F(StateChangesTest, aListenerMayRemoveItselfWhileItIsTold) {
     first.removes = {&first};
     changes.addListener(&Ear::listen, &first);
     changes.addListener(&Ear::listen, &second);
@@ -80,7 +80,7 @@ TEST_F(StateChangesTest, AListenerMayRemoveItselfWhileItIsTold) {
     EXPECT_EQ(second.told.size(), 2U);
 }
 
-TEST_F(StateChangesTest, AListenerThatWasRemovedMeanwhileIsNotTold) {
+TEST_F(StateChangesTest, aListenerThatWasRemovedMeanwhileIsNotTold) {
     first.removes = {&second};
     changes.addListener(&Ear::listen, &first);
     changes.addListener(&Ear::listen, &second);
@@ -89,7 +89,7 @@ TEST_F(StateChangesTest, AListenerThatWasRemovedMeanwhileIsNotTold) {
     EXPECT_THAT(second.told, IsEmpty());
 }
 
-TEST_F(StateChangesTest, CallsThroughTheCaller) {
+TEST_F(StateChangesTest, callsThroughTheCaller) {
     int calls = 0;
     StateChanges called([&calls](const std::string&, const std::function<void()>& work) {
         ++calls;

@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 using MacroAddOnCommandsTest = MacroTest;
 
-TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOns) {
+TEST_F(MacroAddOnCommandsTest, runsCommandsOfAddOns) {
     std::vector<std::string> commands;
     session.addOnCommands().add("Key Frames", [&commands](const std::string& command) {
         commands.push_back(command);
@@ -26,7 +26,7 @@ TEST_F(MacroAddOnCommandsTest, RunsCommandsOfAddOns) {
     EXPECT_THAT(commands, ElementsAre("LOAD \"a b\"", ""));
 }
 
-TEST_F(MacroAddOnCommandsTest, CommandsThatFailTellTheirCause) {
+TEST_F(MacroAddOnCommandsTest, commandsThatFailTellTheirCause) {
     session.addOnCommands().add("A", [](const std::string& text) { return "No " + text + "."; });
     EXPECT_EQ(causeOf("$!EXTCOMMAND A \"key frames\""), "No key frames.");
     EXPECT_THAT(causeOf("$!EXTCOMMAND B go"), HasSubstr("There is no add-on \"B\""));
@@ -34,7 +34,7 @@ TEST_F(MacroAddOnCommandsTest, CommandsThatFailTellTheirCause) {
     EXPECT_EQ(causeOf("$!EXTCOMMAND A b c"), "Expected \"add-on\" \"command\".");
 }
 
-TEST_F(MacroAddOnCommandsTest, NoCommandRunsDuringAnAnimation) {
+TEST_F(MacroAddOnCommandsTest, noCommandRunsDuringAnAnimation) {
     int runs = 0;
     session.addOnCommands().add("A", [&runs](const std::string&) {
         ++runs;
@@ -68,17 +68,17 @@ protected:
     test::TempFolder folder;
 };
 
-TEST_F(MacroMovieTest, TheCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
+TEST_F(MacroMovieTest, theCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
     addCommand("Animation canceled.");
     EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
 }
 
-TEST_F(MacroMovieTest, AFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
+TEST_F(MacroMovieTest, aFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
     addCommand(std::nullopt);
     EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
 }
 
-TEST_F(MacroMovieTest, AnOlderFailureIsForgotten) {
+TEST_F(MacroMovieTest, anOlderFailureIsForgotten) {
     session.exporter().start();
     session.exporter().nextFrame();
     session.exporter().cancel();
@@ -88,7 +88,7 @@ TEST_F(MacroMovieTest, AnOlderFailureIsForgotten) {
     EXPECT_FALSE(session.exporter().hasFailed());
 }
 
-TEST_F(MacroMovieTest, NoCommandRunsWhileAMovieIsRecorded) {
+TEST_F(MacroMovieTest, noCommandRunsWhileAMovieIsRecorded) {
     addCommand(std::nullopt);
     ASSERT_TRUE(session.exporter().start());
     EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "An animation is running.");

@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 using MacroPlayerTest = MacroTest;
 
-TEST_F(MacroPlayerTest, IncludesOtherMacrosInTheirFolders) {
+TEST_F(MacroPlayerTest, includesOtherMacrosInTheirFolders) {
     const test::TempFolder folder;
     std::filesystem::create_directory(folder.file("parts"));
     const std::string inner = folder.write("parts/data.mcr", "$!READDATA x.vtu\n$!BAD\n");
@@ -34,7 +34,7 @@ TEST_F(MacroPlayerTest, IncludesOtherMacrosInTheirFolders) {
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.file("parts/x.vtu"))));
 }
 
-TEST_F(MacroPlayerTest, AMacroThatIncludesItselfEnds) {
+TEST_F(MacroPlayerTest, aMacroThatIncludesItselfEnds) {
     const test::TempFolder folder;
     const std::string file = folder.write("loop.mcr", "$!INCLUDE loop.mcr\n");
     try {
@@ -47,7 +47,7 @@ TEST_F(MacroPlayerTest, AMacroThatIncludesItselfEnds) {
     EXPECT_FALSE(program.macros().isPlaying());
 }
 
-TEST_F(MacroPlayerTest, ReplacesVariables) {
+TEST_F(MacroPlayerTest, replacesVariables) {
     program.macros().variables().set("CASE", "wake b");
     play("$!SET CASE = other\n$!SET STEP = 4\n"
          "$!READDATA \"${CASE}_${STEP}.vtu\"\n$!STYLE Annotations/Title = \"$${CASE} $5 {x}\"\n");
@@ -59,7 +59,7 @@ TEST_F(MacroPlayerTest, ReplacesVariables) {
     EXPECT_EQ(causeOf("$!SET X"), "Expected name = value.");
 }
 
-TEST_F(MacroPlayerTest, AMacroKnowsItsFolder) {
+TEST_F(MacroPlayerTest, aMacroKnowsItsFolder) {
     const test::TempFolder folder;
     std::filesystem::create_directory(folder.file("parts"));
     folder.write("parts/title.mcr", "$!STYLE Annotations/Title = \"${MACRO_FOLDER}\"\n");
@@ -70,7 +70,7 @@ TEST_F(MacroPlayerTest, AMacroKnowsItsFolder) {
     EXPECT_EQ(frame().style.annotations.title, folder.file("parts"));
 }
 
-TEST_F(MacroPlayerTest, RecordsWhatIsPerformedAndSucceeds) {
+TEST_F(MacroPlayerTest, recordsWhatIsPerformedAndSucceeds) {
     program.recorder().start();
     program.perform("READDATA", {"/there/a ${b}.vtu"});
     program.perform("STYLE", {"Slice/1/Show", "=", "true"});
@@ -82,7 +82,7 @@ TEST_F(MacroPlayerTest, RecordsWhatIsPerformedAndSucceeds) {
     EXPECT_EQ(host.reader.calls.back(), host.reader.calls.front());
 }
 
-TEST_F(MacroPlayerTest, RecordsAMacroThatIsPlayedLineByLine) {
+TEST_F(MacroPlayerTest, recordsAMacroThatIsPlayedLineByLine) {
     const test::TempFolder folder;
     const std::string inner = folder.write("inner.mcr", "$!STYLE Slice/1/Show = ${SHOW}\n");
     session.addOnCommands().add("A", [this](const std::string& command) {
@@ -97,7 +97,7 @@ TEST_F(MacroPlayerTest, RecordsAMacroThatIsPlayedLineByLine) {
                             "$!EXTCOMMAND \"A\" \"go true\""));
 }
 
-TEST_F(MacroPlayerTest, AMacroFileIsWrittenWholeOrNotAtAll) {
+TEST_F(MacroPlayerTest, aMacroFileIsWrittenWholeOrNotAtAll) {
     const test::TempFolder folder;
     writeMacro({"$!REDRAW", "$!VIEW FIT"}, folder.file("a.mcr"));
     EXPECT_EQ(folder.read("a.mcr"), "$!REDRAW\n$!VIEW FIT\n");
@@ -105,7 +105,7 @@ TEST_F(MacroPlayerTest, AMacroFileIsWrittenWholeOrNotAtAll) {
     EXPECT_THAT(folder.names(), ElementsAre("a.mcr"));
 }
 
-TEST_F(MacroPlayerTest, FilesThatMayHaveNoEndAreRefused) {
+TEST_F(MacroPlayerTest, filesThatMayHaveNoEndAreRefused) {
     for (const char* file : {"/dev/zero", "/dev/null"}) {
         EXPECT_EQ(causeOf(std::string("$!INCLUDE ") + file),
                   std::string("Cannot open the macro file ") + file +
@@ -113,7 +113,7 @@ TEST_F(MacroPlayerTest, FilesThatMayHaveNoEndAreRefused) {
     }
 }
 
-TEST_F(MacroPlayerTest, TakesMacrosFromElsewhere) {
+TEST_F(MacroPlayerTest, takesMacrosFromElsewhere) {
     program.macros().openWith([](const std::string& name) {
         return std::make_unique<std::istringstream>("$!READDATA " + name + ".vtu\n");
     });
@@ -121,14 +121,14 @@ TEST_F(MacroPlayerTest, TakesMacrosFromElsewhere) {
     EXPECT_EQ(host.reader.calls.back(), std::vector<std::string>{"any.vtu"});
 }
 
-TEST_F(MacroPlayerTest, StopsBetweenLines) {
+TEST_F(MacroPlayerTest, stopsBetweenLines) {
     int asked = 0;
     program.macros().stopWhen([&asked] { return ++asked == 2; });
     EXPECT_EQ(causeOf("$!READDATA x\n$!READDATA y\n"), "The macro was stopped.");
     EXPECT_EQ(host.reader.calls.size(), 1U);
 }
 
-TEST_F(MacroPlayerTest, VariablesThatHoldEachOtherStayWithinALine) {
+TEST_F(MacroPlayerTest, variablesThatHoldEachOtherStayWithinALine) {
     std::string macro = "$!SET A = xxxxxxxx\n";
     for (int i = 0; i < 16; ++i) {
         macro += "$!SET A = ${A}${A}\n";
@@ -140,7 +140,7 @@ TEST_F(MacroPlayerTest, VariablesThatHoldEachOtherStayWithinALine) {
     EXPECT_EQ(host.reader.calls.size(), 1U);
 }
 
-TEST_F(MacroPlayerTest, RecordsNamesThatHoldInEveryFolder) {
+TEST_F(MacroPlayerTest, recordsNamesThatHoldInEveryFolder) {
     const test::TempFolder folder;
     folder.write("scene.mcr", "$!READDATA x\n$!EXPORTSETUP exportfname = sub/../a.mp4\n"
                               "$!STYLE Annotations/Title = \"${MACRO_FOLDER}\"\n"
@@ -158,11 +158,11 @@ TEST_F(MacroPlayerTest, RecordsNamesThatHoldInEveryFolder) {
     EXPECT_EQ(session.exportSetup().fileName, "sub/../a.mp4");
 }
 
-TEST_F(MacroPlayerTest, UnknownCommandsAreErrors) {
+TEST_F(MacroPlayerTest, unknownCommandsAreErrors) {
     EXPECT_EQ(causeOf("$!FLY 1"), "There is no command FLY.");
 }
 
-TEST_F(MacroPlayerTest, AFailingLineStopsAndKeepsWhatWasDone) {
+TEST_F(MacroPlayerTest, aFailingLineStopsAndKeepsWhatWasDone) {
     try {
         play("$!EXPORTSETUP ImageWidth = 64\n\n$!BAD\n$!EXPORTSETUP ImageWidth = 128\n");
         FAIL();
@@ -173,7 +173,7 @@ TEST_F(MacroPlayerTest, AFailingLineStopsAndKeepsWhatWasDone) {
     EXPECT_FALSE(program.macros().isPlaying());
 }
 
-TEST_F(MacroPlayerTest, TellsThatItPlays) {
+TEST_F(MacroPlayerTest, tellsThatItPlays) {
     bool playing = false;
     session.addOnCommands().add("A", [this, &playing](const std::string&) {
         playing = program.macros().isPlaying();
@@ -185,7 +185,7 @@ TEST_F(MacroPlayerTest, TellsThatItPlays) {
     EXPECT_FALSE(program.macros().isPlaying());
 }
 
-TEST_F(MacroPlayerTest, PlaysFilesInTheirFolder) {
+TEST_F(MacroPlayerTest, playsFilesInTheirFolder) {
     const test::TempFolder folder;
     const std::string file = folder.write("scene.macro", "$!READDATA data/x.vtu\n$!BAD\n");
     try {
@@ -197,7 +197,7 @@ TEST_F(MacroPlayerTest, PlaysFilesInTheirFolder) {
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.file("data/x.vtu"))));
 }
 
-TEST_F(MacroPlayerTest, AFileOfTheCurrentFolderNeedsNoPath) {
+TEST_F(MacroPlayerTest, aFileOfTheCurrentFolderNeedsNoPath) {
     const test::TempFolder folder;
     folder.write("scene.macro", "$!READDATA x.vtu\n");
     const std::filesystem::path before = std::filesystem::current_path();
@@ -207,7 +207,7 @@ TEST_F(MacroPlayerTest, AFileOfTheCurrentFolderNeedsNoPath) {
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("x.vtu")));
 }
 
-TEST_F(MacroPlayerTest, FilesThatCannotBeOpenedAreNamed) {
+TEST_F(MacroPlayerTest, filesThatCannotBeOpenedAreNamed) {
     const test::TempFolder folder;
     for (const std::string& file : {folder.file("missing.macro"), folder.path().string()}) {
         try {
@@ -219,7 +219,7 @@ TEST_F(MacroPlayerTest, FilesThatCannotBeOpenedAreNamed) {
     }
 }
 
-TEST_F(MacroPlayerTest, ASingleCommandCanBeRun) {
+TEST_F(MacroPlayerTest, aSingleCommandCanBeRun) {
     program.macros().run("EXPORTSETUP", {"ImageWidth", "=", "77"});
     EXPECT_EQ(session.exportSetup().imageWidth, 77);
     program.macros().run("readdata", {"x.vtu"}, "/there");
@@ -230,7 +230,7 @@ TEST_F(MacroPlayerTest, ASingleCommandCanBeRun) {
     EXPECT_THROW(program.macros().run("READDATA", {"y"}), HostError);
 }
 
-TEST_F(MacroPlayerTest, TheLanguageIsDescribedInFull) {
+TEST_F(MacroPlayerTest, theLanguageIsDescribedInFull) {
     std::vector<std::string> names;
     for (const MacroCommand& command : macroCommands()) {
         names.push_back(command.name);

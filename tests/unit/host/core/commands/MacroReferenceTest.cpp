@@ -2,6 +2,7 @@
 #include "host/core/commands/MacroReference.h"
 
 #include "host/core/commands/MacroCommands.h"
+#include "tests/support/Folders.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +15,7 @@ namespace {
 
 using testing::HasSubstr;
 
-TEST(MacroReference, NamesAllCommandsAndValues) {
+TEST(MacroReference, namesAllCommandsAndValues) {
     const std::string text = macroReference();
     for (const MacroCommand& command : macroCommands()) {
         EXPECT_THAT(text, HasSubstr("\n## " + command.name + "\n")) << command.name;
@@ -27,8 +28,8 @@ TEST(MacroReference, NamesAllCommandsAndValues) {
     EXPECT_THAT(text, testing::Not(HasSubstr("Slice/2")));
 }
 
-TEST(MacroReference, StandsInTheDocumentation) {
-    std::ifstream page(CORVANE_SOURCE_DIR "/docs/macros.md");
+TEST(MacroReference, standsInTheDocumentation) {
+    std::ifstream page(test::sourceFile("docs/macros.md"));
     const std::string text{std::istreambuf_iterator<char>(page), {}};
     EXPECT_EQ(text, macroReference())
         << "Make the page again: build/release/bin/corvane --macro-reference > docs/macros.md";

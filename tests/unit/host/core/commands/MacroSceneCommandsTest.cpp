@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 using MacroSceneCommandsTest = MacroTest;
 
-TEST_F(MacroSceneCommandsTest, SizesTheWorkArea) {
+TEST_F(MacroSceneCommandsTest, sizesTheWorkArea) {
     play("$!READDATA x\n$!WORKAREA Width = 1000 Height = 500\n");
     EXPECT_EQ(session.page().workArea, (WorkArea{1000, 500, 125.0}));
     EXPECT_EQ(frame().placement, (Placement{0, 0, 8, 4}));
@@ -24,14 +24,14 @@ TEST_F(MacroSceneCommandsTest, SizesTheWorkArea) {
     EXPECT_TRUE(session.drawing().isMarked());
 }
 
-TEST_F(MacroSceneCommandsTest, ASizeThatTheUserGaveShowsAsMuchPaper) {
+TEST_F(MacroSceneCommandsTest, aSizeThatTheUserGaveShowsAsMuchPaper) {
     session.page().workArea = {320, 200, 40.0};
     program.macros().keepPictureSize();
     play("$!WORKAREA Width = 1000 Height = 500 PixelsPerInch = 50\n");
     EXPECT_EQ(session.page().workArea, (WorkArea{320, 200, 16.0}));
 }
 
-TEST_F(MacroSceneCommandsTest, RefusesWorkAreasThatCannotBe) {
+TEST_F(MacroSceneCommandsTest, refusesWorkAreasThatCannotBe) {
     const WorkArea before = session.page().workArea;
     for (const char* line : {"$!WORKAREA", "$!WORKAREA Width = 100", "$!WORKAREA Height = 100",
                              "$!WORKAREA 100 x 100"}) {
@@ -47,20 +47,20 @@ TEST_F(MacroSceneCommandsTest, RefusesWorkAreasThatCannotBe) {
     EXPECT_EQ(session.page().workArea, before);
 }
 
-TEST_F(MacroSceneCommandsTest, ReadsDataRelativeToTheMacro) {
+TEST_F(MacroSceneCommandsTest, readsDataRelativeToTheMacro) {
     play("$!READDATA \"wake.pvd\" \"/other/hull.vtp\" \"sub/a b.vtu\"");
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake.pvd", "/other/hull.vtp",
                                                            "/scenes/sub/a b.vtu")));
     EXPECT_NE(frame().data(), nullptr);
 }
 
-TEST_F(MacroSceneCommandsTest, DataThatCannotBeReadStopTheMacro) {
+TEST_F(MacroSceneCommandsTest, dataThatCannotBeReadStopTheMacro) {
     host.reader.failure = "Cannot read wake.pvd: it is empty.";
     EXPECT_EQ(causeOf("$!READDATA wake.pvd\n"), "Cannot read wake.pvd: it is empty.");
     EXPECT_THAT(causeOf("$!READDATA\n"), HasSubstr("one or more file names"));
 }
 
-TEST_F(MacroSceneCommandsTest, SetsStylesByTheirType) {
+TEST_F(MacroSceneCommandsTest, setsStylesByTheirType) {
     play("$!READDATA x\n"
          "$!STYLE Slice/2/Show = TRUE\n"
          "$!STYLE Slice/2/Axis = 1\n"
@@ -78,7 +78,7 @@ TEST_F(MacroSceneCommandsTest, SetsStylesByTheirType) {
     EXPECT_EQ(value, StyleInput(0L));
 }
 
-TEST_F(MacroSceneCommandsTest, ReadsNumbersTheSameWayInEveryCountry) {
+TEST_F(MacroSceneCommandsTest, readsNumbersTheSameWayInEveryCountry) {
     const std::string before = std::setlocale(LC_NUMERIC, nullptr);
     std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // where it is installed
     play("$!READDATA x\n$!STYLE Slice/1/Position = 0.25\n$!EXPORTSETUP AnimationSpeed = 12.5\n");
@@ -87,7 +87,7 @@ TEST_F(MacroSceneCommandsTest, ReadsNumbersTheSameWayInEveryCountry) {
     EXPECT_EQ(session.exportSetup().animationSpeed, 12.5);
 }
 
-TEST_F(MacroSceneCommandsTest, StylesThatCannotBeSetNameTheirPath) {
+TEST_F(MacroSceneCommandsTest, stylesThatCannotBeSetNameTheirPath) {
     play("$!READDATA x\n");
     EXPECT_EQ(causeOf("$!STYLE Slice/9/Show = true"), "There is no value Slice/9/Show.");
     EXPECT_EQ(causeOf("$!STYLE Slice/1/Show = yes"), "\"yes\" is neither true nor false.");
@@ -104,7 +104,7 @@ TEST_F(MacroSceneCommandsTest, StylesThatCannotBeSetNameTheirPath) {
     }
 }
 
-TEST_F(MacroSceneCommandsTest, StylesThatCannotBeSetNowTellWhatTheyNeed) {
+TEST_F(MacroSceneCommandsTest, stylesThatCannotBeSetNowTellWhatTheyNeed) {
     host.reader.data->variables = {{"p", 1, 0.0, 1.0}};
     play("$!READDATA x\n");
     EXPECT_EQ(causeOf("$!STYLE Streamtraces/Show = true"),
@@ -114,11 +114,11 @@ TEST_F(MacroSceneCommandsTest, StylesThatCannotBeSetNowTellWhatTheyNeed) {
               "ThreeDView/ViewWidth cannot be set now. Switch perspective off first.");
 }
 
-TEST_F(MacroSceneCommandsTest, StylesOfAFrameNeedOne) {
+TEST_F(MacroSceneCommandsTest, stylesOfAFrameNeedOne) {
     EXPECT_THAT(causeOf("$!STYLE Slice/1/Show = true"), HasSubstr("Slice/1/Show"));
 }
 
-TEST_F(MacroSceneCommandsTest, SetsThePlotType) {
+TEST_F(MacroSceneCommandsTest, setsThePlotType) {
     play("$!READDATA x\n$!PLOTTYPE = cartesian2d\n");
     EXPECT_EQ(frame().plotType, PlotType_Cartesian2D);
     play("$!PLOTTYPE = CARTESIAN3D\n");
@@ -129,7 +129,7 @@ TEST_F(MacroSceneCommandsTest, SetsThePlotType) {
     EXPECT_EQ(causeOf("$!PLOTTYPE = CARTESIAN3D"), "There is no frame.");
 }
 
-TEST_F(MacroSceneCommandsTest, FitsTheView) {
+TEST_F(MacroSceneCommandsTest, fitsTheView) {
     play("$!READDATA x\n");
     const View3D fitted = frame().view;
     frame().view.position = {};
@@ -141,7 +141,7 @@ TEST_F(MacroSceneCommandsTest, FitsTheView) {
     EXPECT_THAT(causeOf("$!VIEW FIT"), HasSubstr("no 3D data"));
 }
 
-TEST_F(MacroSceneCommandsTest, LooksFromTheEndsOfTheAxes) {
+TEST_F(MacroSceneCommandsTest, looksFromTheEndsOfTheAxes) {
     play("$!READDATA x\n");
     const std::vector<std::pair<std::string, Vec3>> towards{{"+X", {1, 0, 0}}, {"-X", {-1, 0, 0}},
                                                             {"+y", {0, 1, 0}}, {"-Y", {0, -1, 0}},
@@ -161,7 +161,7 @@ TEST_F(MacroSceneCommandsTest, LooksFromTheEndsOfTheAxes) {
     EXPECT_EQ(causeOf("$!VIEW AXIS +X"), "Expected AXIS = axis.");
 }
 
-TEST_F(MacroSceneCommandsTest, SetsAViewAsAWholeOrNotAtAll) {
+TEST_F(MacroSceneCommandsTest, setsAViewAsAWholeOrNotAtAll) {
     play("$!READDATA x\n");
     play("$!VIEW SET Psi = 10 Theta=20 Alpha = -30 X = 1 Y = 2 Z = 3 originx = 4 OriginY = 5 "
          "OriginZ = 6 Perspective = false Width = 7.5 FieldOfView = 40 Perspective = true\n");
@@ -186,7 +186,7 @@ TEST_F(MacroSceneCommandsTest, SetsAViewAsAWholeOrNotAtAll) {
     EXPECT_EQ(causeOf("$!VIEW SET Psi = 1"), "There is no 3D frame that has a view.");
 }
 
-TEST_F(MacroSceneCommandsTest, MakesAndArrangesFrames) {
+TEST_F(MacroSceneCommandsTest, makesAndArrangesFrames) {
     play("$!FRAME CREATE\n$!FRAME CREATE X = 4 y = 1 Width = 2 Height = 3\n");
     ASSERT_EQ(session.page().frames().size(), 2U);
     EXPECT_EQ(frame().id(), 2);
@@ -207,7 +207,7 @@ TEST_F(MacroSceneCommandsTest, MakesAndArrangesFrames) {
     EXPECT_EQ(causeOf("$!FRAME DELETE"), "There is no frame.");
 }
 
-TEST_F(MacroSceneCommandsTest, FramesThatCannotBeAreRefused) {
+TEST_F(MacroSceneCommandsTest, framesThatCannotBeAreRefused) {
     play("$!FRAME CREATE\n");
     EXPECT_EQ(causeOf("$!FRAME CREATE Width = 0"), "Width cannot be \"0\".");
     EXPECT_EQ(causeOf("$!FRAME PLACE X = nan"), "X cannot be \"nan\".");
@@ -222,7 +222,7 @@ TEST_F(MacroSceneCommandsTest, FramesThatCannotBeAreRefused) {
     EXPECT_EQ(session.page().frames().size(), 1U);
 }
 
-TEST_F(MacroSceneCommandsTest, WritesPictures) {
+TEST_F(MacroSceneCommandsTest, writesPictures) {
     const test::TempFolder folder;
     const std::string file = folder.file("a b.png");
     play("$!READDATA x\n$!PICTURE " + quoted(file) + " Width = 320 Supersample = 2\n");
@@ -240,7 +240,7 @@ TEST_F(MacroSceneCommandsTest, WritesPictures) {
     EXPECT_THAT(folder.names(), ElementsAre("a b.png"));
 }
 
-TEST_F(MacroSceneCommandsTest, SetsTheSolutionTime) {
+TEST_F(MacroSceneCommandsTest, setsTheSolutionTime) {
     play("$!READDATA x\n$!SOLUTIONTIME = 0.125\n");
     EXPECT_EQ(frame().solutionTime, 0.125);
     EXPECT_THAT(causeOf("$!SOLUTIONTIME = inf"), HasSubstr("not finite"));
@@ -249,13 +249,13 @@ TEST_F(MacroSceneCommandsTest, SetsTheSolutionTime) {
     EXPECT_EQ(frame().solutionTime, 0.125);
 }
 
-TEST_F(MacroSceneCommandsTest, Redraws) {
+TEST_F(MacroSceneCommandsTest, redraws) {
     play("$!REDRAW\n");
     EXPECT_THAT(host.screen.presented, ElementsAre(true));
     EXPECT_THAT(causeOf("$!REDRAW now"), HasSubstr("nothing"));
 }
 
-TEST_F(MacroSceneCommandsTest, SetsUpExports) {
+TEST_F(MacroSceneCommandsTest, setsUpExports) {
     play("$!EXPORTSETUP ExportFormat = MPEG4\n"
          "$!EXPORTSETUP exportregion = WORKAREA\n"
          "$!EXPORTSETUP ImageWidth = 640\n"

@@ -39,11 +39,11 @@ protected:
     fakes::FakeHost after;
 };
 
-TEST_F(SceneMacroTest, NothingIsNoLines) {
+TEST_F(SceneMacroTest, nothingIsNoLines) {
     EXPECT_TRUE(sceneMacro(before.session).empty());
 }
 
-TEST_F(SceneMacroTest, BringsBackDataStylesViewAndTime) {
+TEST_F(SceneMacroTest, bringsBackDataStylesViewAndTime) {
     Host& program = before.program;
     program.perform("READDATA", {"/there/a ${b}.vtu"});
     program.perform("STYLE", {"Slice/2/Show", "=", "true"});
@@ -65,14 +65,14 @@ TEST_F(SceneMacroTest, BringsBackDataStylesViewAndTime) {
     EXPECT_THAT(after.reader.calls, ElementsAre(ElementsAre("/there/a ${b}.vtu")));
 }
 
-TEST_F(SceneMacroTest, WritesNoValueThatComesWithTheData) {
+TEST_F(SceneMacroTest, writesNoValueThatComesWithTheData) {
     before.program.perform("READDATA", {"/there/x.vtu"});
     for (const std::string& line : sceneMacro(before.session)) {
         EXPECT_THAT(line, testing::Not(HasSubstr("$!STYLE")));
     }
 }
 
-TEST_F(SceneMacroTest, BringsBackThePage) {
+TEST_F(SceneMacroTest, bringsBackThePage) {
     before.program.perform("FRAME", {"CREATE", "X", "=", "1", "Width", "=", "3"});
     before.program.perform("READDATA", {"/there/x.vtu"});
     before.program.perform("FRAME", {"CREATE", "X", "=", "4", "Width", "=", "2"});
@@ -87,7 +87,7 @@ TEST_F(SceneMacroTest, BringsBackThePage) {
     EXPECT_EQ(after.session.page().active(), frames[1].get());
 }
 
-TEST_F(SceneMacroTest, BringsBackTheWorkArea) {
+TEST_F(SceneMacroTest, bringsBackTheWorkArea) {
     before.program.perform("WORKAREA", {"Width", "=", "900", "Height", "=", "700"});
     before.program.perform("READDATA", {"/there/x.vtu"});
     replay();
@@ -95,7 +95,7 @@ TEST_F(SceneMacroTest, BringsBackTheWorkArea) {
     EXPECT_TRUE(after.session.page().isFilledByOneFrame());
 }
 
-TEST_F(SceneMacroTest, AFrameThatFillsTheWorkAreaFillsAnotherOneToo) {
+TEST_F(SceneMacroTest, aFrameThatFillsTheWorkAreaFillsAnotherOneToo) {
     before.program.perform("WORKAREA", {"Width", "=", "900", "Height", "=", "700"});
     before.program.perform("READDATA", {"/there/x.vtu"});
     after.session.page().workArea = {300, 100, 300 / paperWidthInches};
@@ -105,14 +105,14 @@ TEST_F(SceneMacroTest, AFrameThatFillsTheWorkAreaFillsAnotherOneToo) {
     EXPECT_TRUE(after.session.page().isFilledByOneFrame());
 }
 
-TEST_F(SceneMacroTest, NamesTheMovieAbsolutely) {
+TEST_F(SceneMacroTest, namesTheMovieAbsolutely) {
     before.session.exportSetup().fileName = "flight.mp4";
     const std::vector<std::string> lines = sceneMacro(before.session);
     const std::string name = (std::filesystem::current_path() / "flight.mp4").string();
     EXPECT_THAT(lines, testing::Contains(macroLine("EXPORTSETUP", {"ExportFName", "=", name})));
 }
 
-TEST_F(SceneMacroTest, BringsBackTheNumbersOfFramesAndTheirStack) {
+TEST_F(SceneMacroTest, bringsBackTheNumbersOfFramesAndTheirStack) {
     for (const char* x : {"0", "1", "2", "3", "4"}) {
         before.program.perform("FRAME", {"CREATE", "X", "=", x});
     }

@@ -31,7 +31,7 @@ private:
     std::size_t m_scene = 0;
 };
 
-TEST_F(SceneFollowerTest, NothingThatCommandsDidIsRecordedTwice) {
+TEST_F(SceneFollowerTest, nothingThatCommandsDidIsRecordedTwice) {
     program.perform("VIEW", {"FIT"});
     program.perform("VIEW", {"AXIS", "=", "+X"});
     program.perform("SOLUTIONTIME", {"=", "2"});
@@ -43,7 +43,7 @@ TEST_F(SceneFollowerTest, NothingThatCommandsDidIsRecordedTwice) {
                                         HasSubstr("$!READDATA"), "$!FRAME CREATE"));
 }
 
-TEST_F(SceneFollowerTest, ViewsAndTimesThatWereSetOtherwiseComeBeforeTheNextCommand) {
+TEST_F(SceneFollowerTest, viewsAndTimesThatWereSetOtherwiseComeBeforeTheNextCommand) {
     session.rotateView(RotateAxis_Psi, 10.0);
     session.rotateView(RotateAxis_Psi, 10.0);
     session.setSolutionTime(3.5);
@@ -52,7 +52,7 @@ TEST_F(SceneFollowerTest, ViewsAndTimesThatWereSetOtherwiseComeBeforeTheNextComm
                                         "$!STYLE Slice/1/Show = false"));
 }
 
-TEST_F(SceneFollowerTest, ViewsBelongToTheFrameThatWasActive) {
+TEST_F(SceneFollowerTest, viewsBelongToTheFrameThatWasActive) {
     program.perform("FRAME", {"CREATE"});
     session.activateFrame(1);
     program.macros().uncommanded().remember();
@@ -62,7 +62,7 @@ TEST_F(SceneFollowerTest, ViewsBelongToTheFrameThatWasActive) {
                 ElementsAre("$!FRAME CREATE", HasSubstr("$!VIEW SET"), "$!FRAME ACTIVATE = 2"));
 }
 
-TEST_F(SceneFollowerTest, TheLastViewIsThereAtTheEnd) {
+TEST_F(SceneFollowerTest, theLastViewIsThereAtTheEnd) {
     session.rotateView(RotateAxis_Alpha, 5.0);
     EXPECT_THAT(program.recorder().stop().back(), HasSubstr("Alpha = 5 "));
     session.rotateView(RotateAxis_Alpha, 5.0);
@@ -70,14 +70,14 @@ TEST_F(SceneFollowerTest, TheLastViewIsThereAtTheEnd) {
     EXPECT_THAT(program.recorder().stop(), IsEmpty());
 }
 
-TEST_F(SceneFollowerTest, AWorkAreaThatWasResizedIsRecordedOnce) {
+TEST_F(SceneFollowerTest, aWorkAreaThatWasResizedIsRecordedOnce) {
     session.page().resizeWorkArea({500, 400, 62.5});
     program.macros().uncommanded().catchUp();
     session.page().resizeWorkArea({600, 400, 70.0});
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 600 Height = 400 PixelsPerInch = 70"));
 }
 
-TEST_F(SceneFollowerTest, ASizeThatTheUserChoseIsNotThatOfAMacro) {
+TEST_F(SceneFollowerTest, aSizeThatTheUserChoseIsNotThatOfAMacro) {
     program.macros().keepPictureSize();
     session.page().resizeWorkArea({640, 360, 80.0});
     program.perform("WORKAREA",
@@ -85,7 +85,7 @@ TEST_F(SceneFollowerTest, ASizeThatTheUserChoseIsNotThatOfAMacro) {
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 640 Height = 360"));
 }
 
-TEST_F(SceneFollowerTest, ACommandThatAnAddOnDoesNotRecordLeavesItsView) {
+TEST_F(SceneFollowerTest, aCommandThatAnAddOnDoesNotRecordLeavesItsView) {
     bool isRecorded = false;
     session.addOnCommands().add("Turn", [&](const std::string& command) {
         session.rotateView(RotateAxis_Psi, 10.0);
@@ -101,7 +101,7 @@ TEST_F(SceneFollowerTest, ACommandThatAnAddOnDoesNotRecordLeavesItsView) {
     EXPECT_THAT(recorded().back(), HasSubstr("loudly"));
 }
 
-TEST_F(SceneFollowerTest, WhatAFlightLeadsToIsKnownByItsCommand) {
+TEST_F(SceneFollowerTest, whatAFlightLeadsToIsKnownByItsCommand) {
     session.status().start("Flying", true, true);
     session.rotateView(RotateAxis_Psi, 10.0);
     program.recorder().recordAddOnCommand("Flights", "Fly");
@@ -109,7 +109,7 @@ TEST_F(SceneFollowerTest, WhatAFlightLeadsToIsKnownByItsCommand) {
     EXPECT_THAT(recorded(), ElementsAre(R"($!EXTCOMMAND "Flights" "Fly")"));
 }
 
-TEST_F(SceneFollowerTest, AFlightWithoutACommandLeavesItsView) {
+TEST_F(SceneFollowerTest, aFlightWithoutACommandLeavesItsView) {
     session.status().start("Flying", true, true);
     session.rotateView(RotateAxis_Psi, 10.0);
     EXPECT_THAT(recorded(), IsEmpty());

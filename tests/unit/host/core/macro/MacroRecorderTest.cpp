@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(MacroRecorderTest, KeepsLinesInOrderWhileItIsOn) {
+TEST(MacroRecorderTest, keepsLinesInOrderWhileItIsOn) {
     MacroRecorder recorder;
     recorder.start();
     EXPECT_TRUE(recorder.isRecording());
@@ -22,7 +22,7 @@ TEST(MacroRecorderTest, KeepsLinesInOrderWhileItIsOn) {
     EXPECT_THAT(recorder.lines(), IsEmpty());
 }
 
-TEST(MacroRecorderTest, KeepsNothingWhileItIsOff) {
+TEST(MacroRecorderTest, keepsNothingWhileItIsOff) {
     MacroRecorder recorder;
     EXPECT_FALSE(recorder.recordRaw("$!REDRAW"));
     EXPECT_FALSE(recorder.recordAddOnCommand("A", "B"));
@@ -30,7 +30,7 @@ TEST(MacroRecorderTest, KeepsNothingWhileItIsOff) {
     EXPECT_THAT(recorder.stop(), IsEmpty());
 }
 
-TEST(MacroRecorderTest, StartsWithAnEmptyPage) {
+TEST(MacroRecorderTest, startsWithAnEmptyPage) {
     MacroRecorder recorder;
     recorder.start();
     recorder.recordRaw("old");
@@ -39,7 +39,7 @@ TEST(MacroRecorderTest, StartsWithAnEmptyPage) {
     EXPECT_THAT(recorder.lines(), ElementsAre("new"));
 }
 
-TEST(MacroRecorderTest, KeepsTheLastOfSeveralStatesOfOneThing) {
+TEST(MacroRecorderTest, keepsTheLastOfSeveralStatesOfOneThing) {
     MacroRecorder recorder;
     recorder.start();
     recorder.recordState("$!VIEW SET Psi = 1");
@@ -50,7 +50,7 @@ TEST(MacroRecorderTest, KeepsTheLastOfSeveralStatesOfOneThing) {
                 ElementsAre("$!VIEW SET Psi = 2", "$!SOLUTIONTIME = 3", "$!VIEW SET Psi = 4"));
 }
 
-TEST(MacroRecorderTest, AStateTakesNoCommandsPlace) {
+TEST(MacroRecorderTest, aStateTakesNoCommandsPlace) {
     MacroRecorder recorder;
     recorder.recordState("$!VIEW SET Psi = 0"); // nothing is being recorded
     recorder.start();

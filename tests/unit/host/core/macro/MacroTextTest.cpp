@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-TEST(SplitWords, SplitsAtBlanksAndEqualSigns) {
+TEST(SplitWords, splitsAtBlanksAndEqualSigns) {
     EXPECT_THAT(splitWords("Slice/1/Position = 0.5"), ElementsAre("Slice/1/Position", "=", "0.5"));
     EXPECT_THAT(splitWords("a=b"), ElementsAre("a", "=", "b"));
     EXPECT_THAT(splitWords("\t a  \t b "), ElementsAre("a", "b"));
@@ -25,26 +25,26 @@ TEST(SplitWords, SplitsAtBlanksAndEqualSigns) {
     EXPECT_THAT(splitWords(" \t "), IsEmpty());
 }
 
-TEST(SplitWords, TakesQuotedWordsAsTheyAre) {
+TEST(SplitWords, takesQuotedWordsAsTheyAre) {
     EXPECT_THAT(splitWords(R"("a b" "" "c=d" "#")"), ElementsAre("a b", "", "c=d", "#"));
     EXPECT_THAT(splitWords(R"(x="a \"b\" \\ \n")"), ElementsAre("x", "=", "a \"b\" \\ \n"));
     EXPECT_THAT(splitWords(R"("a"=1)"), ElementsAre("a", "=", "1"));
     EXPECT_THAT(splitWords(R"(C:\data\x)"), ElementsAre(R"(C:\data\x)"));
 }
 
-TEST(SplitWords, RefusesQuotesThatDoNotFit) {
+TEST(SplitWords, refusesQuotesThatDoNotFit) {
     for (const char* text : {R"(")", R"("abc)", R"("abc\")", R"("a\)", R"("a\t")", R"(a"b")",
                              R"("a"b)", R"("a""b")"}) {
         EXPECT_THROW(splitWords(text), HostError) << text;
     }
 }
 
-TEST(Quoted, EscapesWhatWouldEndTheWordOrTheLine) {
+TEST(Quoted, escapesWhatWouldEndTheWordOrTheLine) {
     EXPECT_EQ(quoted(""), R"("")");
     EXPECT_EQ(quoted("a \"b\" \\ c\nd"), R"("a \"b\" \\ c\nd")");
 }
 
-TEST(Quoted, SurvivesTheWayThroughAFileWithAnyByte) {
+TEST(Quoted, survivesTheWayThroughAFileWithAnyByte) {
     std::string text;
     for (int c = 1; c < 256; ++c) {
         text += static_cast<char>(c);
@@ -61,7 +61,7 @@ TEST(Quoted, SurvivesTheWayThroughAFileWithAnyByte) {
     }
 }
 
-TEST(MacroLineText, QuotesOnlyWhatNeedsIt) {
+TEST(MacroLineText, quotesOnlyWhatNeedsIt) {
     EXPECT_EQ(macroLine("STYLE", {"Slice/1/Show", "=", "true"}), "$!STYLE Slice/1/Show = true");
     EXPECT_EQ(macroLine("READDATA", {"a b.vtu", ""}), "$!READDATA \"a b.vtu\" \"\"");
     EXPECT_EQ(macroLine("REDRAW", {}), "$!REDRAW");
@@ -89,7 +89,7 @@ protected:
     }
 };
 
-TEST_F(MacroReaderTest, ReadsCommandsWithTheirLines) {
+TEST_F(MacroReaderTest, readsCommandsWithTheirLines) {
     const auto lines = read("# a comment\n\n  $!style Slice/1/Show = true  \n\t# more\n$!REDRAW");
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].name, "STYLE");
@@ -101,7 +101,7 @@ TEST_F(MacroReaderTest, ReadsCommandsWithTheirLines) {
     EXPECT_EQ(lines[1].number, 5U);
 }
 
-TEST_F(MacroReaderTest, ReadsLineEndsOfOtherSystems) {
+TEST_F(MacroReaderTest, readsLineEndsOfOtherSystems) {
     const auto lines = read("$!PLOTTYPE=CARTESIAN3D\r\n\r\n# x\r\n$!REDRAW\r\n");
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].name, "PLOTTYPE");
@@ -110,12 +110,12 @@ TEST_F(MacroReaderTest, ReadsLineEndsOfOtherSystems) {
     EXPECT_EQ(lines[1].number, 4U);
 }
 
-TEST_F(MacroReaderTest, AnEmptyFileHasNoCommands) {
+TEST_F(MacroReaderTest, anEmptyFileHasNoCommands) {
     EXPECT_THAT(read(""), IsEmpty());
     EXPECT_THAT(read("\n\n#\n"), IsEmpty());
 }
 
-TEST_F(MacroReaderTest, ErrorsNameFileLineTextAndCause) {
+TEST_F(MacroReaderTest, errorsNameFileLineTextAndCause) {
     EXPECT_EQ(errorOf("$!REDRAW\n\nSTYLE x = 1\n"),
               "flight.macro:3: STYLE x = 1\nA command begins with $!, a comment with #.");
     EXPECT_EQ(errorOf("$!READDATA \"x\n"),
@@ -125,7 +125,7 @@ TEST_F(MacroReaderTest, ErrorsNameFileLineTextAndCause) {
     EXPECT_THAT(errorOf("$!\"STYLE\"\n"), HasSubstr("name of a command is missing"));
 }
 
-TEST_F(MacroReaderTest, BinaryFilesEndWithAShortHarmlessMessage) {
+TEST_F(MacroReaderTest, binaryFilesEndWithAShortHarmlessMessage) {
     std::string binary("\x7f\x45LF\x02\x01\0\x1b[31m", 12);
     binary += std::string(5000, '\xff');
     const std::string error = errorOf(binary);
@@ -136,37 +136,37 @@ TEST_F(MacroReaderTest, BinaryFilesEndWithAShortHarmlessMessage) {
     EXPECT_EQ(error.find('\0'), std::string::npos);
 }
 
-TEST_F(MacroReaderTest, CutsALongLineBetweenCharacters) {
+TEST_F(MacroReaderTest, cutsALongLineBetweenCharacters) {
     std::string text(199, 'x');
     text += "äöü and more";
     EXPECT_THAT(errorOf(text), HasSubstr("flight.macro:1: " + std::string(199, 'x') + "…\n"));
 }
 
-TEST_F(MacroReaderTest, ShowsMuchOfALongLineThatIsNoText) {
+TEST_F(MacroReaderTest, showsMuchOfALongLineThatIsNoText) {
     EXPECT_THAT(errorOf(std::string(5000, '\x8a')),
                 StartsWith("flight.macro:1: " + std::string(197, '\x8a') + "…\n"));
 }
 
-TEST_F(MacroReaderTest, SkipsAByteOrderMarkAtTheBeginningAlone) {
+TEST_F(MacroReaderTest, skipsAByteOrderMarkAtTheBeginningAlone) {
     EXPECT_EQ(read("\xef\xbb\xbf$!REDRAW\n").size(), 1U);
     EXPECT_THAT(read("\xef\xbb\xbf# nothing\n"), IsEmpty());
     EXPECT_THAT(errorOf("$!REDRAW\n\xef\xbb\xbf$!REDRAW\n"), HasSubstr("begins with $!"));
     EXPECT_THAT(errorOf("\xef\xbb$!REDRAW\n"), HasSubstr("begins with $!"));
 }
 
-TEST_F(MacroReaderTest, RefusesZeroBytesThatWouldEndNames) {
+TEST_F(MacroReaderTest, refusesZeroBytesThatWouldEndNames) {
     EXPECT_EQ(errorOf(std::string("$!READDATA \"a\0b\"\n", 17)),
               "flight.macro:1: $!READDATA \"a?b\"\nThere is a zero byte in the line. Is this a "
               "macro?");
 }
 
-TEST(MacroErrorText, IsShortAndHarmless) {
+TEST(MacroErrorText, isShortAndHarmless) {
     const MacroError error("a\x1b.mcr", 7, "$!X", "A\tcause\x1b\nin " + std::string(9000, 'x'));
     EXPECT_THAT(error.what(), StartsWith("a?.mcr:7: $!X\nA\tcause?\nin xxx"));
     EXPECT_LT(std::string(error.what()).size(), 2100U);
 }
 
-TEST_F(MacroReaderTest, TakesLinesOfAMebibyte) {
+TEST_F(MacroReaderTest, takesLinesOfAMebibyte) {
     const std::string start = "$!COMMAND ";
     const std::string word((std::size_t{1} << 20U) - start.size(), 'x');
     const auto lines = read(start + word + "\n$!REDRAW\n");
@@ -189,7 +189,7 @@ private:
     std::string m_block = std::string(4096, '$');
 };
 
-TEST_F(MacroReaderTest, GivesUpALineWithoutEndBeforeItFillsTheMemory) {
+TEST_F(MacroReaderTest, givesUpALineWithoutEndBeforeItFillsTheMemory) {
     EndlessBuffer buffer;
     std::istream stream(&buffer);
     MacroReader reader(stream, "endless");
@@ -203,7 +203,7 @@ class FailingBuffer : public std::streambuf {
     int_type underflow() override { throw std::runtime_error("bad sector"); }
 };
 
-TEST_F(MacroReaderTest, TellsWhenTheFileCannotBeRead) {
+TEST_F(MacroReaderTest, tellsWhenTheFileCannotBeRead) {
     FailingBuffer buffer;
     std::istream stream(&buffer);
     MacroReader reader(stream, "broken");

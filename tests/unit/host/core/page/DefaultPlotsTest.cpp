@@ -26,7 +26,7 @@ protected:
     std::shared_ptr<DataSet> data = fakes::volumeData();
 };
 
-TEST_F(DefaultPlotsTest, VolumesShowOneSliceAcrossTheirShortestExtent) {
+TEST_F(DefaultPlotsTest, volumesShowOneSliceAcrossTheirShortestExtent) {
     choose();
     EXPECT_EQ(shownSlices(), 1);
     EXPECT_TRUE(frame.style.slices[0].show);
@@ -37,7 +37,7 @@ TEST_F(DefaultPlotsTest, VolumesShowOneSliceAcrossTheirShortestExtent) {
     EXPECT_FALSE(frame.style.surfaces[0].show);
 }
 
-TEST_F(DefaultPlotsTest, TheSliceFollowsTheShapeOfTheData) {
+TEST_F(DefaultPlotsTest, theSliceFollowsTheShapeOfTheData) {
     data->bounds = {{0, -1, 0}, {3, 0, 2}};
     choose();
     EXPECT_EQ(frame.style.slices[0].axis, 2);
@@ -47,7 +47,7 @@ TEST_F(DefaultPlotsTest, TheSliceFollowsTheShapeOfTheData) {
     EXPECT_EQ(frame.style.slices[0].axis, 1);
 }
 
-TEST_F(DefaultPlotsTest, ACubeIsSlicedAcrossZ) {
+TEST_F(DefaultPlotsTest, aCubeIsSlicedAcrossZ) {
     data->bounds = {{0, 0, 0.1}, {0.2, 0.2, 0.3}}; // 0.3 - 0.1 is a little below 0.2
     choose();
     EXPECT_EQ(frame.style.slices[0].axis, 3);
@@ -56,7 +56,7 @@ TEST_F(DefaultPlotsTest, ACubeIsSlicedAcrossZ) {
     EXPECT_EQ(frame.style.slices[0].axis, 3);
 }
 
-TEST_F(DefaultPlotsTest, ColoursFollowTheFirstVector) {
+TEST_F(DefaultPlotsTest, coloursFollowTheFirstVector) {
     data->variables = {{"p", 1, 0, 1}, {"U", 3, 0, 8}, {"W", 3, 0, 9}};
     choose();
     EXPECT_EQ(frame.style.contour.variable, "U");
@@ -65,14 +65,14 @@ TEST_F(DefaultPlotsTest, ColoursFollowTheFirstVector) {
     EXPECT_EQ(frame.style.contour.maximum, 8);
 }
 
-TEST_F(DefaultPlotsTest, ColoursFollowTheFirstScalarWithoutAVector) {
+TEST_F(DefaultPlotsTest, coloursFollowTheFirstScalarWithoutAVector) {
     data->variables = {{"tensor", 9, 0, 1}, {"p", 1, 0, 1}, {"q", 1, 0, 1}};
     choose();
     EXPECT_EQ(frame.style.contour.variable, "p");
     EXPECT_TRUE(frame.style.streamtraces.variable.empty());
 }
 
-TEST_F(DefaultPlotsTest, WithoutVariablesThereIsNoLegendAndNoColouring) {
+TEST_F(DefaultPlotsTest, withoutVariablesThereIsNoLegendAndNoColouring) {
     data->variables.clear();
     data->blocks.push_back({"wall", 2});
     choose();
@@ -81,7 +81,7 @@ TEST_F(DefaultPlotsTest, WithoutVariablesThereIsNoLegendAndNoColouring) {
     EXPECT_FALSE(frame.style.surfaces[1].useContour);
 }
 
-TEST_F(DefaultPlotsTest, SurfacesBesideVolumesAreGrey) {
+TEST_F(DefaultPlotsTest, surfacesBesideVolumesAreGrey) {
     data->blocks = {{"internal", 3}, {"wall", 2}};
     choose();
     EXPECT_FALSE(frame.style.surfaces[0].show);
@@ -90,7 +90,7 @@ TEST_F(DefaultPlotsTest, SurfacesBesideVolumesAreGrey) {
     EXPECT_EQ(frame.style.surfaces[1].color, Color{});
 }
 
-TEST_F(DefaultPlotsTest, SurfacesAloneAreColoured) {
+TEST_F(DefaultPlotsTest, surfacesAloneAreColoured) {
     data->blocks = {{"hull", 2}, {"sail", 2}};
     choose();
     EXPECT_TRUE(frame.style.surfaces[0].show);
@@ -99,21 +99,21 @@ TEST_F(DefaultPlotsTest, SurfacesAloneAreColoured) {
     EXPECT_FALSE(frame.style.annotations.showOutline);
 }
 
-TEST_F(DefaultPlotsTest, ShowsTheTimeOfTransientDataFromTheFirstStep) {
+TEST_F(DefaultPlotsTest, showsTheTimeOfTransientDataFromTheFirstStep) {
     data->zones = {{0, -5.0, 0, true}, {0, 3.0, 1, false}, {0, 4.0, 1, true}, {0, 5.0, 1, true}};
     choose();
     EXPECT_TRUE(frame.style.annotations.showTime);
     EXPECT_EQ(frame.solutionTime, 4.0);
 }
 
-TEST_F(DefaultPlotsTest, StaticDataShowNoTime) {
+TEST_F(DefaultPlotsTest, staticDataShowNoTime) {
     data->zones = {{0, 2.5, 0, true}};
     choose();
     EXPECT_FALSE(frame.style.annotations.showTime);
     EXPECT_EQ(frame.solutionTime, 2.5);
 }
 
-TEST_F(DefaultPlotsTest, ViewsTheDataFromAboveAndFitsThem) {
+TEST_F(DefaultPlotsTest, viewsTheDataFromAboveAndFitsThem) {
     frame.view.psi = 1;
     frame.view.perspective = false;
     choose();
@@ -126,7 +126,7 @@ TEST_F(DefaultPlotsTest, ViewsTheDataFromAboveAndFitsThem) {
     EXPECT_EQ(frame.view.rotationOrigin, data->bounds.center());
 }
 
-TEST_F(DefaultPlotsTest, WhatIsNotShownIsReadyToBeShown) {
+TEST_F(DefaultPlotsTest, whatIsNotShownIsReadyToBeShown) {
     choose();
     for (const SliceStyle& slice : frame.style.slices) {
         EXPECT_EQ(slice.position, 0.5);
@@ -141,7 +141,7 @@ TEST_F(DefaultPlotsTest, WhatIsNotShownIsReadyToBeShown) {
     EXPECT_GT(frame.style.streamTiming.deltaTime, 0.0);
 }
 
-TEST_F(DefaultPlotsTest, SeedsStandAcrossTheLongestExtentThroughTheCentre) {
+TEST_F(DefaultPlotsTest, seedsStandAcrossTheLongestExtentThroughTheCentre) {
     choose();
     const StreamtraceStyle& traces = frame.style.streamtraces;
     EXPECT_EQ(0.5 * (traces.seedStart + traces.seedEnd), data->bounds.center());
@@ -152,7 +152,7 @@ TEST_F(DefaultPlotsTest, SeedsStandAcrossTheLongestExtentThroughTheCentre) {
     EXPECT_GT(length(traces.seedCorner - traces.seedStart), 0.1);
 }
 
-TEST_F(DefaultPlotsTest, ForgetsThePlotsOfOtherDataAndKeepsTaste) {
+TEST_F(DefaultPlotsTest, forgetsThePlotsOfOtherDataAndKeepsTaste) {
     choose();
     frame.style.slices[4].show = true;
     frame.style.streamtraces.show = true;
@@ -169,7 +169,7 @@ TEST_F(DefaultPlotsTest, ForgetsThePlotsOfOtherDataAndKeepsTaste) {
     EXPECT_EQ(frame.style.light.intensity, 10);
 }
 
-TEST_F(DefaultPlotsTest, ThePathsStillReachTheValuesAfterwards) {
+TEST_F(DefaultPlotsTest, thePathsStillReachTheValuesAfterwards) {
     choose();
     EXPECT_EQ(frame.styles().set({"Surface", "1", "Show"}, 1L), StyleSet_Ok);
     EXPECT_TRUE(frame.style.surfaces[0].show);
@@ -177,7 +177,7 @@ TEST_F(DefaultPlotsTest, ThePathsStillReachTheValuesAfterwards) {
     EXPECT_FALSE(frame.style.contour.showLegend);
 }
 
-TEST_F(DefaultPlotsTest, EmptyDataLeaveFiniteValues) {
+TEST_F(DefaultPlotsTest, emptyDataLeaveFiniteValues) {
     data = std::make_shared<DataSet>();
     choose();
     EXPECT_TRUE(isFinite(frame.view.position));
@@ -186,7 +186,7 @@ TEST_F(DefaultPlotsTest, EmptyDataLeaveFiniteValues) {
     EXPECT_EQ(frame.solutionTime, 0.0);
 }
 
-TEST_F(DefaultPlotsTest, WithoutDataNothingChanges) {
+TEST_F(DefaultPlotsTest, withoutDataNothingChanges) {
     const FrameStyle style = frame.style;
     frame.view.psi = 12;
     chooseDefaultPlots(frame);

@@ -28,7 +28,7 @@ protected:
     Page page;
 };
 
-TEST_F(PageTest, StacksNewFramesOnTopAndActivatesThem) {
+TEST_F(PageTest, stacksNewFramesOnTopAndActivatesThem) {
     createThree();
     EXPECT_THAT(order(), ElementsAre(3, 2, 1));
     EXPECT_EQ(activeId(), 3);
@@ -36,13 +36,13 @@ TEST_F(PageTest, StacksNewFramesOnTopAndActivatesThem) {
     EXPECT_EQ(page.find(7), nullptr);
 }
 
-TEST_F(PageTest, NeverUsesAnIdAgain) {
+TEST_F(PageTest, neverUsesAnIdAgain) {
     createThree();
     EXPECT_TRUE(page.deleteFrame(3));
     EXPECT_EQ(page.createFrame({}).id(), 4);
 }
 
-TEST_F(PageTest, TheFrameBelowADeletedOneBecomesActive) {
+TEST_F(PageTest, theFrameBelowADeletedOneBecomesActive) {
     createThree();
     page.activate(2);
     EXPECT_TRUE(page.deleteFrame(2));
@@ -54,13 +54,13 @@ TEST_F(PageTest, TheFrameBelowADeletedOneBecomesActive) {
     EXPECT_FALSE(page.deleteFrame(3));
 }
 
-TEST_F(PageTest, DeletingAnotherFrameKeepsTheActiveOne) {
+TEST_F(PageTest, deletingAnotherFrameKeepsTheActiveOne) {
     createThree();
     page.deleteFrame(2);
     EXPECT_EQ(activeId(), 3);
 }
 
-TEST_F(PageTest, ActivatesWithoutRestacking) {
+TEST_F(PageTest, activatesWithoutRestacking) {
     createThree();
     EXPECT_TRUE(page.activate(1));
     EXPECT_EQ(activeId(), 1);
@@ -71,7 +71,7 @@ TEST_F(PageTest, ActivatesWithoutRestacking) {
     EXPECT_EQ(activeId(), 3);
 }
 
-TEST_F(PageTest, PushingAsOftenAsThereAreFramesVisitsAllAndRestoresTheOrder) {
+TEST_F(PageTest, pushingAsOftenAsThereAreFramesVisitsAllAndRestoresTheOrder) {
     createThree();
     page.activate(1);
     std::vector<long> visited;
@@ -83,7 +83,7 @@ TEST_F(PageTest, PushingAsOftenAsThereAreFramesVisitsAllAndRestoresTheOrder) {
     EXPECT_THAT(order(), ElementsAre(3, 2, 1));
 }
 
-TEST_F(PageTest, WithoutFramesNothingCanBeActivated) {
+TEST_F(PageTest, withoutFramesNothingCanBeActivated) {
     EXPECT_FALSE(page.activateTop());
     EXPECT_FALSE(page.pushTop());
     EXPECT_FALSE(page.activate(0));
@@ -93,7 +93,7 @@ TEST_F(PageTest, WithoutFramesNothingCanBeActivated) {
     page.endWalk();
 }
 
-TEST_F(PageTest, AWalkLooksAtAllFramesAndChangesNothing) {
+TEST_F(PageTest, aWalkLooksAtAllFramesAndChangesNothing) {
     createThree();
     page.activate(2);
     std::vector<long> visited;
@@ -110,7 +110,7 @@ TEST_F(PageTest, AWalkLooksAtAllFramesAndChangesNothing) {
     EXPECT_THAT(order(), ElementsAre(3, 2, 1));
 }
 
-TEST_F(PageTest, AWalkEndsWhenFramesComeOrGo) {
+TEST_F(PageTest, aWalkEndsWhenFramesComeOrGo) {
     createThree();
     page.startWalk();
     page.nextOfWalk();
@@ -123,7 +123,7 @@ TEST_F(PageTest, AWalkEndsWhenFramesComeOrGo) {
     EXPECT_EQ(page.current()->id(), 4);
 }
 
-TEST_F(PageTest, WholePixelsComeOutWhole) {
+TEST_F(PageTest, wholePixelsComeOutWhole) {
     for (const double pixelsPerInch : {72.0, 96.0, 133.33333333333334, 160.0, 213.7}) {
         page.workArea.pixelsPerInch = pixelsPerInch;
         for (int pixels = 1; pixels < 5000; ++pixels) {
@@ -132,7 +132,7 @@ TEST_F(PageTest, WholePixelsComeOutWhole) {
     }
 }
 
-TEST_F(PageTest, KeepsFractionsOfPixels) {
+TEST_F(PageTest, keepsFractionsOfPixels) {
     page.workArea.pixelsPerInch = 100.0;
     EXPECT_DOUBLE_EQ(page.toPixels(0.125), 12.5);
     EXPECT_DOUBLE_EQ(page.toPixels(8.00001), 800.001);
@@ -140,7 +140,7 @@ TEST_F(PageTest, KeepsFractionsOfPixels) {
     EXPECT_DOUBLE_EQ(page.toPixels(1e-15), 1e-13);
 }
 
-TEST_F(PageTest, OneFrameThatFillsTheWorkAreaGoesOnFillingIt) {
+TEST_F(PageTest, oneFrameThatFillsTheWorkAreaGoesOnFillingIt) {
     EXPECT_TRUE(page.isFilledByOneFrame());
     page.createFrame(page.regionOf(ExportRegion_WorkArea));
     page.resizeWorkArea({1000, 1000, 125.0});
@@ -148,7 +148,7 @@ TEST_F(PageTest, OneFrameThatFillsTheWorkAreaGoesOnFillingIt) {
     EXPECT_TRUE(page.isFilledByOneFrame());
 }
 
-TEST_F(PageTest, OtherFramesKeepTheirPlaces) {
+TEST_F(PageTest, otherFramesKeepTheirPlaces) {
     page.createFrame({0, 0, 4, 4.5});
     page.resizeWorkArea({1000, 1000, 125.0});
     EXPECT_EQ(page.active()->placement, (Placement{0, 0, 4, 4.5}));
@@ -158,7 +158,7 @@ TEST_F(PageTest, OtherFramesKeepTheirPlaces) {
     EXPECT_FALSE(page.isFilledByOneFrame());
 }
 
-TEST_F(PageTest, RegionsCoverWhatTheyShow) {
+TEST_F(PageTest, regionsCoverWhatTheyShow) {
     page.workArea = {1280, 720, 160.0};
     const Placement area{0, 0, 8, 4.5};
     EXPECT_EQ(page.regionOf(ExportRegion_CurrentFrame), area);

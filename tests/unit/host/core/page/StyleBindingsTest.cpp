@@ -20,7 +20,7 @@ protected:
     Frame frame{1, Placement{}};
 };
 
-TEST_F(FrameStylesTest, TheViewIsReachedByItsPaths) {
+TEST_F(FrameStylesTest, theViewIsReachedByItsPaths) {
     frame.view.perspective = false;
     EXPECT_EQ(set("ThreeDView/PSIAngle", 1000.0), StyleSet_Ok);
     EXPECT_EQ(set("ThreeDView/ThetaAngle", -1000.0), StyleSet_Ok);
@@ -36,7 +36,7 @@ TEST_F(FrameStylesTest, TheViewIsReachedByItsPaths) {
     EXPECT_EQ(frame.view, (View3D{1000.0, -1000.0, 3.0, {4, 5, 6}, 7.0, false, 8.0, {9, 10, 11}}));
 }
 
-TEST_F(FrameStylesTest, PerspectiveSwitchesNothingElse) {
+TEST_F(FrameStylesTest, perspectiveSwitchesNothingElse) {
     frame.view.width = 12.5;
     View3D expected = frame.view;
     EXPECT_EQ(set("ThreeDView/DrawInPerspective", 0L), StyleSet_Ok);
@@ -47,7 +47,7 @@ TEST_F(FrameStylesTest, PerspectiveSwitchesNothingElse) {
     EXPECT_EQ(frame.view, expected);
 }
 
-TEST_F(FrameStylesTest, TheWidthCanBeSetWithoutPerspectiveOnly) {
+TEST_F(FrameStylesTest, theWidthCanBeSetWithoutPerspectiveOnly) {
     EXPECT_EQ(set("ThreeDView/ViewWidth", 7.0), StyleSet_NotAllowed);
     EXPECT_EQ(frame.view.width, 1.0);
     frame.view.perspective = false;
@@ -56,7 +56,7 @@ TEST_F(FrameStylesTest, TheWidthCanBeSetWithoutPerspectiveOnly) {
     EXPECT_EQ(set("ThreeDView/ViewWidth", 1e-300), StyleSet_Ok);
 }
 
-TEST_F(FrameStylesTest, AllOfTheViewAndNothingElseHasTheEffectView) {
+TEST_F(FrameStylesTest, allOfTheViewAndNothingElseHasTheEffectView) {
     frame.attachData(fakes::volumeData());
     for (const StyleLeaf& leaf : frame.styles().leaves()) {
         const bool isView = leaf.path.front() == "ThreeDView";
@@ -65,7 +65,7 @@ TEST_F(FrameStylesTest, AllOfTheViewAndNothingElseHasTheEffectView) {
     }
 }
 
-TEST_F(FrameStylesTest, EveryNumberRefusesWhatIsNotFinite) {
+TEST_F(FrameStylesTest, everyNumberRefusesWhatIsNotFinite) {
     frame.attachData(fakes::volumeData());
     frame.view.perspective = false;
     const FrameStyle style = frame.style;
@@ -94,7 +94,7 @@ struct Range {
 
 class FrameStyleRange : public FrameStylesTest, public testing::WithParamInterface<Range> {};
 
-TEST_P(FrameStyleRange, AcceptsItsEndsAndNothingBeyond) {
+TEST_P(FrameStyleRange, acceptsItsEndsAndNothingBeyond) {
     frame.attachData(fakes::volumeData());
     const Range& range = GetParam();
     const StyleLeaf* leaf = frame.styles().find(stylePathFromString(range.path));
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Range{"Streamtraces/Direction", 1, 3}, Range{"Streamtraces/Radius", 0, 1e300},
                     Range{"Annotations/Background/Blue", 0, 1}));
 
-TEST_F(FrameStylesTest, AddOnsReachWhatTheirContractNames) {
+TEST_F(FrameStylesTest, addOnsReachWhatTheirContractNames) {
     EXPECT_EQ(set("StreamAttributes/StreamTiming/TimeAnchor", -2.5), StyleSet_Ok);
     EXPECT_EQ(set("StreamAttributes/StreamTiming/ShowMarkers", 1L), StyleSet_Ok);
     EXPECT_EQ(set("StreamAttributes/StreamTiming/ShowDashes", 1L), StyleSet_Ok);
@@ -137,7 +137,7 @@ TEST_F(FrameStylesTest, AddOnsReachWhatTheirContractNames) {
     EXPECT_FALSE(frame.style.annotations.showAxis);
 }
 
-TEST_F(FrameStylesTest, NumberedPlotsCountFromOne) {
+TEST_F(FrameStylesTest, numberedPlotsCountFromOne) {
     EXPECT_EQ(set("Slice/6/Position", 0.25), StyleSet_Ok);
     EXPECT_EQ(frame.style.slices[5].position, 0.25);
     EXPECT_EQ(set("IsoSurface/1/Value", 0.75), StyleSet_Ok);
@@ -146,7 +146,7 @@ TEST_F(FrameStylesTest, NumberedPlotsCountFromOne) {
     EXPECT_EQ(set("Slice/7/Position", 0.5), StyleSet_BadPath);
 }
 
-TEST_F(FrameStylesTest, EachBlockHasASurface) {
+TEST_F(FrameStylesTest, eachBlockHasASurface) {
     EXPECT_EQ(set("Surface/1/Show", 1L), StyleSet_BadPath);
     auto data = std::make_shared<DataSet>();
     data->blocks = {{"a", 2}, {"b", 2}};
@@ -162,14 +162,14 @@ TEST_F(FrameStylesTest, EachBlockHasASurface) {
     EXPECT_EQ(set("Surface/1/Show", 1L), StyleSet_BadPath);
 }
 
-TEST_F(FrameStylesTest, ColourMapsAreThoseThatAreKnown) {
+TEST_F(FrameStylesTest, colourMapsAreThoseThatAreKnown) {
     EXPECT_EQ(set("Contour/ColorMap", std::string("coolwarm")), StyleSet_Ok);
     EXPECT_EQ(frame.style.contour.colorMap, "CoolWarm");
     EXPECT_EQ(set("Contour/ColorMap", std::string("Jet")), StyleSet_BadValue);
     EXPECT_EQ(frame.style.contour.colorMap, "CoolWarm");
 }
 
-TEST_F(FrameStylesTest, VariablesAreThoseOfTheData) {
+TEST_F(FrameStylesTest, variablesAreThoseOfTheData) {
     frame.attachData(fakes::volumeData());
     EXPECT_EQ(set("Contour/Variable", std::string("U:Z")), StyleSet_Ok);
     EXPECT_EQ(set("Contour/Variable", std::string("Preasure")), StyleSet_BadValue);
@@ -180,7 +180,7 @@ TEST_F(FrameStylesTest, VariablesAreThoseOfTheData) {
     EXPECT_EQ(set("Streamtraces/Variable", std::string("p")), StyleSet_BadValue);
 }
 
-TEST_F(FrameStylesTest, SeedsAreAListOfPoints) {
+TEST_F(FrameStylesTest, seedsAreAListOfPoints) {
     const std::string path = "Streamtraces/SeedPoints";
     EXPECT_EQ(set(path, std::string("1 0 2.5;-1e2\t.5 3 ")), StyleSet_Ok);
     EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints),
@@ -193,7 +193,7 @@ TEST_F(FrameStylesTest, SeedsAreAListOfPoints) {
     EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints), std::vector<Vec3>{});
 }
 
-TEST_F(FrameStylesTest, ListsOfPointsHaveALimit) {
+TEST_F(FrameStylesTest, listsOfPointsHaveALimit) {
     std::string text = "0 0 0";
     for (std::size_t i = 1; i < mostListedPoints; ++i) {
         text += ";0 0 0";
@@ -203,13 +203,13 @@ TEST_F(FrameStylesTest, ListsOfPointsHaveALimit) {
     EXPECT_EQ(set("Streamtraces/SeedPoints", text + ";0 0 0"), StyleSet_BadValue);
 }
 
-TEST_F(FrameStylesTest, StreamtracesCanBeShown) {
+TEST_F(FrameStylesTest, streamtracesCanBeShown) {
     frame.attachData(fakes::volumeData());
     EXPECT_EQ(set("Streamtraces/Show", 1L), StyleSet_Ok);
     EXPECT_TRUE(frame.style.streamtraces.show);
 }
 
-TEST_F(FrameStylesTest, AnyVariableCanBeNamedBeforeThereAreData) {
+TEST_F(FrameStylesTest, anyVariableCanBeNamedBeforeThereAreData) {
     EXPECT_EQ(set("Contour/Variable", std::string("later")), StyleSet_Ok);
 }
 

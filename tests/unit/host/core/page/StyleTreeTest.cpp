@@ -37,7 +37,7 @@ protected:
     StyleTree tree;
 };
 
-TEST_F(StyleTreeTest, WritesEachTypeThroughItsPath) {
+TEST_F(StyleTreeTest, writesEachTypeThroughItsPath) {
     EXPECT_EQ(tree.set({"Group", "Flag"}, 1L), StyleSet_Ok);
     EXPECT_EQ(tree.set({"Group", "Count"}, 9L), StyleSet_Ok);
     EXPECT_EQ(tree.set({"Group", "Deep", "Size"}, 2.0), StyleSet_Ok);
@@ -48,7 +48,7 @@ TEST_F(StyleTreeTest, WritesEachTypeThroughItsPath) {
     EXPECT_EQ(text, "new");
 }
 
-TEST_F(StyleTreeTest, ReadsEachTypeAsItIsWritten) {
+TEST_F(StyleTreeTest, readsEachTypeAsItIsWritten) {
     flag = true;
     EXPECT_EQ(tree.get({"Group", "Flag"}), StyleInput(1L));
     EXPECT_EQ(tree.get({"Group", "Count"}), StyleInput(3L));
@@ -56,13 +56,13 @@ TEST_F(StyleTreeTest, ReadsEachTypeAsItIsWritten) {
     EXPECT_EQ(tree.get({"Text"}), StyleInput(std::string("old")));
 }
 
-TEST_F(StyleTreeTest, IgnoresLetterCase) {
+TEST_F(StyleTreeTest, ignoresLetterCase) {
     EXPECT_EQ(tree.set({"gROUP", "DEEP", "size"}, 1.5), StyleSet_Ok);
     EXPECT_EQ(size, 1.5);
     EXPECT_TRUE(tree.contains({"TEXT"}));
 }
 
-TEST_F(StyleTreeTest, KnowsNoOtherPaths) {
+TEST_F(StyleTreeTest, knowsNoOtherPaths) {
     for (const StylePath& path :
          {StylePath{}, StylePath{""}, StylePath{"Group"}, StylePath{"Group", "Deep"},
           StylePath{"Group", "Flag", "More"}, StylePath{"Flag"}, StylePath{"Group/Flag"},
@@ -74,19 +74,19 @@ TEST_F(StyleTreeTest, KnowsNoOtherPaths) {
     }
 }
 
-TEST_F(StyleTreeTest, TellsWhenNothingChanges) {
+TEST_F(StyleTreeTest, tellsWhenNothingChanges) {
     EXPECT_EQ(tree.set({"Group", "Flag"}, 0L), StyleSet_Unchanged);
     EXPECT_EQ(tree.set({"Group", "Count"}, 3L), StyleSet_Unchanged);
     EXPECT_EQ(tree.set({"Group", "Deep", "Size"}, 1.0), StyleSet_Unchanged);
     EXPECT_EQ(tree.set({"Text"}, std::string("old")), StyleSet_Unchanged);
 }
 
-TEST_F(StyleTreeTest, AnyIntegerButZeroIsTrue) {
+TEST_F(StyleTreeTest, anyIntegerButZeroIsTrue) {
     EXPECT_EQ(tree.set({"Group", "Flag"}, -7L), StyleSet_Ok);
     EXPECT_TRUE(flag);
 }
 
-TEST_F(StyleTreeTest, RefusesTheWrongType) {
+TEST_F(StyleTreeTest, refusesTheWrongType) {
     EXPECT_EQ(tree.set({"Group", "Flag"}, 1.0), StyleSet_BadValue);
     EXPECT_EQ(tree.set({"Group", "Count"}, 4.0), StyleSet_BadValue);
     EXPECT_EQ(tree.set({"Group", "Count"}, std::string("4")), StyleSet_BadValue);
@@ -98,7 +98,7 @@ TEST_F(StyleTreeTest, RefusesTheWrongType) {
     EXPECT_EQ(text, "old");
 }
 
-TEST_F(StyleTreeTest, RefusesNumbersOutOfRange) {
+TEST_F(StyleTreeTest, refusesNumbersOutOfRange) {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double value : {0.49, 2.01, infinity, -infinity, std::nan("")}) {
         EXPECT_EQ(tree.set({"Group", "Deep", "Size"}, value), StyleSet_BadValue) << value;
@@ -110,7 +110,7 @@ TEST_F(StyleTreeTest, RefusesNumbersOutOfRange) {
     EXPECT_EQ(count, 3);
 }
 
-TEST_F(StyleTreeTest, RefusesIntegersThatDoNotFitWhereNoRangeIsGiven) {
+TEST_F(StyleTreeTest, refusesIntegersThatDoNotFitWhereNoRangeIsGiven) {
     bind({"Unlimited"}, &count);
     EXPECT_EQ(tree.set({"Unlimited"}, 5L + (1L << 32)), StyleSet_BadValue);
     EXPECT_EQ(tree.set({"Unlimited"}, std::numeric_limits<long>::min()), StyleSet_BadValue);
@@ -118,7 +118,7 @@ TEST_F(StyleTreeTest, RefusesIntegersThatDoNotFitWhereNoRangeIsGiven) {
     EXPECT_EQ(tree.set({"Unlimited"}, -5L), StyleSet_Ok);
 }
 
-TEST_F(StyleTreeTest, RefusesWhatTheStateDoesNotAllow) {
+TEST_F(StyleTreeTest, refusesWhatTheStateDoesNotAllow) {
     bool allowed = false;
     double value = 1.0;
     StyleLeaf leaf;
@@ -133,7 +133,7 @@ TEST_F(StyleTreeTest, RefusesWhatTheStateDoesNotAllow) {
     EXPECT_EQ(tree.set({"Guarded"}, 2.0), StyleSet_Ok);
 }
 
-TEST_F(StyleTreeTest, StoresAChoiceAsItIsListed) {
+TEST_F(StyleTreeTest, storesAChoiceAsItIsListed) {
     StyleLeaf leaf;
     leaf.path = {"Choice"};
     leaf.target = &text;
@@ -146,7 +146,7 @@ TEST_F(StyleTreeTest, StoresAChoiceAsItIsListed) {
     EXPECT_EQ(text, "Green");
 }
 
-TEST_F(StyleTreeTest, AsksWhetherATextIsAccepted) {
+TEST_F(StyleTreeTest, asksWhetherATextIsAccepted) {
     StyleLeaf leaf;
     leaf.path = {"Name"};
     leaf.target = &text;
@@ -157,7 +157,7 @@ TEST_F(StyleTreeTest, AsksWhetherATextIsAccepted) {
     EXPECT_EQ(text, "p");
 }
 
-TEST_F(StyleTreeTest, ForgetsAllBelowAKeyword) {
+TEST_F(StyleTreeTest, forgetsAllBelowAKeyword) {
     tree.unbind("GROUP");
     EXPECT_FALSE(tree.contains({"Group", "Flag"}));
     EXPECT_FALSE(tree.contains({"Group", "Deep", "Size"}));
@@ -168,14 +168,14 @@ TEST_F(StyleTreeTest, ForgetsAllBelowAKeyword) {
     EXPECT_EQ(tree.set({"Group", "Flag"}, 1L), StyleSet_Ok);
 }
 
-TEST_F(StyleTreeTest, BindsAPathOnce) {
+TEST_F(StyleTreeTest, bindsAPathOnce) {
     EXPECT_THROW(bind({"group", "FLAG"}, &flag), std::logic_error);
     EXPECT_THROW(bind({"a/b"}, &flag), std::logic_error);
     EXPECT_THROW(bind({}, &flag), std::logic_error);
     EXPECT_EQ(tree.leaves().size(), 4U);
 }
 
-TEST(StylePathText, JoinsAndSplitsAtSlashes) {
+TEST(StylePathText, joinsAndSplitsAtSlashes) {
     EXPECT_EQ(toString(StylePath{"Slice", "1", "Position"}), "Slice/1/Position");
     EXPECT_EQ(stylePathFromString("Slice/1/Position"), (StylePath{"Slice", "1", "Position"}));
     EXPECT_EQ(stylePathFromString("Title"), StylePath{"Title"});

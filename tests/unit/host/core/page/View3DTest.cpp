@@ -61,14 +61,14 @@ std::array<Vec3, 8> cornersOf(const Bounds& box) {
     return corners;
 }
 
-TEST(View3DBasis, LooksDownWithXRightAtZeroAngles) {
+TEST(View3DBasis, looksDownWithXRightAtZeroAngles) {
     const ViewBasis basis = basisOf({});
     expectNear(basis.right, {1, 0, 0}, 0);
     expectNear(basis.up, {0, 1, 0}, 0);
     expectNear(basis.toViewer, {0, 0, 1}, 0);
 }
 
-TEST(View3DBasis, FollowsTheClosedFormsWithoutTwist) {
+TEST(View3DBasis, followsTheClosedFormsWithoutTwist) {
     for (const double psi : {-200.0, 0.0, 33.0, 90.0, 180.0}) {
         for (const double theta : {-10.0, 0.0, 77.0, 300.0}) {
             const ViewBasis basis = basisOf(viewWith(psi, theta, 0.0));
@@ -83,7 +83,7 @@ TEST(View3DBasis, FollowsTheClosedFormsWithoutTwist) {
     }
 }
 
-TEST(View3DBasis, IsOrthonormalAndRightHandedForAllAngles) {
+TEST(View3DBasis, isOrthonormalAndRightHandedForAllAngles) {
     for (const View3D& view : manyViews()) {
         const ViewBasis basis = basisOf(view);
         EXPECT_NEAR(length(basis.right), 1.0, exact);
@@ -93,7 +93,7 @@ TEST(View3DBasis, IsOrthonormalAndRightHandedForAllAngles) {
     }
 }
 
-TEST(View3DBasis, AlphaTurnsUpCounterClockwiseInThePicture) {
+TEST(View3DBasis, alphaTurnsUpCounterClockwiseInThePicture) {
     const ViewBasis before = basisOf(viewWith(40.0, 20.0, 0.0));
     const ViewBasis after = basisOf(viewWith(40.0, 20.0, 30.0));
     expectNear(after.up, std::cos(rad(30.0)) * before.up - std::sin(rad(30.0)) * before.right);
@@ -101,7 +101,7 @@ TEST(View3DBasis, AlphaTurnsUpCounterClockwiseInThePicture) {
     expectNear(after.toViewer, before.toViewer);
 }
 
-TEST(View3DBasis, KeepsItsDigitsForLargeAngles) {
+TEST(View3DBasis, keepsItsDigitsForLargeAngles) {
     const ViewBasis small = basisOf(viewWith(65.0, 30.0, 10.0));
     const ViewBasis large =
         basisOf(viewWith(65.0 + 360.0 * 1e6, 30.0 - 360.0 * 1e6, 10.0 + 360.0 * 1e6));
@@ -128,7 +128,7 @@ protected:
     }
 };
 
-TEST_P(View3DRotate, KeepsTheOriginInItsPlaceOfThePicture) {
+TEST_P(View3DRotate, keepsTheOriginInItsPlaceOfThePicture) {
     for (const View3D& start : manyViews()) {
         View3D view = placed(start);
         const Vec3 before = inPicture(view, view.rotationOrigin);
@@ -138,7 +138,7 @@ TEST_P(View3DRotate, KeepsTheOriginInItsPlaceOfThePicture) {
     }
 }
 
-TEST_P(View3DRotate, TouchesNothingButOneAngleAndThePosition) {
+TEST_P(View3DRotate, touchesNothingButOneAngleAndThePosition) {
     View3D view = placed(viewWith(10, 20, 30));
     View3D expected = view;
     rotate(view, GetParam(), 400.0);
@@ -150,7 +150,7 @@ TEST_P(View3DRotate, TouchesNothingButOneAngleAndThePosition) {
     EXPECT_EQ(view, expected);
 }
 
-TEST_P(View3DRotate, ComposesFromSmallSteps) {
+TEST_P(View3DRotate, composesFromSmallSteps) {
     View3D once = placed(viewWith(170, -20, 5));
     View3D often = once;
     rotate(once, GetParam(), 50.0);
@@ -161,7 +161,7 @@ TEST_P(View3DRotate, ComposesFromSmallSteps) {
     expectNear(often.position, once.position, 1e-11);
 }
 
-TEST_P(View3DRotate, KeepsEverythingForAmountsThatAreNotFinite) {
+TEST_P(View3DRotate, keepsEverythingForAmountsThatAreNotFinite) {
     View3D view = placed(viewWith(1, 2, 3));
     const View3D before = view;
     rotate(view, GetParam(), std::numeric_limits<double>::quiet_NaN());
@@ -172,7 +172,7 @@ TEST_P(View3DRotate, KeepsEverythingForAmountsThatAreNotFinite) {
 INSTANTIATE_TEST_SUITE_P(Axes, View3DRotate,
                          testing::Values(RotateAxis_Psi, RotateAxis_Theta, RotateAxis_Alpha));
 
-TEST(View3DRotateClosedForm, ThetaCarriesTheViewerAboutTheZAxis) {
+TEST(View3DRotateClosedForm, thetaCarriesTheViewerAboutTheZAxis) {
     View3D view = viewWith(90, 0, 0);
     view.position = {0, -5, 0};
     rotate(view, RotateAxis_Theta, 90.0);
@@ -180,21 +180,21 @@ TEST(View3DRotateClosedForm, ThetaCarriesTheViewerAboutTheZAxis) {
     expectNear(basisOf(view).toViewer, {-1, 0, 0});
 }
 
-TEST(View3DRotateClosedForm, PsiTiltsTheViewerAwayFromZ) {
+TEST(View3DRotateClosedForm, psiTiltsTheViewerAwayFromZ) {
     View3D view;
     view.position = {0, 0, 5};
     rotate(view, RotateAxis_Psi, 90.0);
     expectNear(view.position, {0, -5, 0});
 }
 
-TEST(View3DRotateClosedForm, AlphaTwistsAboutTheLineOfSight) {
+TEST(View3DRotateClosedForm, alphaTwistsAboutTheLineOfSight) {
     View3D view;
     view.position = {1, 0, 5};
     rotate(view, RotateAxis_Alpha, 90.0);
     expectNear(view.position, {0, 1, 5});
 }
 
-TEST(View3DRotateClosedForm, ReservedAxesChangeNothing) {
+TEST(View3DRotateClosedForm, reservedAxesChangeNothing) {
     View3D view = viewWith(1, 2, 3);
     const View3D before = view;
     rotate(view, static_cast<RotateAxis_e>(0), 10.0);
@@ -230,7 +230,7 @@ protected:
     }
 };
 
-TEST_P(View3DFit, KeepsAllCornersInsideAndLeavesFivePercent) {
+TEST_P(View3DFit, keepsAllCornersInsideAndLeavesFivePercent) {
     for (View3D view : manyViews()) {
         for (const double fieldOfView : {5.0, 30.0, 120.0}) {
             view.fieldOfView = fieldOfView;
@@ -241,7 +241,7 @@ TEST_P(View3DFit, KeepsAllCornersInsideAndLeavesFivePercent) {
     }
 }
 
-TEST_P(View3DFit, PutsTheCentreOfTheBoxAndTheOriginInTheMiddle) {
+TEST_P(View3DFit, putsTheCentreOfTheBoxAndTheOriginInTheMiddle) {
     View3D view = viewWith(65, 30, 12);
     view.perspective = false;
     view.fieldOfView = 40;
@@ -259,7 +259,7 @@ TEST_P(View3DFit, PutsTheCentreOfTheBoxAndTheOriginInTheMiddle) {
 
 INSTANTIATE_TEST_SUITE_P(Aspects, View3DFit, testing::Values(0.25, 1.0, 16.0 / 9.0));
 
-TEST(View3DFitLimits, TreatsAPointAsABoxOfExtentOne) {
+TEST(View3DFitLimits, treatsAPointAsABoxOfExtentOne) {
     View3D point = viewWith(65, 30, 0);
     View3D cube = point;
     fit(point, {{1, 2, 3}, {1, 2, 3}}, 1.5);
@@ -267,14 +267,14 @@ TEST(View3DFitLimits, TreatsAPointAsABoxOfExtentOne) {
     EXPECT_EQ(point, cube);
 }
 
-TEST(View3DFitLimits, ALineSeenEndOnLeavesAPictureWithExtent) {
+TEST(View3DFitLimits, aLineSeenEndOnLeavesAPictureWithExtent) {
     View3D view;
     fit(view, {{0, 0, -5}, {0, 0, 5}}, 1.0);
     EXPECT_GT(view.width, 0.0);
     EXPECT_GT(view.position.z, 5.0);
 }
 
-TEST(View3DFitLimits, ChangesNothingForBoxesThatCannotBeFitted) {
+TEST(View3DFitLimits, changesNothingForBoxesThatCannotBeFitted) {
     const double infinity = std::numeric_limits<double>::infinity();
     const double huge = std::numeric_limits<double>::max();
     View3D view = viewWith(1, 2, 3);

@@ -19,7 +19,7 @@ protected:
     Drawing drawing{page, locks, renderer, &screen, &timer};
 };
 
-TEST_F(DrawingTest, AMarkDrawsNothingAndAsksForIdleTimeOnce) {
+TEST_F(DrawingTest, aMarkDrawsNothingAndAsksForIdleTimeOnce) {
     drawing.mark();
     drawing.mark();
     EXPECT_TRUE(drawing.isMarked());
@@ -27,7 +27,7 @@ TEST_F(DrawingTest, AMarkDrawsNothingAndAsksForIdleTimeOnce) {
     EXPECT_EQ(timer.requests, 1);
 }
 
-TEST_F(DrawingTest, DrawsAllFramesOnceWhenDue) {
+TEST_F(DrawingTest, drawsAllFramesOnceWhenDue) {
     drawing.mark();
     drawing.drawIfDue();
     drawing.drawIfDue();
@@ -36,12 +36,12 @@ TEST_F(DrawingTest, DrawsAllFramesOnceWhenDue) {
     EXPECT_FALSE(drawing.isMarked());
 }
 
-TEST_F(DrawingTest, IsNotDueWithoutAMark) {
+TEST_F(DrawingTest, isNotDueWithoutAMark) {
     drawing.drawIfDue();
     EXPECT_EQ(drawing.renders(), 0U);
 }
 
-TEST_F(DrawingTest, IsNotDueWhileALockIsHeld) {
+TEST_F(DrawingTest, isNotDueWhileALockIsHeld) {
     locks.start(nullptr);
     drawing.mark();
     drawing.drawIfDue();
@@ -51,7 +51,7 @@ TEST_F(DrawingTest, IsNotDueWhileALockIsHeld) {
     EXPECT_EQ(drawing.renders(), 1U);
 }
 
-TEST_F(DrawingTest, IsNotDueWhileSuspendedAtAnyDepth) {
+TEST_F(DrawingTest, isNotDueWhileSuspendedAtAnyDepth) {
     drawing.suspend();
     drawing.suspend();
     drawing.mark();
@@ -67,14 +67,14 @@ TEST_F(DrawingTest, IsNotDueWhileSuspendedAtAnyDepth) {
     EXPECT_EQ(drawing.renders(), 1U);
 }
 
-TEST_F(DrawingTest, IgnoresOneResumeTooMany) {
+TEST_F(DrawingTest, ignoresOneResumeTooMany) {
     EXPECT_FALSE(drawing.resume());
     EXPECT_EQ(drawing.suspensions(), 0);
     drawing.suspend();
     EXPECT_EQ(drawing.suspensions(), 1);
 }
 
-TEST_F(DrawingTest, RedrawsAtOnceAtAnyDepthOfLocks) {
+TEST_F(DrawingTest, redrawsAtOnceAtAnyDepthOfLocks) {
     locks.start(nullptr);
     drawing.mark();
     EXPECT_TRUE(drawing.redraw(false));
@@ -83,14 +83,14 @@ TEST_F(DrawingTest, RedrawsAtOnceAtAnyDepthOfLocks) {
     EXPECT_FALSE(drawing.isMarked());
 }
 
-TEST_F(DrawingTest, RedrawWhileSuspendedOnlyMarks) {
+TEST_F(DrawingTest, redrawWhileSuspendedOnlyMarks) {
     drawing.suspend();
     EXPECT_FALSE(drawing.redraw(true));
     EXPECT_EQ(drawing.renders(), 0U);
     EXPECT_TRUE(drawing.isMarked());
 }
 
-TEST_F(DrawingTest, RestoresTheDepthOfSuspensions) {
+TEST_F(DrawingTest, restoresTheDepthOfSuspensions) {
     drawing.suspend();
     drawing.suspend();
     drawing.mark();
@@ -99,7 +99,7 @@ TEST_F(DrawingTest, RestoresTheDepthOfSuspensions) {
     EXPECT_EQ(timer.requests, 1);
 }
 
-TEST_F(DrawingTest, APictureNeitherMarksNorUnmarks) {
+TEST_F(DrawingTest, aPictureNeitherMarksNorUnmarks) {
     const PictureRequest request{ExportRegion_WorkArea, 6, 4, 2};
     EXPECT_EQ(drawing.picture(request).width, 6);
     EXPECT_FALSE(drawing.isMarked());
@@ -112,13 +112,13 @@ TEST_F(DrawingTest, APictureNeitherMarksNorUnmarks) {
     EXPECT_TRUE(screen.presented.empty());
 }
 
-TEST_F(DrawingTest, CountsNoPictureThatFailed) {
+TEST_F(DrawingTest, countsNoPictureThatFailed) {
     renderer.failAt = 1;
     EXPECT_THROW(drawing.picture({ExportRegion_WorkArea, 6, 4, 1}), HostError);
     EXPECT_EQ(drawing.renders(), 0U);
 }
 
-TEST_F(DrawingTest, DoesNotTryAFailedPictureAgain) {
+TEST_F(DrawingTest, doesNotTryAFailedPictureAgain) {
     screen.fails = true;
     drawing.mark();
     EXPECT_THROW(drawing.drawIfDue(), HostError);
@@ -126,7 +126,7 @@ TEST_F(DrawingTest, DoesNotTryAFailedPictureAgain) {
     EXPECT_EQ(screen.presented.size(), 1U);
 }
 
-TEST_F(DrawingTest, MakesNoPictureThatNobodySees) {
+TEST_F(DrawingTest, makesNoPictureThatNobodySees) {
     Drawing unseen(page, locks, renderer, nullptr, nullptr);
     unseen.mark();
     unseen.drawIfDue();

@@ -20,7 +20,7 @@ protected:
     StyleTree tree;
 };
 
-TEST_F(ExportSetupTest, StartsWithSensibleValues) {
+TEST_F(ExportSetupTest, startsWithSensibleValues) {
     EXPECT_EQ(setup.format, 14);
     EXPECT_EQ(setup.aviCompression, 1);
     EXPECT_EQ(setup.flashImageType, 0);
@@ -33,7 +33,7 @@ TEST_F(ExportSetupTest, StartsWithSensibleValues) {
     EXPECT_TRUE(setup.fileName.empty());
 }
 
-TEST_F(ExportSetupTest, EachNameReachesItsValue) {
+TEST_F(ExportSetupTest, eachNameReachesItsValue) {
     EXPECT_EQ(set("ExportFormat", 21L), StyleSet_Ok);
     EXPECT_EQ(set("AVICompression", 2L), StyleSet_Ok);
     EXPECT_EQ(set("FlashImageType", 2L), StyleSet_Ok);
@@ -56,7 +56,7 @@ TEST_F(ExportSetupTest, EachNameReachesItsValue) {
     EXPECT_EQ(setup.fileName, "a b.mp4");
 }
 
-TEST_F(ExportSetupTest, RefusesWhatIsOutOfRange) {
+TEST_F(ExportSetupTest, refusesWhatIsOutOfRange) {
     EXPECT_EQ(set("ExportFormat", -1L), StyleSet_BadValue);
     EXPECT_EQ(set("AVICompression", 3L), StyleSet_BadValue);
     EXPECT_EQ(set("FlashImageType", 3L), StyleSet_BadValue);
@@ -73,7 +73,7 @@ TEST_F(ExportSetupTest, RefusesWhatIsOutOfRange) {
     }
 }
 
-TEST_F(ExportSetupTest, AcceptsTheEndsOfItsRanges) {
+TEST_F(ExportSetupTest, acceptsTheEndsOfItsRanges) {
     for (const long width : {4L, 32766L}) {
         EXPECT_EQ(set("ImageWidth", width), StyleSet_Ok);
     }
@@ -85,7 +85,7 @@ TEST_F(ExportSetupTest, AcceptsTheEndsOfItsRanges) {
     }
 }
 
-TEST_F(ExportSetupTest, AnyFormatCanBeSetAndSomeAreMovies) {
+TEST_F(ExportSetupTest, anyFormatCanBeSetAndSomeAreMovies) {
     for (const int format : {0, 14, 17, 20, 21, 22}) {
         setup.format = format;
         EXPECT_TRUE(setup.isAnimationFormat()) << format;
@@ -96,7 +96,7 @@ TEST_F(ExportSetupTest, AnyFormatCanBeSetAndSomeAreMovies) {
     }
 }
 
-TEST_F(ExportSetupTest, CanBeClosedAgainstWrites) {
+TEST_F(ExportSetupTest, canBeClosedAgainstWrites) {
     allowed = false;
     for (const StyleLeaf& leaf : tree.leaves()) {
         EXPECT_EQ(StyleTree::set(leaf, 5L), StyleSet_NotAllowed) << toString(leaf.path);
@@ -113,7 +113,7 @@ struct MacroWord {
 
 class ExportSettingText : public testing::TestWithParam<MacroWord> {};
 
-TEST_P(ExportSettingText, IsTurnedIntoTheValueItStandsFor) {
+TEST_P(ExportSettingText, isTurnedIntoTheValueItStandsFor) {
     const auto value = exportSettingFromText(GetParam().name, GetParam().text);
     ASSERT_TRUE(value.has_value());
     EXPECT_EQ(*value, GetParam().value);
@@ -147,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(
         MacroWord{"ExportFName", "AVI", std::string("AVI")},
         MacroWord{"ExportFName", "", std::string()}));
 
-TEST(ExportSettingTextErrors, AnswersNothingForWhatDoesNotFit) {
+TEST(ExportSettingTextErrors, answersNothingForWhatDoesNotFit) {
     for (const auto& [name, text] :
          {std::pair{"ExportFormat", "MPEG"}, std::pair{"ExportFormat", ""},
           std::pair{"ImageWidth", "12px"}, std::pair{"ImageWidth", "1.5"},

@@ -49,7 +49,7 @@ protected:
     Exporter exporter{page, setup, drawing, renderer, movies};
 };
 
-TEST_F(ExporterTest, RecordsTheCurrentPictureFirstAndOneForEachCall) {
+TEST_F(ExporterTest, recordsTheCurrentPictureFirstAndOneForEachCall) {
     EXPECT_TRUE(exporter.start());
     EXPECT_TRUE(exporter.isRecording());
     EXPECT_EQ(exporter.frames(), 1U);
@@ -65,7 +65,7 @@ TEST_F(ExporterTest, RecordsTheCurrentPictureFirstAndOneForEachCall) {
     EXPECT_FALSE(exporter.hasFailed());
 }
 
-TEST_F(ExporterTest, HandsTheSetupToTheWriter) {
+TEST_F(ExporterTest, handsTheSetupToTheWriter) {
     setup.format = ExportFormat_FlashSWF;
     setup.animationSpeed = 12.5;
     setup.aviCompression = AVICompression_ColorPreserving;
@@ -83,7 +83,7 @@ TEST_F(ExporterTest, HandsTheSetupToTheWriter) {
     EXPECT_EQ(request.flashCompression, FlashCompressionType_SmallestSize);
 }
 
-TEST_F(ExporterTest, TheHeightFollowsFromTheRegion) {
+TEST_F(ExporterTest, theHeightFollowsFromTheRegion) {
     setup.imageWidth = 33;
     page.active()->placement = {0, 0, 4, 1};
     ASSERT_TRUE(exporter.start());
@@ -100,7 +100,7 @@ TEST_F(ExporterTest, TheHeightFollowsFromTheRegion) {
                                                PictureRequest{ExportRegion_CurrentFrame, 4, 1, 1}));
 }
 
-TEST_F(ExporterTest, SupersamplesOnlyWhenItIsOn) {
+TEST_F(ExporterTest, supersamplesOnlyWhenItIsOn) {
     setup.superSampleFactor = 4;
     ASSERT_TRUE(exporter.start());
     exporter.cancel();
@@ -110,7 +110,7 @@ TEST_F(ExporterTest, SupersamplesOnlyWhenItIsOn) {
     EXPECT_EQ(renderer.requests[1].supersample, 4);
 }
 
-TEST_F(ExporterTest, KeepsTheSizeOfItsPicturesWhateverChanges) {
+TEST_F(ExporterTest, keepsTheSizeOfItsPicturesWhateverChanges) {
     ASSERT_TRUE(exporter.start());
     page.active()->placement = {0, 0, 1, 9};
     setup.imageWidth = 999;
@@ -118,7 +118,7 @@ TEST_F(ExporterTest, KeepsTheSizeOfItsPicturesWhateverChanges) {
     EXPECT_EQ(renderer.requests[1], renderer.requests[0]);
 }
 
-TEST_F(ExporterTest, RefusesASecondMovieAndGoesOnWithTheFirst) {
+TEST_F(ExporterTest, refusesASecondMovieAndGoesOnWithTheFirst) {
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.start());
     EXPECT_FALSE(exporter.hasFailed());
@@ -127,22 +127,22 @@ TEST_F(ExporterTest, RefusesASecondMovieAndGoesOnWithTheFirst) {
     EXPECT_EQ(folder.read("movie.avi"), "ppe");
 }
 
-TEST_F(ExporterTest, RefusesAFormatWithoutMovies) {
+TEST_F(ExporterTest, refusesAFormatWithoutMovies) {
     setup.format = 5;
     expectRefused("The export format 5 holds no movies.");
 }
 
-TEST_F(ExporterTest, RefusesAnEmptyFileName) {
+TEST_F(ExporterTest, refusesAnEmptyFileName) {
     setup.fileName.clear();
     expectRefused("no file name");
 }
 
-TEST_F(ExporterTest, RefusesAPageWithoutFrames) {
+TEST_F(ExporterTest, refusesAPageWithoutFrames) {
     page.deleteFrame(page.active()->id());
     expectRefused("no frame");
 }
 
-TEST_F(ExporterTest, RefusesARegionWithoutExtent) {
+TEST_F(ExporterTest, refusesARegionWithoutExtent) {
     setup.region = ExportRegion_WorkArea;
     page.workArea.height = 0;
     expectRefused("Choose another region");
@@ -150,7 +150,7 @@ TEST_F(ExporterTest, RefusesARegionWithoutExtent) {
     expectRefused("Choose another region");
 }
 
-TEST_F(ExporterTest, RefusesPicturesTooLargeToDraw) {
+TEST_F(ExporterTest, refusesPicturesTooLargeToDraw) {
     setup.useSuperSampleAntiAliasing = true; // 3 times
     renderer.largest = 119;
     expectRefused("120 pixels");
@@ -158,17 +158,17 @@ TEST_F(ExporterTest, RefusesPicturesTooLargeToDraw) {
     EXPECT_TRUE(exporter.start());
 }
 
-TEST_F(ExporterTest, RefusesPicturesTooHighToDraw) {
+TEST_F(ExporterTest, refusesPicturesTooHighToDraw) {
     page.active()->placement = {0, 0, 1, 500};
     expectRefused("20000 pixels");
 }
 
-TEST_F(ExporterTest, RefusesAFolderThatIsMissing) {
+TEST_F(ExporterTest, refusesAFolderThatIsMissing) {
     setup.fileName = folder.file("missing/movie.avi");
     expectRefused("there is no folder");
 }
 
-TEST_F(ExporterTest, AWriterThatCannotBeOpenedLeavesNothing) {
+TEST_F(ExporterTest, aWriterThatCannotBeOpenedLeavesNothing) {
     movies.failOpen = "There is no such encoder.";
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "There is no such encoder.");
@@ -176,13 +176,13 @@ TEST_F(ExporterTest, AWriterThatCannotBeOpenedLeavesNothing) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, AWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
+TEST_F(ExporterTest, aWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
     movies.failOpen = "The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.";
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "The movie \"" + folder.file("movie.avi") + "\" has no encoder.");
 }
 
-TEST_F(ExporterTest, AFirstPictureThatCannotBeDrawnLeavesNothing) {
+TEST_F(ExporterTest, aFirstPictureThatCannotBeDrawnLeavesNothing) {
     renderer.failAt = 1;
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "The picture cannot be drawn.");
@@ -191,21 +191,21 @@ TEST_F(ExporterTest, AFirstPictureThatCannotBeDrawnLeavesNothing) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, AFirstPictureThatCannotBeWrittenLeavesNothing) {
+TEST_F(ExporterTest, aFirstPictureThatCannotBeWrittenLeavesNothing) {
     movies.failAdd = 1;
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "The disk is full.");
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, AFailureWithoutATextHasOneAllTheSame) {
+TEST_F(ExporterTest, aFailureWithoutATextHasOneAllTheSame) {
     movies.throwsNothingKnown = true;
     EXPECT_FALSE(exporter.start());
     EXPECT_TRUE(exporter.hasFailed());
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, RemembersTheFirstFailureAndRefusesFurtherPictures) {
+TEST_F(ExporterTest, remembersTheFirstFailureAndRefusesFurtherPictures) {
     movies.failAdd = 2;
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.nextFrame());
@@ -219,7 +219,7 @@ TEST_F(ExporterTest, RemembersTheFirstFailureAndRefusesFurtherPictures) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, FinishingAfterAFailureFailsAndLeavesNothing) {
+TEST_F(ExporterTest, finishingAfterAFailureFailsAndLeavesNothing) {
     movies.failAdd = 2;
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.nextFrame());
@@ -230,7 +230,7 @@ TEST_F(ExporterTest, FinishingAfterAFailureFailsAndLeavesNothing) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, AFinishThatFailsLeavesNothing) {
+TEST_F(ExporterTest, aFinishThatFailsLeavesNothing) {
     movies.failFinish = "The end cannot be written.";
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.finish());
@@ -238,7 +238,7 @@ TEST_F(ExporterTest, AFinishThatFailsLeavesNothing) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, AMovieThatCannotTakeItsPlaceLeavesNothing) {
+TEST_F(ExporterTest, aMovieThatCannotTakeItsPlaceLeavesNothing) {
     ASSERT_TRUE(exporter.start());
     std::filesystem::remove(folder.file("movie.avi"));
     std::filesystem::create_directory(folder.file("movie.avi"));
@@ -248,7 +248,7 @@ TEST_F(ExporterTest, AMovieThatCannotTakeItsPlaceLeavesNothing) {
     EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
 }
 
-TEST_F(ExporterTest, CancelClosesTheWriterAndRemovesThePart) {
+TEST_F(ExporterTest, cancelClosesTheWriterAndRemovesThePart) {
     ASSERT_TRUE(exporter.start());
     EXPECT_THAT(folder.names(), ElementsAre("movie.avi", "movie.avi.part"));
     EXPECT_TRUE(exporter.cancel());
@@ -257,7 +257,7 @@ TEST_F(ExporterTest, CancelClosesTheWriterAndRemovesThePart) {
     expectNothingWritten();
 }
 
-TEST_F(ExporterTest, WithoutARecordingThereIsNothingToDo) {
+TEST_F(ExporterTest, withoutARecordingThereIsNothingToDo) {
     EXPECT_FALSE(exporter.nextFrame());
     EXPECT_FALSE(exporter.finish());
     EXPECT_FALSE(exporter.cancel());
@@ -265,7 +265,7 @@ TEST_F(ExporterTest, WithoutARecordingThereIsNothingToDo) {
     EXPECT_THAT(movies.log, IsEmpty());
 }
 
-TEST_F(ExporterTest, ANewMovieForgetsTheFailureOfTheLast) {
+TEST_F(ExporterTest, aNewMovieForgetsTheFailureOfTheLast) {
     movies.failAdd = 1;
     EXPECT_FALSE(exporter.start());
     movies.failAdd = 0;
@@ -274,7 +274,7 @@ TEST_F(ExporterTest, ANewMovieForgetsTheFailureOfTheLast) {
     EXPECT_EQ(exporter.frames(), 1U);
 }
 
-TEST_F(ExporterTest, ItsEndRemovesAMovieThatIsNotComplete) {
+TEST_F(ExporterTest, itsEndRemovesAMovieThatIsNotComplete) {
     {
         Exporter other(page, setup, drawing, renderer, movies);
         ASSERT_TRUE(other.start());

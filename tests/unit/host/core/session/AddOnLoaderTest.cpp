@@ -1,6 +1,7 @@
 // Tests of add-ons and of loading their libraries.
 #include "host/core/session/AddOnLoader.h"
 
+#include "tests/support/Folders.h"
 #include "tests/support/TempFolder.h"
 #include "tests/unit/host/core/Fakes.h"
 
@@ -17,7 +18,7 @@ namespace {
 using testing::HasSubstr;
 
 std::string library(const std::string& name) {
-    return CORVANE_BINARY_DIR "/tests/libraries/" + name + ".so";
+    return test::builtFile("tests/libraries/" + name + ".so");
 }
 
 bool isLoaded(const std::string& file) {
@@ -43,7 +44,7 @@ protected:
     Session& session = host.session;
 };
 
-TEST_F(AddOnsTest, KeepsAddOnsAtTheirAddress) {
+TEST_F(AddOnsTest, keepsAddOnsAtTheirAddress) {
     AddOns addOns;
     const CorAddOnID first = addOns.add({110, "A", "1", "x"});
     for (int i = 0; i < 100; ++i) {
@@ -57,36 +58,36 @@ TEST_F(AddOnsTest, KeepsAddOnsAtTheirAddress) {
     EXPECT_FALSE(addOns.isKnown(&stranger));
 }
 
-TEST_F(AddOnsTest, LoadsALibraryAndCallsItsEntryPoint) {
+TEST_F(AddOnsTest, loadsALibraryAndCallsItsEntryPoint) {
     loadAddOn(session, library("WellBehaved"));
     ASSERT_EQ(session.addOns().all().size(), 1U);
     EXPECT_EQ(session.addOns().all()[0]->name, "Well behaved");
     EXPECT_TRUE(isLoaded(library("WellBehaved")));
 }
 
-TEST_F(AddOnsTest, LoadsALibraryOnce) {
+TEST_F(AddOnsTest, loadsALibraryOnce) {
     loadAddOn(session, library("WellBehaved"));
     EXPECT_THAT(failureOf(library("WellBehaved")), HasSubstr("it is loaded already"));
     EXPECT_EQ(session.addOns().all().size(), 1U);
 }
 
-TEST_F(AddOnsTest, ABareNameMeansAFileHere) {
+TEST_F(AddOnsTest, aBareNameMeansAFileHere) {
     const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(CORVANE_BINARY_DIR "/tests/libraries");
+    std::filesystem::current_path(test::builtFile("tests/libraries"));
     const std::string failure = failureOf("WellBehaved.so");
     std::filesystem::current_path(before);
     EXPECT_EQ(failure, "");
     EXPECT_EQ(session.addOns().all().size(), 1U);
 }
 
-TEST_F(AddOnsTest, ALibraryWithoutEntryPointIsUnloadedAgain) {
+TEST_F(AddOnsTest, aLibraryWithoutEntryPointIsUnloadedAgain) {
     const std::string failure = failureOf(library("NoEntryPoint"));
     EXPECT_THAT(failure, HasSubstr(library("NoEntryPoint")));
     EXPECT_THAT(failure, HasSubstr("InitCorAddOn113"));
     EXPECT_FALSE(isLoaded(library("NoEntryPoint")));
 }
 
-TEST_F(AddOnsTest, AnEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
+TEST_F(AddOnsTest, anEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
     EXPECT_EQ(failureOf(library("Throwing")), "") << "the host goes on";
     ASSERT_EQ(host.prompts.errors.size(), 1U);
     EXPECT_THAT(host.prompts.errors[0], HasSubstr(library("Throwing")));
@@ -95,7 +96,7 @@ TEST_F(AddOnsTest, AnEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
     EXPECT_TRUE(isLoaded(library("Throwing"))) << "its objects may be in use";
 }
 
-TEST_F(AddOnsTest, FilesThatAreNoLibrariesAreNamed) {
+TEST_F(AddOnsTest, filesThatAreNoLibrariesAreNamed) {
     const test::TempFolder folder;
     EXPECT_THAT(failureOf(folder.file("missing.so")), HasSubstr(folder.file("missing.so")));
     const std::string text = folder.write("text.so", "not a library");

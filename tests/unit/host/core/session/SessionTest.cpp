@@ -43,7 +43,7 @@ protected:
     std::vector<StateChange_e> told;
 };
 
-TEST_F(SessionTest, TheMostRecentlyCreatedHostIsTheCurrentOne) {
+TEST_F(SessionTest, theMostRecentlyCreatedHostIsTheCurrentOne) {
     EXPECT_EQ(Host::current(), &program);
     {
         fakes::FakeHost younger;
@@ -52,12 +52,12 @@ TEST_F(SessionTest, TheMostRecentlyCreatedHostIsTheCurrentOne) {
     EXPECT_EQ(Host::current(), &program);
 }
 
-TEST(HostLife, ThereIsNoneAfterTheLastOne) {
+TEST(HostLife, thereIsNoneAfterTheLastOne) {
     { const fakes::FakeHost host; }
     EXPECT_EQ(Host::current(), nullptr);
 }
 
-TEST_F(SessionTest, OpensDataIntoANewFrameOfTheWholeWorkArea) {
+TEST_F(SessionTest, opensDataIntoANewFrameOfTheWholeWorkArea) {
     session.page().workArea = {800, 600, 100.0};
     session.openData({"a", "b"});
     EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("a", "b")));
@@ -70,21 +70,21 @@ TEST_F(SessionTest, OpensDataIntoANewFrameOfTheWholeWorkArea) {
     EXPECT_EQ(session.drawing().renders(), 0U);
 }
 
-TEST_F(SessionTest, OpensDataIntoTheActiveFrame) {
+TEST_F(SessionTest, opensDataIntoTheActiveFrame) {
     session.page().createFrame({1, 1, 2, 2});
     session.openData({"a"});
     EXPECT_EQ(session.page().frames().size(), 1U);
     EXPECT_THAT(told, ElementsAre(StateChange_DataSetAttached));
 }
 
-TEST_F(SessionTest, AHiddenWindowGivesAFrameWithAnExtent) {
+TEST_F(SessionTest, aHiddenWindowGivesAFrameWithAnExtent) {
     session.page().workArea = {0, 0, 100.0};
     session.openData({"a"});
     EXPECT_GT(frame().placement.width, 0.0);
     EXPECT_GT(frame().placement.height, 0.0);
 }
 
-TEST_F(SessionTest, DataThatCannotBeReadLeaveTheOldOnesAlone) {
+TEST_F(SessionTest, dataThatCannotBeReadLeaveTheOldOnesAlone) {
     open();
     const auto before = frame().data();
     const FrameStyle style = frame().style;
@@ -96,14 +96,14 @@ TEST_F(SessionTest, DataThatCannotBeReadLeaveTheOldOnesAlone) {
     EXPECT_FALSE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, DataThatCannotBeReadMakeNoFrame) {
+TEST_F(SessionTest, dataThatCannotBeReadMakeNoFrame) {
     host.reader.failure = "Cannot read y.";
     EXPECT_THROW(session.openData({"y"}), HostError);
     EXPECT_EQ(session.page().active(), nullptr);
     EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(SessionTest, AWriteToTheViewTellsOfTheViewAndMarks) {
+TEST_F(SessionTest, aWriteToTheViewTellsOfTheViewAndMarks) {
     open();
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, 12.0), StyleSet_Ok);
     EXPECT_EQ(frame().view.psi, 12.0);
@@ -112,14 +112,14 @@ TEST_F(SessionTest, AWriteToTheViewTellsOfTheViewAndMarks) {
     EXPECT_EQ(session.drawing().renders(), 1U) << "the one of opening";
 }
 
-TEST_F(SessionTest, AWriteToThePictureTellsOfTheStyleAndMarks) {
+TEST_F(SessionTest, aWriteToThePictureTellsOfTheStyleAndMarks) {
     open();
     EXPECT_EQ(session.setStyle({"GlobalThreeD", "LightSource", "Intensity"}, 1.0), StyleSet_Ok);
     EXPECT_THAT(told, ElementsAre(StateChange_StyleChanged));
     EXPECT_TRUE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, AWriteWithoutEffectOnThePictureTellsAndDoesNotMark) {
+TEST_F(SessionTest, aWriteWithoutEffectOnThePictureTellsAndDoesNotMark) {
     EXPECT_EQ(session.setStyle({"Interface", "UseDisplayLists"}, 0L), StyleSet_Ok);
     EXPECT_EQ(session.setStyle({"exportsetup", "ImageWidth"}, 99L), StyleSet_Ok);
     EXPECT_EQ(session.exportSetup().imageWidth, 99);
@@ -127,7 +127,7 @@ TEST_F(SessionTest, AWriteWithoutEffectOnThePictureTellsAndDoesNotMark) {
     EXPECT_FALSE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, AWriteThatChangesNothingTellsNobody) {
+TEST_F(SessionTest, aWriteThatChangesNothingTellsNobody) {
     open();
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, frame().view.psi), StyleSet_Unchanged);
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, 1L), StyleSet_BadValue);
@@ -137,7 +137,7 @@ TEST_F(SessionTest, AWriteThatChangesNothingTellsNobody) {
     EXPECT_FALSE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, ReadsStylesOfFrameAndApplication) {
+TEST_F(SessionTest, readsStylesOfFrameAndApplication) {
     open();
     StyleInput value;
     EXPECT_EQ(session.getStyle({"ThreeDView", "PSIAngle"}, value), StyleGet_Ok);
@@ -148,7 +148,7 @@ TEST_F(SessionTest, ReadsStylesOfFrameAndApplication) {
     EXPECT_EQ(value, StyleInput(14L));
 }
 
-TEST_F(SessionTest, StylesOfAFrameNeedA3DFrame) {
+TEST_F(SessionTest, stylesOfAFrameNeedA3DFrame) {
     StyleInput value;
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, 1.0), StyleSet_NotAllowed);
     EXPECT_EQ(session.getStyle({"ThreeDView", "PSIAngle"}, value), StyleGet_NotAvailable);
@@ -161,7 +161,7 @@ TEST_F(SessionTest, StylesOfAFrameNeedA3DFrame) {
     EXPECT_EQ(session.setStyle({"Interface", "UseDisplayLists"}, 0L), StyleSet_Ok);
 }
 
-TEST_F(SessionTest, StylesReachTheFrameOfAWalk) {
+TEST_F(SessionTest, stylesReachTheFrameOfAWalk) {
     session.page().createFrame({});
     session.page().createFrame({}).view.psi = 7;
     session.page().activate(1);
@@ -171,7 +171,7 @@ TEST_F(SessionTest, StylesReachTheFrameOfAWalk) {
     EXPECT_EQ(value, StyleInput(7.0));
 }
 
-TEST_F(SessionTest, SetsTheSolutionTimeWithoutDrawing) {
+TEST_F(SessionTest, setsTheSolutionTimeWithoutDrawing) {
     open();
     EXPECT_TRUE(session.setSolutionTime(2.5));
     EXPECT_TRUE(session.setSolutionTime(2.5));
@@ -181,7 +181,7 @@ TEST_F(SessionTest, SetsTheSolutionTimeWithoutDrawing) {
     EXPECT_EQ(session.drawing().renders(), 1U);
 }
 
-TEST_F(SessionTest, RefusesTimesThatAreNotFiniteAndTimesWithoutData) {
+TEST_F(SessionTest, refusesTimesThatAreNotFiniteAndTimesWithoutData) {
     EXPECT_FALSE(session.setSolutionTime(1.0));
     session.page().createFrame({});
     EXPECT_FALSE(session.setSolutionTime(1.0));
@@ -192,7 +192,7 @@ TEST_F(SessionTest, RefusesTimesThatAreNotFiniteAndTimesWithoutData) {
     EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(SessionTest, RotatesTheView) {
+TEST_F(SessionTest, rotatesTheView) {
     open();
     View3D expected = frame().view;
     rotate(expected, RotateAxis_Theta, 10.0);
@@ -202,7 +202,7 @@ TEST_F(SessionTest, RotatesTheView) {
     EXPECT_TRUE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, RotationsThatCannotBeDoneChangeNothing) {
+TEST_F(SessionTest, rotationsThatCannotBeDoneChangeNothing) {
     EXPECT_FALSE(session.rotateView(RotateAxis_Psi, 1.0));
     open();
     EXPECT_FALSE(session.rotateView(RotateAxis_Psi, std::numeric_limits<double>::infinity()));
@@ -215,7 +215,7 @@ TEST_F(SessionTest, RotationsThatCannotBeDoneChangeNothing) {
     EXPECT_FALSE(session.drawing().isMarked());
 }
 
-TEST_F(SessionTest, FitsTheView) {
+TEST_F(SessionTest, fitsTheView) {
     EXPECT_FALSE(session.fitView());
     open();
     const View3D fitted = frame().view;
@@ -230,7 +230,7 @@ TEST_F(SessionTest, FitsTheView) {
     EXPECT_FALSE(session.fitView());
 }
 
-TEST_F(SessionTest, SetsThePlotType) {
+TEST_F(SessionTest, setsThePlotType) {
     EXPECT_FALSE(session.setPlotType(PlotType_Cartesian2D));
     open();
     EXPECT_TRUE(session.setPlotType(PlotType_Cartesian2D));
@@ -238,7 +238,7 @@ TEST_F(SessionTest, SetsThePlotType) {
     EXPECT_THAT(told, ElementsAre(StateChange_PlotTypeChanged));
 }
 
-TEST_F(SessionTest, AFailedMovieStopsTheAnimationUntilItIsCancelled) {
+TEST_F(SessionTest, aFailedMovieStopsTheAnimationUntilItIsCancelled) {
     const test::TempFolder folder;
     open();
     session.exportSetup().fileName = folder.file("movie.avi");
@@ -256,7 +256,7 @@ TEST_F(SessionTest, AFailedMovieStopsTheAnimationUntilItIsCancelled) {
     EXPECT_TRUE(session.status().check(1)) << "the next animation has nothing to do with it";
 }
 
-TEST_F(SessionTest, TheExportSetupIsClosedWhileAMovieIsRecorded) {
+TEST_F(SessionTest, theExportSetupIsClosedWhileAMovieIsRecorded) {
     const test::TempFolder folder;
     open();
     session.exportSetup().fileName = folder.file("movie.avi");
@@ -277,21 +277,21 @@ protected:
     }
 };
 
-TEST_F(AddOnCallGuard, LetsCallsThrough) {
+TEST_F(AddOnCallGuard, letsCallsThrough) {
     bool called = false;
     EXPECT_EQ(session.callAddOn("call", [&called] { called = true; }), "");
     EXPECT_TRUE(called);
     EXPECT_THAT(misuses, IsEmpty());
 }
 
-TEST_F(AddOnCallGuard, CatchesWhateverIsThrown) {
+TEST_F(AddOnCallGuard, catchesWhateverIsThrown) {
     EXPECT_EQ(session.callAddOn("call", [] { throw std::out_of_range("row 7"); }), "row 7");
     EXPECT_EQ(session.callAddOn("call", [] { throw 7; }),
               "The add-on failed for an unknown reason.");
     EXPECT_NE(session.callAddOn("call", [] { throw std::runtime_error(""); }), "");
 }
 
-TEST_F(AddOnCallGuard, PutsLocksAndSuspensionsBackAfterAnException) {
+TEST_F(AddOnCallGuard, putsLocksAndSuspensionsBackAfterAnException) {
     session.locks().start(addOn);
     session.drawing().suspend();
     session.callAddOn("call", [this] {
@@ -305,7 +305,7 @@ TEST_F(AddOnCallGuard, PutsLocksAndSuspensionsBackAfterAnException) {
     EXPECT_EQ(session.drawing().suspensions(), 1);
 }
 
-TEST_F(AddOnCallGuard, AsksForThePictureThatTheLeftLocksHeldBack) {
+TEST_F(AddOnCallGuard, asksForThePictureThatTheLeftLocksHeldBack) {
     open();
     session.callAddOn("call", [this] {
         session.locks().start(addOn);
@@ -320,7 +320,7 @@ TEST_F(AddOnCallGuard, AsksForThePictureThatTheLeftLocksHeldBack) {
     EXPECT_FALSE(session.drawing().isMarked());
 }
 
-TEST_F(AddOnCallGuard, PutsBackWhatAnOrderlyCallLeftAndTellsTheTrace) {
+TEST_F(AddOnCallGuard, putsBackWhatAnOrderlyCallLeftAndTellsTheTrace) {
     open();
     session.locks().start(nullptr);
     EXPECT_EQ(session.callAddOn("taking", [this] { session.locks().start(addOn); }), "");
@@ -335,7 +335,7 @@ TEST_F(AddOnCallGuard, PutsBackWhatAnOrderlyCallLeftAndTellsTheTrace) {
                             "suspending: suspended drawing is not balanced (0 before, 1 after)"));
 }
 
-TEST_F(AddOnCallGuard, DrawsWhatAForgottenLockHeldBack) {
+TEST_F(AddOnCallGuard, drawsWhatAForgottenLockHeldBack) {
     open();
     session.onIdle();
     const auto renders = session.drawing().renders();
@@ -347,7 +347,7 @@ TEST_F(AddOnCallGuard, DrawsWhatAForgottenLockHeldBack) {
     EXPECT_EQ(session.drawing().renders(), renders + 1);
 }
 
-TEST_F(AddOnCallGuard, TellsTheTraceWhatWasThrown) {
+TEST_F(AddOnCallGuard, tellsTheTraceWhatWasThrown) {
     std::vector<std::string> exceptions;
     session.trace().onException = [&](const std::string& what) { exceptions.push_back(what); };
     session.callAddOn("idle work of libBad.so", [] { throw std::out_of_range("row 7"); });
@@ -355,7 +355,7 @@ TEST_F(AddOnCallGuard, TellsTheTraceWhatWasThrown) {
     EXPECT_THAT(misuses, IsEmpty());
 }
 
-TEST_F(AddOnCallGuard, ListenersThatThrowAreShownAndTheOthersAreTold) {
+TEST_F(AddOnCallGuard, listenersThatThrowAreShownAndTheOthersAreTold) {
     session.stateChanges().addCallback([](StateChange_e) { throw std::runtime_error("listener"); });
     session.page().createFrame({});
     session.setPlotType(PlotType_Cartesian2D);
@@ -363,7 +363,7 @@ TEST_F(AddOnCallGuard, ListenersThatThrowAreShownAndTheOthersAreTold) {
     EXPECT_THAT(told, ElementsAre(StateChange_PlotTypeChanged));
 }
 
-TEST_F(AddOnCallGuard, IdleWorkThatThrowsIsShownAndTheRestIsDone) {
+TEST_F(AddOnCallGuard, idleWorkThatThrowsIsShownAndTheRestIsDone) {
     bool done = false;
     session.idle().add([this] {
         session.locks().start(addOn);
@@ -376,7 +376,7 @@ TEST_F(AddOnCallGuard, IdleWorkThatThrowsIsShownAndTheRestIsDone) {
     EXPECT_EQ(session.locks().depth(), 0);
 }
 
-TEST_F(SessionTest, IdleTimeDoesTheWorkAndThenDraws) {
+TEST_F(SessionTest, idleTimeDoesTheWorkAndThenDraws) {
     std::uint64_t rendersAtWork = 99;
     session.idle().add([this, &rendersAtWork] { rendersAtWork = session.drawing().renders(); });
     session.drawing().mark();
@@ -385,7 +385,7 @@ TEST_F(SessionTest, IdleTimeDoesTheWorkAndThenDraws) {
     EXPECT_EQ(session.drawing().renders(), 1U);
 }
 
-TEST_F(SessionTest, APictureThatFailsAtIdleTimeIsShownOnce) {
+TEST_F(SessionTest, aPictureThatFailsAtIdleTimeIsShownOnce) {
     host.screen.fails = true;
     session.drawing().mark();
     session.onIdle();
@@ -393,7 +393,7 @@ TEST_F(SessionTest, APictureThatFailsAtIdleTimeIsShownOnce) {
     EXPECT_THAT(host.prompts.errors, ElementsAre("The screen is gone."));
 }
 
-TEST_F(SessionTest, QuittingTellsOnceAndDropsIdleWork) {
+TEST_F(SessionTest, quittingTellsOnceAndDropsIdleWork) {
     bool ran = false;
     session.idle().add([&ran] { ran = true; });
     session.drawing().suspend();

@@ -18,7 +18,7 @@ protected:
     StatusLine line{display};
 };
 
-TEST_F(StatusLineTest, ShowsTextAndPercent) {
+TEST_F(StatusLineTest, showsTextAndPercent) {
     line.start("Playing", true, false);
     EXPECT_TRUE(line.isActive());
     EXPECT_TRUE(line.check(5));
@@ -30,14 +30,14 @@ TEST_F(StatusLineTest, ShowsTextAndPercent) {
                 ElementsAre("start Playing stop", "5", "text Half way", "50", "finish"));
 }
 
-TEST_F(StatusLineTest, ClampsPercent) {
+TEST_F(StatusLineTest, clampsPercent) {
     line.start("", false, true);
     line.check(-20);
     line.check(1000);
     EXPECT_THAT(display.log, ElementsAre("start  bar", "0", "100"));
 }
 
-TEST_F(StatusLineTest, LatchesTheWishToStopUntilTheEnd) {
+TEST_F(StatusLineTest, latchesTheWishToStopUntilTheEnd) {
     line.start("", true, true);
     display.stop = true;
     EXPECT_FALSE(line.check(1));
@@ -51,7 +51,7 @@ TEST_F(StatusLineTest, LatchesTheWishToStopUntilTheEnd) {
     EXPECT_TRUE(line.check(3));
 }
 
-TEST_F(StatusLineTest, AFailureStopsWithoutTheUser) {
+TEST_F(StatusLineTest, aFailureStopsWithoutTheUser) {
     bool failed = false;
     StatusLine guarded(display, [&failed] { return failed; });
     guarded.start("", true, true);
@@ -66,7 +66,7 @@ TEST_F(StatusLineTest, AFailureStopsWithoutTheUser) {
     EXPECT_TRUE(guarded.check(4));
 }
 
-TEST_F(StatusLineTest, ShowsTheOutermostOfNestedDisplays) {
+TEST_F(StatusLineTest, showsTheOutermostOfNestedDisplays) {
     line.start("outer", true, true);
     line.start("inner", true, true);
     line.setText("inner text");
@@ -78,7 +78,7 @@ TEST_F(StatusLineTest, ShowsTheOutermostOfNestedDisplays) {
     EXPECT_THAT(display.log, ElementsAre("start outer stop bar", "10", "finish"));
 }
 
-TEST_F(StatusLineTest, AStopWithinANestedDisplayReachesTheOutermost) {
+TEST_F(StatusLineTest, aStopWithinANestedDisplayReachesTheOutermost) {
     line.start("outer", true, true);
     line.start("inner", true, true);
     display.stop = true;
@@ -88,7 +88,7 @@ TEST_F(StatusLineTest, AStopWithinANestedDisplayReachesTheOutermost) {
     EXPECT_FALSE(line.check(2));
 }
 
-TEST_F(StatusLineTest, ToleratesCallsWithoutAStart) {
+TEST_F(StatusLineTest, toleratesCallsWithoutAStart) {
     display.stop = true;
     line.setText("nobody sees this");
     EXPECT_TRUE(line.check(50));

@@ -51,8 +51,9 @@ TEST_F(AviFormat, preservesColorsWithoutSharingThemBetweenPixels) {
 /// A number of four bytes, the lowest first.
 long numberAt(const std::string& bytes, std::size_t at) {
     unsigned long number = 0;
-    for (std::size_t i = 4; i-- > 0;)
+    for (std::size_t i = 4; i-- > 0;) {
         number = number * 256 + static_cast<unsigned char>(bytes.at(at + i));
+    }
     return static_cast<std::int32_t>(number);
 }
 

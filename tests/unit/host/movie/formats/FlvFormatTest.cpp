@@ -35,8 +35,9 @@ TEST(FlvFormat, hasACodecOfItsOwnWhereLibavHasNoX264) {
     settings.encoders.front().encoder = "an encoder that nobody has";
     movie::MovieFile file(request, settings);
     const auto originals = movingPictures(321, 240, 30);
-    for (const host::Picture& picture : originals)
+    for (const host::Picture& picture : originals) {
         file.write(picture);
+    }
     file.finish();
     const DecodedMovie movie(request.path);
     EXPECT_EQ(movie.codec, "flv1");

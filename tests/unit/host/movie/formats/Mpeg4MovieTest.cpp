@@ -117,8 +117,9 @@ TEST(Mpeg4Movie, givesTheSamePicturesOneByOne) {
     writeMovingMovie(movieRequest(folder.path("movie.mp4"), 64, 48), 5);
     const DecodedMovie movie(folder.path("movie.mp4"));
     const auto pictures = movie.pictures();
-    for (long n = 0; n < 5; ++n)
+    for (long n = 0; n < 5; ++n) {
         EXPECT_EQ(movie.picture(n), pictures[static_cast<std::size_t>(n)]);
+    }
 }
 
 std::string textOf(const Color& color) {
@@ -140,8 +141,9 @@ TEST_P(MovieColor, comesBack) {
         writer->finish();
         const auto shown =
             meanColor(DecodedMovie(folder.path("movie.mp4")).picture(0), 0, 0, width, height);
-        for (std::size_t i = 0; i < 3; ++i)
+        for (std::size_t i = 0; i < 3; ++i) {
             EXPECT_NEAR(shown[i], color[i], 3.0) << "channel " << i << ", width " << width;
+        }
     }
 }
 
@@ -155,8 +157,9 @@ INSTANTIATE_TEST_SUITE_P(Colors, MovieColor,
 TEST(Mpeg4Movie, repeatsTheLastRowAndColumnOfOddSizes) {
     const TestFolder folder;
     host::Picture picture = uniformPicture(33, 31, {40, 80, 160});
-    for (int y = 0; y < 31; ++y) // the last columns, wide enough to own their colours
+    for (int y = 0; y < 31; ++y) { // the last columns, wide enough to own their colours
         std::fill_n(picture.rgba.begin() + (y * 33 + 25) * 4, 8 * 4, std::uint8_t{255});
+    }
     movie::LibavMovieWriters writers;
     const auto writer = writers.open(movieRequest(folder.path("movie.mp4"), 33, 31));
     writer->add(picture);
@@ -164,8 +167,9 @@ TEST(Mpeg4Movie, repeatsTheLastRowAndColumnOfOddSizes) {
     const host::Picture shown = DecodedMovie(folder.path("movie.mp4")).picture(0);
     EXPECT_EQ(shown.width, 34);
     EXPECT_EQ(shown.height, 32);
-    for (const double level : meanColor(shown, 33, 0, 1, 32))
+    for (const double level : meanColor(shown, 33, 0, 1, 32)) {
         EXPECT_NEAR(level, 255.0, 6.0);
+    }
     const auto bottom = meanColor(shown, 0, 31, 20, 1);
     EXPECT_NEAR(bottom[0], 40.0, 6.0);
     EXPECT_NEAR(bottom[1], 80.0, 6.0);

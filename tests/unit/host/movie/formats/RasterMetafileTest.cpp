@@ -19,15 +19,18 @@ std::vector<host::Picture> picturesIn(const std::string& path) {
         host::Picture picture;
         int largest = 0;
         file >> picture.width >> picture.height >> largest;
-        if (magic != "P6" || largest != 255 || file.get() != '\n')
+        if (magic != "P6" || largest != 255 || file.get() != '\n') {
             throw std::runtime_error("this is no raster metafile");
+        }
         for (int pixel = 0; pixel < picture.width * picture.height; ++pixel) {
-            for (int channel = 0; channel < 3; ++channel)
+            for (int channel = 0; channel < 3; ++channel) {
                 picture.rgba.push_back(static_cast<std::uint8_t>(file.get()));
+            }
             picture.rgba.push_back(255);
         }
-        if (!file)
+        if (!file) {
             throw std::runtime_error("the last picture is cut off");
+        }
         pictures.push_back(std::move(picture));
     }
     return pictures;

@@ -30,8 +30,9 @@ protected:
 TEST_F(MovieFile, usesTheNextEncoderWhereTheFirstIsMissing) {
     m_settings.encoders.front().encoder = "an encoder that nobody has";
     movie::MovieFile file(movieRequest(path(), 321, 240, 29.97), m_settings);
-    for (int n = 0; n < 40; ++n)
+    for (int n = 0; n < 40; ++n) {
         file.write(movingPicture(321, 240, n));
+    }
     file.finish();
 
     const DecodedMovie movie(path());

@@ -52,8 +52,9 @@ TEST(IndexedPicture, hasNoMoreThan256ColorsOfMany) {
 /// The nearest colours of the usual fixed palette: 6 levels each of red, green and blue.
 host::Picture inFixedPalette(host::Picture picture) {
     for (std::size_t i = 0; i < picture.rgba.size(); ++i) {
-        if (i % 4 != 3)
+        if (i % 4 != 3) {
             picture.rgba[i] = static_cast<std::uint8_t>((picture.rgba[i] + 25) / 51 * 51);
+        }
     }
     return picture;
 }

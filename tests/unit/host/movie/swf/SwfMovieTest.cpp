@@ -52,8 +52,9 @@ protected:
 
 std::vector<unsigned> codesOf(const SwfContent& content) {
     std::vector<unsigned> codes;
-    for (const SwfTag& tag : content.tags)
+    for (const SwfTag& tag : content.tags) {
         codes.push_back(tag.code);
+    }
     return codes;
 }
 
@@ -170,8 +171,9 @@ TEST_F(SwfMovie, isSmallerWhenItAimsAtItsSizeAndShowsTheSame) {
 TEST_F(SwfMovie, tellsWhenItHasNoNumbersLeft) {
     movie::SwfMovie movie(request(FlashImageType_256Color, 1, 1));
     const host::Picture picture = uniformPicture(1, 1, {1, 2, 3});
-    for (int n = 0; n < 32767; ++n)
+    for (int n = 0; n < 32767; ++n) {
         movie.write(picture);
+    }
     EXPECT_THAT([&] { movie.write(picture); },
                 ThrowsMessage<host::HostError>(HasSubstr("at most 32767 pictures")));
     movie.finish();

@@ -22,8 +22,9 @@ class ReadAheadTest : public testing::Test {
 protected:
     scene::ReadAhead::Steps notes(std::vector<int> numbers) {
         scene::ReadAhead::Steps steps;
-        for (const int number : numbers)
+        for (const int number : numbers) {
             steps.emplace_back([this, number] { done.push_back(number); });
+        }
         return steps;
     }
     /// Returns when the worker stands in a step that lasts until letGo().

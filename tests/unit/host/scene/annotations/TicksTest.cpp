@@ -9,8 +9,9 @@ namespace {
 
 std::string labels(double minimum, double maximum, int count = 7) {
     std::string text;
-    for (const auto& tick : scene::roundTicks(minimum, maximum, count))
+    for (const auto& tick : scene::roundTicks(minimum, maximum, count)) {
         text += (text.empty() ? "" : " ") + tick.label;
+    }
     return text;
 }
 
@@ -35,7 +36,7 @@ TEST(Ticks, smallAndLargeNumbersAreTellableApart) {
 }
 
 TEST(Ticks, neverMoreThanAskedFor) {
-    for (const int count : {2, 3, 5, 7, 11})
+    for (const int count : {2, 3, 5, 7, 11}) {
         for (double extent = 0.013; extent < 1e6; extent *= 1.37) {
             const auto ticks = scene::roundTicks(-0.31 * extent, 0.69 * extent, count);
             EXPECT_LE(static_cast<int>(ticks.size()), count) << extent;
@@ -45,6 +46,7 @@ TEST(Ticks, neverMoreThanAskedFor) {
                 EXPECT_LE(tick.value, 0.691 * extent);
             }
         }
+    }
 }
 
 TEST(Ticks, aRangeWithoutExtentHasOne) {

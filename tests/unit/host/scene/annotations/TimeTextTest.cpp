@@ -9,8 +9,9 @@ namespace {
 
 host::DataSet dataWithTimes(const std::vector<double>& times) {
     host::DataSet data;
-    for (const double time : times)
+    for (const double time : times) {
         data.zones.push_back({0, time, 1, true});
+    }
     return data;
 }
 

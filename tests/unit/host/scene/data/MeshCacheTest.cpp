@@ -43,9 +43,11 @@ TEST(MeshCache, aTimeIsReadWhenItIsNeededAndKept) {
     const CountedSeries series(9, plenty);
     series.data().mesh(2);
     EXPECT_EQ(series.reads(), 5);
-    for (int round = 0; round < 3; ++round)
-        for (const int zone : {0, 2, 4, 8, 9})
+    for (int round = 0; round < 3; ++round) {
+        for (const int zone : {0, 2, 4, 8, 9}) {
             series.data().mesh(zone);
+        }
+    }
     EXPECT_EQ(series.reads(), 5);
 }
 
@@ -53,11 +55,13 @@ TEST(MeshCache, theMeshesUsedLastAreKeptWithinTheBudget) {
     const CountedSeries sample(1, plenty);
     const std::size_t bytes = sample.data().mesh(0)->GetActualMemorySize() * std::size_t{1024};
     const CountedSeries series(9, 3 * bytes + bytes / 2);
-    for (const int zone : {1, 2, 3})
+    for (const int zone : {1, 2, 3}) {
         series.data().mesh(zone);
+    }
     const long before = series.reads();
-    for (const int zone : {1, 2, 3, 1})
+    for (const int zone : {1, 2, 3, 1}) {
         series.data().mesh(zone);
+    }
     EXPECT_EQ(series.reads(), before);
     series.data().mesh(5); // 2 was used longest ago
     series.data().mesh(1);
@@ -69,8 +73,9 @@ TEST(MeshCache, theMeshesUsedLastAreKeptWithinTheBudget) {
 
 TEST(MeshCache, aBudgetTooSmallForAnythingStillWorks) {
     const CountedSeries series(3, 0);
-    for (int zone = 0; zone < 3; ++zone)
+    for (int zone = 0; zone < 3; ++zone) {
         EXPECT_EQ(series.data().mesh(zone)->GetNumberOfCells(), 64);
+    }
     const long before = series.reads();
     series.data().mesh(2);
     EXPECT_EQ(series.reads(), before);

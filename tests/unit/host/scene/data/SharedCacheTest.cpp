@@ -49,11 +49,13 @@ TEST(SharedCache, makesAValueOnce) {
 
 TEST(SharedCache, dropsWhatWasUsedLongestAgo) {
     Counted counted(30);
-    for (const int key : {1, 2, 3, 1, 4}) // 2 must go
+    for (const int key : {1, 2, 3, 1, 4}) { // 2 must go
         counted.get(key);
+    }
     EXPECT_FALSE(counted.cache.has(2));
-    for (const int key : {1, 3, 4})
+    for (const int key : {1, 3, 4}) {
         EXPECT_TRUE(counted.cache.has(key)) << key;
+    }
 }
 
 TEST(SharedCache, keepsTheLastOneHoweverLarge) {
@@ -67,8 +69,9 @@ TEST(SharedCache, keepsTheLastOneHoweverLarge) {
 
 TEST(SharedCache, forgetsWhatItIsTold) {
     Counted counted(1000);
-    for (const int key : {1, 2, 3, 4})
+    for (const int key : {1, 2, 3, 4}) {
         counted.get(key);
+    }
     counted.cache.forget([](int key) { return key % 2 == 0; });
     EXPECT_TRUE(counted.cache.has(1) && counted.cache.has(3));
     EXPECT_FALSE(counted.cache.has(2) || counted.cache.has(4));

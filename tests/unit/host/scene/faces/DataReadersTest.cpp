@@ -84,8 +84,9 @@ TEST(Readers, volumesInLegacyFilesKeepAllArrays) {
 TEST(Readers, surfaces) {
     const TempFolder folder;
     const auto cube = sampleCube({2.0, 3.0, 4.0}, 1.0);
-    for (const char* name : {"cube.vtp", "cube.vtk", "cube.stl", "cube.ply", "cube.obj"})
+    for (const char* name : {"cube.vtp", "cube.vtk", "cube.stl", "cube.ply", "cube.obj"}) {
         expectCube(writeMesh(folder, name, cube));
+    }
 }
 
 TEST(Readers, extensionsInCapitals) {

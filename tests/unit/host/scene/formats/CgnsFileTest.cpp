@@ -14,7 +14,7 @@ using ::testing::UnorderedElementsAre;
 
 class CgnsFileTest : public FormatTest {};
 
-TEST_F(CgnsFileTest, BlocksAreTheZones) {
+TEST_F(CgnsFileTest, blocksAreTheZones) {
     const auto data = reader.read({writeCgnsBox(folder.path())});
     EXPECT_THAT(blockNames(*data), UnorderedElementsAre("box/Base/Box", "box/Base/Beside"));
     EXPECT_THAT(blockDimensions(*data), ElementsAre(3, 3));
@@ -27,7 +27,7 @@ TEST_F(CgnsFileTest, BlocksAreTheZones) {
     EXPECT_NE(data->findVariable("T"), nullptr) << "of the second zone alone";
 }
 
-TEST_F(CgnsFileTest, ValuesAreThoseOfTheTime) {
+TEST_F(CgnsFileTest, valuesAreThoseOfTheTime) {
     const std::string file = writeCgnsBox(folder.path());
     for (int step = 1; step < 3; ++step) {
         const double time = sampleTimes.at(static_cast<std::size_t>(step));
@@ -39,7 +39,7 @@ TEST_F(CgnsFileTest, ValuesAreThoseOfTheTime) {
     EXPECT_THAT(arrayNames(*readPart(file, 0, "Base/Box")), ElementsAre("U"));
 }
 
-TEST_F(CgnsFileTest, DamagedFilesAreRefusedWithoutAWordOnTheTerminal) {
+TEST_F(CgnsFileTest, damagedFilesAreRefusedWithoutAWordOnTheTerminal) {
     testing::internal::CaptureStderr();
     const std::string file = writeCgnsBox(folder.path());
     cutFile(file, std::filesystem::file_size(file) - 8);
@@ -51,17 +51,18 @@ TEST_F(CgnsFileTest, DamagedFilesAreRefusedWithoutAWordOnTheTerminal) {
 }
 
 /// VTK's reader would end the program.
-TEST_F(CgnsFileTest, AFileThatContradictsItselfIsRefused) {
+TEST_F(CgnsFileTest, aFileThatContradictsItselfIsRefused) {
     const std::string file = writeCgnsBox(folder.path());
     std::string bytes = folder.read("box.cgns");
     for (std::size_t at = bytes.find("Zone_t"); at != std::string::npos;
-         at = bytes.find("Zone_t", at + 1))
+         at = bytes.find("Zone_t", at + 1)) {
         bytes.replace(at, 6, "Zonk_t");
+    }
     replaceFile(file, bytes);
     EXPECT_THAT(errorOf(file), HasSubstr("box.cgns cannot be read: "));
 }
 
-TEST_F(CgnsFileTest, IsDrawn) {
+TEST_F(CgnsFileTest, isDrawn) {
     EXPECT_GT(colouredPixels(drawDefaults(writeCgnsBox(folder.path()), 0.25)), 500);
 }
 

@@ -18,8 +18,9 @@ constexpr auto real = CGNS_ENUMV(RealDouble);
 constexpr std::size_t nameLength = 32;
 
 void check(int code) {
-    if (code != CG_OK)
+    if (code != CG_OK) {
         throw std::runtime_error(cg_get_error());
+    }
 }
 
 class CgnsOutput {
@@ -84,8 +85,9 @@ private:
     void writeCoordinate(int zone, const char* name, const std::vector<host::Vec3>& points,
                          double host::Vec3::*axis) const {
         std::vector<double> values;
-        for (const host::Vec3& point : points)
+        for (const host::Vec3& point : points) {
             values.push_back(point.*axis);
+        }
         int coordinate = 0;
         check(cg_coord_write(m_file, m_base, zone, real, name, values.data(), &coordinate));
     }
@@ -99,8 +101,9 @@ private:
             p.push_back(samplePressure(point.x, sampleTimes.at(step)));
             x.push_back(point.x);
         }
-        if (step > 0)
+        if (step > 0) {
             writeField(zone, solution, "p", p);
+        }
         writeField(zone, solution, "UX", x);
         writeField(zone, solution, "UY", std::vector<double>(x.size(), 0.0));
         writeField(zone, solution, "UZ", std::vector<double>(x.size(), 0.0));

@@ -20,9 +20,11 @@ class DamagedFilesTest : public FormatTest, public testing::WithParamInterface<F
 protected:
     static std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder) {
         std::vector<std::filesystem::path> files;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-            if (entry.is_regular_file() && entry.file_size() > 0)
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+            if (entry.is_regular_file() && entry.file_size() > 0) {
                 files.push_back(entry.path());
+            }
+        }
         return files;
     }
 };
@@ -41,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Format{"Cgns", writeCgnsBox}),
     [](const testing::TestParamInfo<Format>& tested) { return tested.param.name; });
 
-TEST_P(DamagedFilesTest, AreReadOrRefusedWithOneSentence) {
+TEST_P(DamagedFilesTest, areReadOrRefusedWithOneSentence) {
     const std::string opened = GetParam().write(folder.path());
     ASSERT_EQ(errorOf(opened), "");
     constexpr std::uintmax_t parts = 9;

@@ -31,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, ExodusFileTest,
                              return tested.param == ExodusKind::Classic ? "Classic" : "Hdf5";
                          });
 
-TEST_P(ExodusFileTest, BlocksAreTheElementBlocks) {
+TEST_P(ExodusFileTest, blocksAreTheElementBlocks) {
     const auto data = reader.read({writeBox()});
     EXPECT_THAT(blockNames(*data), ElementsAre(HasSubstr("box/lower"), HasSubstr("box/upper")));
     EXPECT_THAT(blockDimensions(*data), ElementsAre(3, 3));
@@ -47,7 +47,7 @@ TEST_P(ExodusFileTest, BlocksAreTheElementBlocks) {
         << "U_X, U_Y and U_Z are one vector";
 }
 
-TEST_P(ExodusFileTest, ValuesAreThoseOfTheTime) {
+TEST_P(ExodusFileTest, valuesAreThoseOfTheTime) {
     const std::string file = writeBox();
     for (int step = 0; step < 3; ++step) {
         const double time = sampleTimes.at(static_cast<std::size_t>(step));
@@ -58,13 +58,14 @@ TEST_P(ExodusFileTest, ValuesAreThoseOfTheTime) {
     }
 }
 
-TEST_P(ExodusFileTest, AllItsExtensionsAreKnown) {
-    for (const char* const name : {"box.e", "box.exo", "box.ex2", "BOX.EXO"})
+TEST_P(ExodusFileTest, allItsExtensionsAreKnown) {
+    for (const char* const name : {"box.e", "box.exo", "box.ex2", "BOX.EXO"}) {
         EXPECT_EQ(errorOf(writeBox(name)), "") << name;
+    }
 }
 
 // HDF5 follows the references of a damaged heap to wherever they lead.
-TEST(ExodusDamage, HeapsThatCrashTheLibraryAreRefused) {
+TEST(ExodusDamage, heapsThatCrashTheLibraryAreRefused) {
     const TempFolder folder;
     const std::string file = writeExodusBox(folder.path(), "box.e", ExodusKind::Hdf5);
     const std::string whole = folder.read("box.e");
@@ -85,7 +86,7 @@ TEST(ExodusDamage, HeapsThatCrashTheLibraryAreRefused) {
     EXPECT_GT(refused, 0);
 }
 
-TEST_P(ExodusFileTest, ACutFileIsRefused) {
+TEST_P(ExodusFileTest, aCutFileIsRefused) {
     const std::string file = writeBox();
     const auto length = std::filesystem::file_size(file);
     cutFile(file, length - 8);
@@ -96,7 +97,7 @@ TEST_P(ExodusFileTest, ACutFileIsRefused) {
     EXPECT_THAT(errorOf(file), HasSubstr("it is no Exodus II file, or a damaged one"));
 }
 
-TEST_P(ExodusFileTest, ElementsWithoutNodesAreRefused) {
+TEST_P(ExodusFileTest, elementsWithoutNodesAreRefused) {
     const std::string file = writeBox();
     int sizeInProgram = sizeof(double);
     int sizeInFile = 0;
@@ -111,13 +112,13 @@ TEST_P(ExodusFileTest, ElementsWithoutNodesAreRefused) {
     EXPECT_THAT(errorOf(file), HasSubstr("elements refer to nodes that are not there"));
 }
 
-TEST_P(ExodusFileTest, IsDrawn) {
+TEST_P(ExodusFileTest, isDrawn) {
     EXPECT_GT(colouredPixels(drawDefaults(writeBox(), 0.25)), 500);
 }
 
 class NoExodusFileTest : public FormatTest {};
 
-TEST_F(NoExodusFileTest, OtherContentIsRefusedWithoutAWordOnTheTerminal) {
+TEST_F(NoExodusFileTest, otherContentIsRefusedWithoutAWordOnTheTerminal) {
     testing::internal::CaptureStderr();
     EXPECT_THAT(errorOf(folder.write("text.exo", "just some text\n")),
                 HasSubstr("text.exo cannot be read: it is no Exodus II file"));

@@ -16,8 +16,9 @@ constexpr std::array<const char*, 2> blockNames{"lower", "upper"};
 constexpr int cellsOfBlock = 4;
 
 void check(int code) {
-    if (code < 0)
+    if (code < 0) {
         throw std::runtime_error("the sample cannot be written");
+    }
 }
 
 class ExodusOutput {
@@ -47,9 +48,11 @@ public:
         check(ex_put_coord(m_id, x.data(), y.data(), z.data()));
         for (int block = 0; block < 2; ++block) {
             std::vector<int> nodes;
-            for (int cell = 0; cell < cellsOfBlock; ++cell)
-                for (const int point : cells.at(firstCell(block) + cell))
+            for (int cell = 0; cell < cellsOfBlock; ++cell) {
+                for (const int point : cells.at(firstCell(block) + cell)) {
                     nodes.push_back(point + 1);
+                }
+            }
             check(ex_put_block(m_id, EX_ELEM_BLOCK, block + 1, "HEX8", cellsOfBlock, 8, 0, 0, 0));
             check(ex_put_conn(m_id, EX_ELEM_BLOCK, block + 1, nodes.data(), nullptr, nullptr));
             check(ex_put_name(m_id, EX_ELEM_BLOCK, block + 1,
@@ -80,12 +83,14 @@ public:
         const std::vector<double> zero(x.size(), 0.0);
         check(ex_put_time(m_id, step, &time));
         int variable = 0;
-        for (const auto* values : std::array{&std::as_const(p), &std::as_const(x), &zero, &zero})
+        for (const auto* values : std::array{&std::as_const(p), &std::as_const(x), &zero, &zero}) {
             check(ex_put_var(m_id, step, EX_NODAL, ++variable, 1, std::ssize(x), values->data()));
+        }
         for (int block = 0; block < 2; ++block) {
             std::vector<double> q;
-            for (int cell = 0; cell < cellsOfBlock; ++cell)
+            for (int cell = 0; cell < cellsOfBlock; ++cell) {
                 q.push_back(static_cast<double>(firstCell(block)) + cell + time);
+            }
             check(ex_put_var(m_id, step, EX_ELEM_BLOCK, 1, block + 1, cellsOfBlock, q.data()));
         }
     }
@@ -107,8 +112,9 @@ std::string writeExodusBox(const std::filesystem::path& folder, const std::strin
     output.writeMesh();
     output.nameVariables();
     int step = 0;
-    for (const double time : sampleTimes)
+    for (const double time : sampleTimes) {
         output.writeStep(++step, time);
+    }
     return path;
 }
 

@@ -29,8 +29,9 @@ template <class Items, class Text>
 std::string list(const Items& items, const Text& text) {
     std::ostringstream stream;
     stream << items.size() << "\n(\n";
-    for (const auto& item : items)
+    for (const auto& item : items) {
         stream << text(item) << "\n";
+    }
     stream << ")\n";
     return stream.str();
 }
@@ -44,8 +45,9 @@ std::string vectorText(const host::Vec3& v) {
 std::string faceText(const FoamMesh::Face& face) {
     std::ostringstream stream;
     stream << face.size() << "(";
-    for (const int point : face)
+    for (const int point : face) {
         stream << point << " ";
+    }
     stream << ")";
     return stream.str();
 }
@@ -58,13 +60,14 @@ std::string labelText(int label) {
 
 FoamMesh foamBox() {
     FoamMesh mesh{boxPoints(), {}};
-    for (const auto& c : boxCells())
+    for (const auto& c : boxCells()) {
         mesh.cells.push_back({{c[0], c[3], c[2], c[1]},
                               {c[4], c[5], c[6], c[7]},
                               {c[0], c[1], c[5], c[4]},
                               {c[2], c[3], c[7], c[6]},
                               {c[0], c[4], c[7], c[3]},
                               {c[1], c[2], c[6], c[5]}});
+    }
     return mesh;
 }
 
@@ -73,8 +76,9 @@ FoamMesh foamRefinement() {
     const auto point = [&mesh](double x, double y, double z) {
         const host::Vec3 position{x, y, z};
         const auto found = std::find(mesh.points.begin(), mesh.points.end(), position);
-        if (found != mesh.points.end())
+        if (found != mesh.points.end()) {
             return static_cast<int>(found - mesh.points.begin());
+        }
         mesh.points.push_back(position);
         return static_cast<int>(mesh.points.size()) - 1;
     };
@@ -86,7 +90,7 @@ FoamMesh foamRefinement() {
         {point(0, 0, 0), point(0, 1, 0), point(1, 1, 0), point(1, half, 0), point(1, 0, 0)},
         {point(0, 0, 1), point(1, 0, 1), point(1, half, 1), point(1, 1, 1), point(0, 1, 1)}};
     std::vector<FoamMesh::Cell> small;
-    for (const double z : {0.0, half})
+    for (const double z : {0.0, half}) {
         for (const double y : {0.0, half}) {
             const std::array<int, 8> c{point(1.0, y, z),
                                        point(1.5, y, z),
@@ -104,6 +108,7 @@ FoamMesh foamRefinement() {
                              {c[1], c[2], c[6], c[5]}});
             large.push_back({c[0], c[3], c[7], c[4]});
         }
+    }
     mesh.cells.push_back(large);
     mesh.cells.insert(mesh.cells.end(), small.begin(), small.end());
     return mesh;
@@ -122,14 +127,16 @@ void FoamCase::sortFaces() {
         int neighbour = -1;
     };
     std::map<FoamMesh::Face, Found> faces;
-    for (int cell = 0; cell < static_cast<int>(m_mesh.cells.size()); ++cell)
+    for (int cell = 0; cell < static_cast<int>(m_mesh.cells.size()); ++cell) {
         for (const FoamMesh::Face& face : m_mesh.cells[static_cast<std::size_t>(cell)]) {
             FoamMesh::Face key = face;
             std::sort(key.begin(), key.end());
             const auto [found, isNew] = faces.try_emplace(key, Found{face, cell});
-            if (!isNew)
+            if (!isNew) {
                 found->second.neighbour = cell;
+            }
         }
+    }
 
     const auto byX = [](const host::Vec3& a, const host::Vec3& b) { return a.x < b.x; };
     const auto [left, right] = std::minmax_element(m_mesh.points.begin(), m_mesh.points.end(), byX);
@@ -226,8 +233,9 @@ std::string FoamCase::field(const std::string& name, const std::string& kind,
         const bool isJoined = patch.type.starts_with("processor");
         text << "    " << patch.name << " { type " << (isJoined ? "processor" : "zeroGradient")
              << ";";
-        if (isJoined)
+        if (isJoined) {
             text << " value uniform " << value(0.0) << ";";
+        }
         text << " }\n";
     }
     text << "}\n";
@@ -236,9 +244,11 @@ std::string FoamCase::field(const std::string& name, const std::string& kind,
 
 host::Vec3 FoamCase::middleOf(const FoamMesh::Cell& cell) const {
     host::Bounds bounds;
-    for (const FoamMesh::Face& face : cell)
-        for (const int point : face)
+    for (const FoamMesh::Face& face : cell) {
+        for (const int point : face) {
             bounds.add(m_mesh.points[static_cast<std::size_t>(point)]);
+        }
+    }
     return bounds.center();
 }
 
@@ -249,10 +259,12 @@ std::string writeMarker(const fs::path& folder) {
 
 std::string writeFoamBox(const fs::path& folder) {
     const FoamCase foam(folder, foamBox());
-    for (const char* const time : {"0", "0.25", "1.5"})
+    for (const char* const time : {"0", "0.25", "1.5"}) {
         foam.writePressure(time);
-    for (const char* const time : {"0.25", "1.5"})
+    }
+    for (const char* const time : {"0.25", "1.5"}) {
         foam.writeVelocity(time);
+    }
     return writeMarker(folder);
 }
 

@@ -34,13 +34,13 @@ protected:
     }
 };
 
-TEST_F(MissingVariablesTest, BothAreKnown) {
+TEST_F(MissingVariablesTest, bothAreKnown) {
     const auto data = reader.read({writeMixed()});
     EXPECT_NE(data->findVariable("T"), nullptr);
     EXPECT_NE(data->findVector("V"), nullptr);
 }
 
-TEST_F(MissingVariablesTest, ColoursFallBackToPlainOnes) {
+TEST_F(MissingVariablesTest, coloursFallBackToPlainOnes) {
     for (const auto& [variable, timeWithIt] : {std::pair{"T", 0.0}, std::pair{"V", 1.0}}) {
         host::Frame& frame = addMixed(variable);
         host::SurfaceStyle& surface = frame.style.surfaces.front();
@@ -54,7 +54,7 @@ TEST_F(MissingVariablesTest, ColoursFallBackToPlainOnes) {
     }
 }
 
-TEST_F(MissingVariablesTest, SlicesFallBackToPlainOnes) {
+TEST_F(MissingVariablesTest, slicesFallBackToPlainOnes) {
     host::Frame& frame = addMixed("T");
     host::SliceStyle& slice = frame.style.slices.front();
     slice.show = true;
@@ -66,7 +66,7 @@ TEST_F(MissingVariablesTest, SlicesFallBackToPlainOnes) {
     EXPECT_GT(drawnPixels(plain), 500);
 }
 
-TEST_F(MissingVariablesTest, IsosurfacesAreThereWhenTheirVariableIs) {
+TEST_F(MissingVariablesTest, isosurfacesAreThereWhenTheirVariableIs) {
     host::Frame& frame = addMixed("");
     frame.view.psi = 60.0; // the surface is a plane along z
     frame.view.theta = 30.0;

@@ -21,7 +21,7 @@ using ::testing::IsEmpty;
 
 class OpenFoamFileTest : public FormatTest {};
 
-TEST_F(OpenFoamFileTest, BlocksAreTheInsideAndThePatches) {
+TEST_F(OpenFoamFileTest, blocksAreTheInsideAndThePatches) {
     const auto data = reader.read({writeFoamBox(folder.path())});
     EXPECT_THAT(blockNames(*data),
                 ElementsAre("case/internalMesh", "case/inlet", "case/outlet", "case/walls"));
@@ -32,7 +32,7 @@ TEST_F(OpenFoamFileTest, BlocksAreTheInsideAndThePatches) {
     EXPECT_EQ(data->bounds.max, (host::Vec3{2.0, 2.0, 2.0}));
 }
 
-TEST_F(OpenFoamFileTest, VariablesAreKnownThoughTheFirstTimeLacksThem) {
+TEST_F(OpenFoamFileTest, variablesAreKnownThoughTheFirstTimeLacksThem) {
     const auto data = reader.read({writeFoamBox(folder.path())});
     const host::Variable* const p = data->findVariable("p");
     const host::Variable* const u = data->findVariable("U");
@@ -45,7 +45,7 @@ TEST_F(OpenFoamFileTest, VariablesAreKnownThoughTheFirstTimeLacksThem) {
     EXPECT_DOUBLE_EQ(u->maximum, 1.5);
 }
 
-TEST_F(OpenFoamFileTest, ValuesOfCellsAreCarriedToThePointsAtEachTime) {
+TEST_F(OpenFoamFileTest, valuesOfCellsAreCarriedToThePointsAtEachTime) {
     const std::string file = writeFoamBox(folder.path());
     for (int step = 0; step < 3; ++step) {
         const auto inside = readPart(file, step, "internalMesh");
@@ -57,17 +57,17 @@ TEST_F(OpenFoamFileTest, ValuesOfCellsAreCarriedToThePointsAtEachTime) {
     }
 }
 
-TEST_F(OpenFoamFileTest, ArraysOfPointsAreNotKeptTwice) {
+TEST_F(OpenFoamFileTest, arraysOfPointsAreNotKeptTwice) {
     const std::string file = writeFoamBox(folder.path());
     EXPECT_THAT(arrayNames(*readPart(file, 1, "internalMesh")), ElementsAre("U", "p"));
 }
 
-TEST_F(OpenFoamFileTest, TimeZeroMayLackVariables) {
+TEST_F(OpenFoamFileTest, timeZeroMayLackVariables) {
     const std::string file = writeFoamBox(folder.path());
     EXPECT_THAT(arrayNames(*readPart(file, 0, "internalMesh")), ElementsAre("p"));
 }
 
-TEST_F(OpenFoamFileTest, WhatOnlyOpenFoamUnderstandsIsMissingAtTimeZero) {
+TEST_F(OpenFoamFileTest, whatOnlyOpenFoamUnderstandsIsMissingAtTimeZero) {
     const std::string file = writeFoamBox(folder.path());
     const FoamCase foam(folder.path(), foamBox());
     foam.writeField("0", "U",
@@ -78,7 +78,7 @@ TEST_F(OpenFoamFileTest, WhatOnlyOpenFoamUnderstandsIsMissingAtTimeZero) {
     EXPECT_THAT(arrayNames(*readPart(file, 0, "internalMesh")), ElementsAre("p"));
 }
 
-TEST_F(OpenFoamFileTest, AMeshWithoutTimesIsRead) {
+TEST_F(OpenFoamFileTest, aMeshWithoutTimesIsRead) {
     const FoamCase foam(folder.path(), foamBox());
     const auto data = reader.read({writeMarker(folder.path())});
     EXPECT_EQ(data->blocks.size(), 4U);
@@ -86,7 +86,7 @@ TEST_F(OpenFoamFileTest, AMeshWithoutTimesIsRead) {
     EXPECT_FALSE(data->isTransient());
 }
 
-TEST_F(OpenFoamFileTest, RegionsNameTheirBlocks) {
+TEST_F(OpenFoamFileTest, regionsNameTheirBlocks) {
     const FoamCase foam(folder.path(), foamBox(), "solid");
     foam.writePressure("1");
     EXPECT_THAT(blockNames(*reader.read({writeMarker(folder.path())})),
@@ -94,10 +94,11 @@ TEST_F(OpenFoamFileTest, RegionsNameTheirBlocks) {
                             "case/solid/walls"));
 }
 
-TEST_F(OpenFoamFileTest, ADividedCaseIsReadFromItsProcessors) {
+TEST_F(OpenFoamFileTest, aDividedCaseIsReadFromItsProcessors) {
     FoamMesh right = foamBox();
-    for (host::Vec3& point : right.points)
+    for (host::Vec3& point : right.points) {
         point.x += 2.0;
+    }
     FoamCase first(folder.path() / "processor0", foamBox());
     first.joinPatch("outlet", 0, 1);
     FoamCase second(folder.path() / "processor1", right);
@@ -118,7 +119,7 @@ TEST_F(OpenFoamFileTest, ADividedCaseIsReadFromItsProcessors) {
     EXPECT_EQ(readPart(file, 1, "walls")->GetNumberOfCells(), 32);
 }
 
-TEST_F(OpenFoamFileTest, AReassembledCaseIsReadAsAWhole) {
+TEST_F(OpenFoamFileTest, aReassembledCaseIsReadAsAWhole) {
     FoamCase first(folder.path() / "processor0", foamBox());
     first.writePressure("0");
     const std::string file = writeFoamBox(folder.path());
@@ -158,19 +159,19 @@ double areaOf(vtkPolyData& polygons, int axis) {
     return area;
 }
 
-TEST_F(RefinementTest, ACellWithManyFacesIsNotTakenApart) {
+TEST_F(RefinementTest, aCellWithManyFacesIsNotTakenApart) {
     ASSERT_EQ(m_inside->GetNumberOfCells(), 5);
     EXPECT_EQ(m_inside->GetCellType(0), VTK_POLYHEDRON);
     EXPECT_EQ(m_inside->GetCellType(1), VTK_HEXAHEDRON);
 }
 
-TEST_F(RefinementTest, SlicesAreWhole) {
+TEST_F(RefinementTest, slicesAreWhole) {
     EXPECT_NEAR(areaOf(*scene::sliceOf(*m_inside, 1, 0.7), 0), 1.0, 1e-6);
     EXPECT_NEAR(areaOf(*scene::sliceOf(*m_inside, 1, 1.2), 0), 1.0, 1e-6);
     EXPECT_NEAR(areaOf(*scene::sliceOf(*m_inside, 2, 0.3), 1), 1.5, 1e-6);
 }
 
-TEST_F(RefinementTest, AnIsosurfaceCrossesTheLargeCell) {
+TEST_F(RefinementTest, anIsosurfaceCrossesTheLargeCell) {
     // p is 10.5 in the large cell and 11.25 in the small ones; between them it rises along x.
     const auto surface = scene::isoSurfaceOf(*m_inside, "p", 10.6);
     std::array<double, 6> box{};
@@ -182,25 +183,25 @@ TEST_F(RefinementTest, AnIsosurfaceCrossesTheLargeCell) {
     EXPECT_NEAR(box[5] - box[4], 1.0, 1e-6);
 }
 
-TEST_F(OpenFoamFileTest, AMarkerWithoutACaseIsRefused) {
+TEST_F(OpenFoamFileTest, aMarkerWithoutACaseIsRefused) {
     const std::string file = writeMarker(folder.path());
     EXPECT_THAT(errorOf(file), AllOf(HasSubstr(file + " cannot be read: no OpenFOAM case"),
                                      HasSubstr(folder.file("constant"))));
 }
 
-TEST_F(OpenFoamFileTest, AMarkerMayHoldText) {
+TEST_F(OpenFoamFileTest, aMarkerMayHoldText) {
     const std::string file = writeFoamBox(folder.path());
     replaceFile(file, "anything");
     EXPECT_EQ(errorOf(file), "");
 }
 
-TEST_F(OpenFoamFileTest, WhatIsNoFileIsRefused) {
+TEST_F(OpenFoamFileTest, whatIsNoFileIsRefused) {
     std::filesystem::create_directory(folder.path() / "folder.foam");
     EXPECT_THAT(errorOf(folder.file("folder.foam")), HasSubstr("it is a folder"));
     EXPECT_THAT(errorOf(folder.file("none.foam")), HasSubstr("there is no such file"));
 }
 
-TEST_F(OpenFoamFileTest, AMissingMeshIsNamed) {
+TEST_F(OpenFoamFileTest, aMissingMeshIsNamed) {
     const std::string file = writeFoamBox(folder.path());
     std::filesystem::remove(folder.path() / "constant/polyMesh/points");
     EXPECT_THAT(errorOf(file), AllOf(HasSubstr("case.foam cannot be read"), HasSubstr("points")));
@@ -208,14 +209,14 @@ TEST_F(OpenFoamFileTest, AMissingMeshIsNamed) {
     EXPECT_THAT(errorOf(file), HasSubstr("case.foam cannot be read: "));
 }
 
-TEST_F(OpenFoamFileTest, ACutFieldIsNamed) {
+TEST_F(OpenFoamFileTest, aCutFieldIsNamed) {
     const std::string file = writeFoamBox(folder.path());
     cutFile(folder.path() / "0.25/p", 250);
     EXPECT_THAT(errorOf(file), AllOf(HasSubstr("case.foam cannot be read"), HasSubstr("0.25/p")));
     EXPECT_THROW(reader.read({file}), host::HostError);
 }
 
-TEST_F(OpenFoamFileTest, AFieldOfAnotherSizeIsRefused) {
+TEST_F(OpenFoamFileTest, aFieldOfAnotherSizeIsRefused) {
     const std::string file = writeFoamBox(folder.path());
     const FoamCase other(folder.path() / "other", foamRefinement());
     other.writePressure("0.25");
@@ -224,7 +225,7 @@ TEST_F(OpenFoamFileTest, AFieldOfAnotherSizeIsRefused) {
     EXPECT_THAT(errorOf(file), HasSubstr("do not match"));
 }
 
-TEST_F(OpenFoamFileTest, ATimeThatIsDeletedLaterIsMissed) {
+TEST_F(OpenFoamFileTest, aTimeThatIsDeletedLaterIsMissed) {
     const auto file = scene::openMeshFile(writeFoamBox(folder.path()));
     ASSERT_THAT(file->times(), ElementsAre(0.0, 0.25, 1.5));
     std::filesystem::remove_all(folder.path() / "0.25");
@@ -237,14 +238,14 @@ TEST_F(OpenFoamFileTest, ATimeThatIsDeletedLaterIsMissed) {
     }
 }
 
-TEST_F(OpenFoamFileTest, AnEmptyTimeHasTheMeshAlone) {
+TEST_F(OpenFoamFileTest, anEmptyTimeHasTheMeshAlone) {
     const std::string file = writeFoamBox(folder.path());
     std::filesystem::remove(folder.path() / "1.5/p");
     std::filesystem::remove(folder.path() / "1.5/U");
     EXPECT_THAT(arrayNames(*readPart(file, 2, "internalMesh")), IsEmpty());
 }
 
-TEST_F(OpenFoamFileTest, IsDrawnAtEachTime) {
+TEST_F(OpenFoamFileTest, isDrawnAtEachTime) {
     const std::string file = writeFoamBox(folder.path());
     // "U" colours the slice, and is missing at time 0.
     const auto plain = drawDefaults(file, 0.0);

@@ -29,8 +29,9 @@ TEST(Pvd, partsTimesAndFiles) {
 
 TEST(Pvd, stepsAreSortedAndTheLastEntryOfATimeCounts) {
     const TempFolder folder;
-    for (const char* name : {"a.vtu", "b.vtu", "c.vtu"})
+    for (const char* name : {"a.vtu", "b.vtu", "c.vtu"}) {
         folder.write(name, "x");
+    }
     const auto parts = scene::readPvd(
         writePvd(folder, "list.pvd", {{2.0, 0, "a.vtu"}, {-1.0, 0, "b.vtu"}, {2.0, 0, "c.vtu"}}));
     ASSERT_EQ(parts.size(), 1U);

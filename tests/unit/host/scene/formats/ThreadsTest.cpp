@@ -12,7 +12,7 @@ namespace corvane::test {
 
 class ThreadsTest : public FormatTest {};
 
-TEST_F(ThreadsTest, EachReadsItsOwnTime) {
+TEST_F(ThreadsTest, eachReadsItsOwnTime) {
     struct Case {
         std::unique_ptr<scene::MeshFile> file;
         double x; ///< of the point (2, 1, 1), or of the middle of its cells
@@ -27,20 +27,25 @@ TEST_F(ThreadsTest, EachReadsItsOwnTime) {
 
     std::vector<std::future<double>> values;
     std::vector<double> expected;
-    for (int repetition = 0; repetition < 4; ++repetition)
-        for (const Case& one : cases)
+    for (int repetition = 0; repetition < 4; ++repetition) {
+        for (const Case& one : cases) {
             for (int step = 1; step < 3; ++step) {
                 const double time = sampleTimes.at(static_cast<std::size_t>(step));
                 expected.push_back(samplePressure(one.x, time));
                 values.push_back(std::async(std::launch::async, [&one, step] {
-                    for (const scene::MeshPart& part : one.file->read(step))
-                        if (arrayNames(*part.mesh).size() > 1)
+                    for (const scene::MeshPart& part : one.file->read(step)) {
+                        if (arrayNames(*part.mesh).size() > 1) {
                             return valueAt(*part.mesh, "p", {2.0, 1.0, 1.0});
+                        }
+                    }
                     return -1.0;
                 }));
             }
-    for (std::size_t i = 0; i < values.size(); ++i)
+        }
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) {
         EXPECT_NEAR(values[i].get(), expected[i], 1e-4) << i;
+    }
 }
 
 } // namespace corvane::test

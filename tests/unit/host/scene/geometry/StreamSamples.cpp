@@ -18,10 +18,11 @@ vtkSmartPointer<vtkUnstructuredGrid> flowBox(bool atCells) {
     flow->SetNumberOfTuples(atCells ? grid->GetNumberOfCells() : grid->GetNumberOfPoints());
     flow->Fill(0.0);
     flow->FillComponent(0, flowSpeed);
-    if (atCells)
+    if (atCells) {
         grid->GetCellData()->AddArray(flow);
-    else
+    } else {
         grid->GetPointData()->AddArray(flow);
+    }
     return grid;
 }
 

@@ -102,27 +102,33 @@ TEST(StreamTraces, takeAlongWhatAllMeshesHave) {
 TEST(StreamTraces, endWhereTheFlowStands) {
     const auto mesh = flowBox();
     vtkDataArray& flow = *mesh->GetPointData()->GetArray("flow");
-    for (vtkIdType i = 0; i < mesh->GetNumberOfPoints(); ++i)
-        if (mesh->GetPoint(i)[0] > 0.4)
+    for (vtkIdType i = 0; i < mesh->GetNumberOfPoints(); ++i) {
+        if (mesh->GetPoint(i)[0] > 0.4) {
             flow.SetComponent(i, 0, 0.0);
+        }
+    }
     const auto traces =
         scene::traceStreams(streamRecipe({0.1, 0.5, 0.5}, {0.9, 0.5, 0.5}, 2, 1), {mesh});
     EXPECT_EQ(traces->GetNumberOfLines(), 1); // nothing starts where nothing moves
-    for (vtkIdType i = 0; i < traces->GetNumberOfPoints(); ++i)
+    for (vtkIdType i = 0; i < traces->GetNumberOfPoints(); ++i) {
         EXPECT_LT(traces->GetPoint(i)[0], 0.51);
+    }
 }
 
 TEST(StreamTraces, endWhereTheFlowIsNotANumber) {
     const auto mesh = flowBox();
     vtkDataArray& flow = *mesh->GetPointData()->GetArray("flow");
-    for (vtkIdType i = 0; i < mesh->GetNumberOfPoints(); ++i)
-        if (mesh->GetPoint(i)[0] > 0.6)
+    for (vtkIdType i = 0; i < mesh->GetNumberOfPoints(); ++i) {
+        if (mesh->GetPoint(i)[0] > 0.6) {
             flow.SetComponent(i, 1, std::nan(""));
+        }
+    }
     const auto traces =
         scene::traceStreams(streamRecipe({0.1, 0.5, 0.5}, {0.9, 0.5, 0.5}, 2, 3), {mesh});
     EXPECT_GT(traces->GetNumberOfLines(), 0);
-    for (vtkIdType i = 0; i < traces->GetNumberOfPoints(); ++i)
+    for (vtkIdType i = 0; i < traces->GetNumberOfPoints(); ++i) {
         EXPECT_LT(traces->GetPoint(i)[0], 0.76);
+    }
 }
 
 TEST(StreamTraces, vectorsOfCellsCountAsWell) {

@@ -32,9 +32,10 @@ PicturePoint project(const Vec3& point, const View3D& view) {
 
     const Vec3 v = point - view.position;
     double pixelsPerUnit = width / view.width;
-    if (view.perspective)
+    if (view.perspective) {
         pixelsPerUnit =
             0.5 * height / (-dot(v, toViewer) * std::tan(0.5 * view.fieldOfView * radian));
+    }
     return {0.5 * width + dot(v, right) * pixelsPerUnit, 0.5 * height - dot(v, up) * pixelsPerUnit};
 }
 
@@ -48,8 +49,9 @@ class CameraTest : public SceneTest {
 protected:
     /// Draws a small red cube at the point and finds it in the picture.
     std::optional<PicturePoint> find(const Vec3& point, const View3D& view) {
-        if (page.active() != nullptr)
+        if (page.active() != nullptr) {
             page.deleteFrame(page.active()->id());
+        }
         const auto data = load("cube.vtp", sampleCube(point, 0.06));
         host::Frame& frame = addPlainFrame(data);
         frame.style.surfaces[0] = {true, false, {1.0, 0.0, 0.0}, 1.0, false};
@@ -156,8 +158,9 @@ TEST_F(CameraTest, insideTheDataOneSeesWhatIsInFront) {
     for (const double psi : {0.0, 90.0, 180.0}) {
         frame.view.psi = psi;
         const host::Picture picture = draw(64, 36);
-        for (const int x : {1, 32, 62})
+        for (const int x : {1, 32, 62}) {
             EXPECT_TRUE(isRed(pixelAt(picture, x, 18))) << psi << " " << x;
+        }
     }
 }
 

@@ -30,15 +30,17 @@ TEST_F(PagePictureTest, framesLieWhereThePaperHasThem) {
     addColored({1.0, 0.5, 2.0, 3.0}, {0.0, 0.0, 0.0});
     addColored({5.0, 1.0, 2.5, 1.5}, {0.0, 0.0, 0.0});
     const host::Picture picture = draw(width, height);
-    for (int y = 0; y < height; ++y)
+    for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const bool inFirst = x >= 40 && x < 120 && y >= 20 && y < 140;
             const bool inSecond = x >= 200 && x < 300 && y >= 40 && y < 100;
-            if (inFirst || inSecond)
+            if (inFirst || inSecond) {
                 ASSERT_TRUE(isBlack(pixelAt(picture, x, y))) << x << " " << y;
-            else
+            } else {
                 ASSERT_EQ(pixelAt(picture, x, y), paper) << x << " " << y;
+            }
         }
+    }
 }
 
 TEST_F(PagePictureTest, theTopOfTheStackCoversWhatIsBelow) {
@@ -83,8 +85,9 @@ TEST_F(PagePictureTest, aFrameOfAnotherPlotTypeShowsNoData) {
     frame.plotType = PlotType_Cartesian2D;
     frame.style.annotations = {};
     const host::Picture bare = draw(width, height);
-    for (int x = 0; x < width; ++x)
+    for (int x = 0; x < width; ++x) {
         ASSERT_EQ(pixelAt(bare, x, 90), pixelAt(bare, 0, 90));
+    }
 }
 
 TEST_F(PagePictureTest, sizesAreTheOnesAskedFor) {
@@ -94,8 +97,9 @@ TEST_F(PagePictureTest, sizesAreTheOnesAskedFor) {
         EXPECT_EQ(picture.width, 77);
         EXPECT_EQ(picture.height, 41);
         ASSERT_EQ(picture.rgba.size(), 77U * 41U * 4U);
-        for (std::size_t i = 3; i < picture.rgba.size(); i += 4)
+        for (std::size_t i = 3; i < picture.rgba.size(); i += 4) {
             ASSERT_EQ(picture.rgba[i], 255);
+        }
     }
 }
 
@@ -105,7 +109,7 @@ TEST_F(PagePictureTest, supersamplingIsTheLargerPictureFilteredDown) {
     frame.style.annotations.title = "Title";
     const host::Picture filtered = draw(160, 90, 2);
     const host::Picture large = draw(320, 180, 1);
-    for (int y = 0; y < 90; ++y)
+    for (int y = 0; y < 90; ++y) {
         for (int x = 0; x < 160; ++x) {
             const Rgb a = pixelAt(large, 2 * x, 2 * y);
             const Rgb b = pixelAt(large, 2 * x + 1, 2 * y);
@@ -116,6 +120,7 @@ TEST_F(PagePictureTest, supersamplingIsTheLargerPictureFilteredDown) {
                            (a.blue + b.blue + c.blue + d.blue + 2) / 4};
             ASSERT_EQ(pixelAt(filtered, x, y), mean) << x << " " << y;
         }
+    }
 }
 
 TEST_F(PagePictureTest, sizesThatCannotBeDrawnAreRefused) {

@@ -16,8 +16,9 @@ using testing::ElementsAre;
 /// The mean difference of channels, 0..255.
 double meanDifference(const host::Picture& a, const host::Picture& b) {
     long sum = 0;
-    for (std::size_t i = 0; i < a.rgba.size(); ++i)
+    for (std::size_t i = 0; i < a.rgba.size(); ++i) {
         sum += std::abs(a.rgba[i] - b.rgba[i]);
+    }
     return static_cast<double>(sum) / static_cast<double>(a.rgba.size());
 }
 

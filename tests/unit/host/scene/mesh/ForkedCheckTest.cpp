@@ -24,8 +24,9 @@ TEST(ForkedCheck, workThatCrashesDoesNot) {
 TEST(ForkedCheck, workThatDoesNotEndDoesNot) {
     EXPECT_FALSE(survives(
         [] {
-            for (;;)
+            for (;;) {
                 pause();
+            }
         },
         1));
 }

@@ -19,10 +19,13 @@ using scene::isSound;
 /// One cube as VTK_POLYHEDRON.
 vtkSmartPointer<vtkUnstructuredGrid> polyhedron() {
     const vtkNew<vtkPoints> points;
-    for (const double z : {0.0, 1.0})
-        for (const double y : {0.0, 1.0})
-            for (const double x : {0.0, 1.0})
+    for (const double z : {0.0, 1.0}) {
+        for (const double y : {0.0, 1.0}) {
+            for (const double x : {0.0, 1.0}) {
                 points->InsertNextPoint(x, y, z);
+            }
+        }
+    }
     const std::vector<vtkIdType> faces{4, 0, 2, 3, 1, 4, 4, 5, 7, 6, 4, 0, 1, 5, 4,
                                        4, 2, 6, 7, 3, 4, 0, 4, 6, 2, 4, 1, 3, 7, 5};
     auto grid = vtkSmartPointer<vtkUnstructuredGrid>::New();
@@ -31,7 +34,7 @@ vtkSmartPointer<vtkUnstructuredGrid> polyhedron() {
     return grid;
 }
 
-TEST(MeshCheckTest, WholeMeshesAreSound) {
+TEST(MeshCheckTest, wholeMeshesAreSound) {
     EXPECT_TRUE(isSound(*sampleGrid()));
     EXPECT_TRUE(isSound(*sampleImage()));
     EXPECT_TRUE(isSound(*sampleCube({0.0, 0.0, 0.0}, 1.0)));
@@ -39,7 +42,7 @@ TEST(MeshCheckTest, WholeMeshesAreSound) {
     EXPECT_TRUE(isSound(*vtkSmartPointer<vtkUnstructuredGrid>::New()));
 }
 
-TEST(MeshCheckTest, CellsMustHaveTheirPoints) {
+TEST(MeshCheckTest, cellsMustHaveTheirPoints) {
     for (const vtkIdType wrong : {vtkIdType{-1}, vtkIdType{125}}) {
         const auto grid = sampleGrid();
         const vtkIdType point = wrong;
@@ -54,7 +57,7 @@ TEST(MeshCheckTest, CellsMustHaveTheirPoints) {
     EXPECT_FALSE(isSound(*cube));
 }
 
-TEST(MeshCheckTest, CellsMustHaveAsManyPointsAsTheirKind) {
+TEST(MeshCheckTest, cellsMustHaveAsManyPointsAsTheirKind) {
     const auto grid = sampleGrid();
     grid->GetCellData()->Initialize(); // which would have no values for the new cells
     const std::array<vtkIdType, 3> points{0, 1, 2};
@@ -64,7 +67,7 @@ TEST(MeshCheckTest, CellsMustHaveAsManyPointsAsTheirKind) {
     EXPECT_FALSE(isSound(*grid));
 }
 
-TEST(MeshCheckTest, CellsMustFollowEachOther) {
+TEST(MeshCheckTest, cellsMustFollowEachOther) {
     for (const auto& [at, wrong] :
          {std::pair{0, 1}, std::pair{1, 100000}, std::pair{1, -1}, std::pair{2, 0}}) {
         const auto grid = sampleGrid();
@@ -73,7 +76,7 @@ TEST(MeshCheckTest, CellsMustFollowEachOther) {
     }
 }
 
-TEST(MeshCheckTest, FacesOfPolyhedraMustHaveTheirPoints) {
+TEST(MeshCheckTest, facesOfPolyhedraMustHaveTheirPoints) {
     // The number of faces, of the points of the first one, and its first point.
     for (const auto& [at, wrong] : {std::pair{0, 7}, std::pair{1, 100}, std::pair{1, -1},
                                     std::pair{2, 8}, std::pair{2, -1}}) {
@@ -83,7 +86,7 @@ TEST(MeshCheckTest, FacesOfPolyhedraMustHaveTheirPoints) {
     }
 }
 
-TEST(MeshCheckTest, ArraysMustHaveAValueForEach) {
+TEST(MeshCheckTest, arraysMustHaveAValueForEach) {
     const auto grid = sampleGrid();
     const vtkNew<vtkDoubleArray> tooShort;
     tooShort->SetName("short");

@@ -39,11 +39,13 @@ TEST(StreamMarkers, eachTimeHasOneMarker) {
         scene::traceStreams(streamRecipe({0.5, 0.5, 0.5}, {0.5, 0.5, 0.5}, 1, 3), {flowBox()});
     const auto markers = scene::markersOn(*traces, 0.0, 0.1);
     std::vector<double> places;
-    for (vtkIdType i = 0; i < markers->GetNumberOfPoints(); ++i)
+    for (vtkIdType i = 0; i < markers->GetNumberOfPoints(); ++i) {
         places.push_back(markers->GetPoint(i)[0]);
+    }
     std::sort(places.begin(), places.end());
-    for (std::size_t i = 1; i < places.size(); ++i)
+    for (std::size_t i = 1; i < places.size(); ++i) {
         EXPECT_NEAR(places[i] - places[i - 1], 0.1 * flowSpeed, 1e-5);
+    }
 }
 
 TEST(StreamMarkers, anIntervalOfNothingEnds) {

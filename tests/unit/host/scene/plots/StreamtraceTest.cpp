@@ -68,8 +68,9 @@ TEST_F(StreamtraceTest, tubesAndLines) {
     for (const bool tubes : {true, false}) {
         frame().style.streamtraces.tubes = tubes;
         const host::Picture picture = draw(width, height);
-        for (double x = 0.12; x < 0.97; x += 0.05)
+        for (double x = 0.12; x < 0.97; x += 0.05) {
             EXPECT_TRUE(isRedAt(picture, x)) << x;
+        }
         EXPECT_FALSE(isRedAt(picture, 0.05));
     }
 }
@@ -149,8 +150,9 @@ TEST_F(StreamtraceTest, withHalfOfTheLightEverythingIsHalfAsBright) {
         int colored = 0;
         for (int x = 0; x < width; ++x) {
             const Rgb full = pixelAt(bright, x, 90);
-            if (full.green > 60)
+            if (full.green > 60) {
                 continue;
+            }
             ++colored;
             EXPECT_LE(largestDifference(pixelAt(half, x, 90), scaled(full, 0.5)), 1) << x;
         }

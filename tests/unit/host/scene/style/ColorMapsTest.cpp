@@ -14,8 +14,9 @@ unsigned rgb(vtkLookupTable& table, double value) {
     std::array<double, 3> color{};
     table.GetColor(value, color.data());
     unsigned result = 0;
-    for (const double channel : color)
+    for (const double channel : color) {
         result = 256U * result + static_cast<unsigned>(std::lround(255.0 * channel));
+    }
     return result;
 }
 
@@ -39,9 +40,10 @@ TEST(ColorMaps, ends) {
 TEST(ColorMaps, lightnessRisesAllTheWay) {
     for (const char* name : {"Viridis", "Plasma", "Gray"}) {
         const auto table = scene::makeColorMap(name);
-        for (int i = 1; i < 256; ++i)
+        for (int i = 1; i < 256; ++i) {
             EXPECT_GE(lightness(*table, i / 255.0), lightness(*table, (i - 1) / 255.0) - 2e-3)
                 << name << " " << i;
+        }
     }
 }
 

@@ -36,8 +36,9 @@ TEST_F(LightTest, withoutAnyLightEverythingIsBlack) {
     frame.style.surfaces[0].useContour = true;
     EXPECT_EQ(middle(), black) << "coloured surface";
     frame.style.surfaces[0].showMesh = true;
-    for (int x = 0; x < width; ++x)
+    for (int x = 0; x < width; ++x) {
         ASSERT_EQ(pixelAt(draw(width, height), x, height / 2), black) << "mesh lines at " << x;
+    }
     frame.style.surfaces[0].show = false;
 
     frame.style.slices[0] = {true, 3, 0.5, true, {}, 1.0};
@@ -119,8 +120,9 @@ TEST_F(LightTest, theOutlineFadesToo) {
     const auto brightest = [this] {
         int value = 0;
         const host::Picture picture = draw(width, height);
-        for (int x = 0; x < width; ++x)
+        for (int x = 0; x < width; ++x) {
             value = std::max(value, pixelAt(picture, x, height / 2).red);
+        }
         return value;
     };
     const int bright = brightest();

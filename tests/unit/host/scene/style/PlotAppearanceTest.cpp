@@ -24,9 +24,11 @@ Rgb tableColor(const char* map, double part) {
 
 int differingPixels(const host::Picture& a, const host::Picture& b) {
     int count = 0;
-    for (int y = 0; y < a.height; ++y)
-        for (int x = 0; x < a.width; ++x)
+    for (int y = 0; y < a.height; ++y) {
+        for (int x = 0; x < a.width; ++x) {
             count += pixelAt(a, x, y) == pixelAt(b, x, y) ? 0 : 1;
+        }
+    }
     return count;
 }
 
@@ -56,8 +58,9 @@ TEST_F(LookTest, eachValueHasTheColourOfTheMap) {
     host::Frame& frame = addSlice();
     for (const char* map : {"Viridis", "Plasma", "CoolWarm", "Rainbow", "Gray"}) {
         frame.style.contour.colorMap = map;
-        for (const double x : {0.1, 0.3, 0.55, 0.9})
+        for (const double x : {0.1, 0.3, 0.55, 0.9}) {
             EXPECT_LE(largestDifference(sliceAt(x, 0.4), tableColor(map, x)), 4) << map << " " << x;
+        }
     }
 }
 
@@ -163,10 +166,12 @@ TEST_F(LookTest, meshLinesAreThoseOfTheCells) {
     frame.style.slices[0].show = false;
     frame.style.surfaces[0] = {true, false, {1.0, 1.0, 1.0}, 1.0, true};
     const host::Picture picture = draw(width, height);
-    for (const double x : {0.25, 0.5, 0.75})
+    for (const double x : {0.25, 0.5, 0.75}) {
         EXPECT_LT(pixelAt(picture, static_cast<int>(80.0 + 160.0 * x), 70).red, 150) << x;
-    for (const double x : {0.125, 0.375, 0.625, 0.875})
+    }
+    for (const double x : {0.125, 0.375, 0.625, 0.875}) {
         EXPECT_EQ(pixelAt(picture, static_cast<int>(80.0 + 160.0 * x), 70), (Rgb{255, 255, 255}));
+    }
 }
 
 TEST_F(LookTest, pointsWithoutCellsAreDrawn) {
@@ -238,9 +243,11 @@ TEST_F(LookTest, theLegendKeepsAwayFromTheEdges) {
     frame.style.contour.maximum = 101325.0;
     frame.style.slices[0].opacity = 0.001; // shown, but hardly to be seen
     const host::Picture picture = draw(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = width - 3; x < width; ++x)
+    for (int y = 0; y < height; ++y) {
+        for (int x = width - 3; x < width; ++x) {
             ASSERT_EQ(pixelAt(picture, x, y), pixelAt(picture, 0, y)) << x << " " << y;
+        }
+    }
 }
 
 TEST_F(LookTest, noLegendWithoutAPlotThatUsesIt) {
@@ -257,17 +264,21 @@ TEST_F(LookTest, textIsReadableOnDarkAndLight) {
     const auto darkest = [&] {
         int value = 255;
         const host::Picture picture = draw(width, height);
-        for (int y = 0; y < 30; ++y)
-            for (int x = 100; x < 220; ++x)
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 100; x < 220; ++x) {
                 value = std::min(value, pixelAt(picture, x, y).red);
+            }
+        }
         return value;
     };
     const auto lightest = [&] {
         int value = 0;
         const host::Picture picture = draw(width, height);
-        for (int y = 0; y < 30; ++y)
-            for (int x = 100; x < 220; ++x)
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 100; x < 220; ++x) {
                 value = std::max(value, pixelAt(picture, x, y).red);
+            }
+        }
         return value;
     };
     EXPECT_LT(darkest(), 90);

@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(EnSightFileTest, BlocksAreTheParts) {
+TEST_F(EnSightFileTest, blocksAreTheParts) {
     const auto data = reader.read({writeEnSightBox(folder.path())});
     EXPECT_THAT(blockNames(*data), ElementsAre("box/fluid", "box/inlet"));
     EXPECT_THAT(blockDimensions(*data), ElementsAre(3, 2));
@@ -39,7 +39,7 @@ TEST_F(EnSightFileTest, BlocksAreTheParts) {
     EXPECT_NE(data->findVector("U"), nullptr);
 }
 
-TEST_F(EnSightFileTest, ValuesAreThoseOfTheTime) {
+TEST_F(EnSightFileTest, valuesAreThoseOfTheTime) {
     const std::string file = writeEnSightBox(folder.path());
     for (int step = 0; step < 3; ++step) {
         const double time = sampleTimes.at(static_cast<std::size_t>(step));
@@ -50,7 +50,7 @@ TEST_F(EnSightFileTest, ValuesAreThoseOfTheTime) {
     }
 }
 
-TEST_F(EnSightFileTest, BinaryCasesAreRead) {
+TEST_F(EnSightFileTest, binaryCasesAreRead) {
     const std::string file = writeBinaryEnSightBox(folder.path());
     const auto data = reader.read({file});
     EXPECT_EQ(data->blocks.size(), 2U);
@@ -63,7 +63,7 @@ TEST_F(EnSightFileTest, BinaryCasesAreRead) {
     EXPECT_NEAR(cellValue(*parts[1].mesh, "q_c", 0), 5.0, 1e-5);
 }
 
-TEST_F(EnSightFileTest, ACaseWithoutTimesIsRead) {
+TEST_F(EnSightFileTest, aCaseWithoutTimesIsRead) {
     writeEnSightBox(folder.path());
     const std::string file = writeCase("scalar per node: p box.p.0\n");
     const auto data = reader.read({file});
@@ -71,7 +71,7 @@ TEST_F(EnSightFileTest, ACaseWithoutTimesIsRead) {
     EXPECT_NEAR(valueAt(*readPart(file, 0, "fluid"), "p", {2.0, 0.0, 0.0}), 2.0, 1e-6);
 }
 
-TEST_F(EnSightFileTest, VariablesOfPartsThatAreMissingAreRefused) {
+TEST_F(EnSightFileTest, variablesOfPartsThatAreMissingAreRefused) {
     const std::string file = writeEnSightBox(folder.path());
     // The second part is cut off, and the variables still have values for it.
     const std::string geometry = folder.read("box.geo");
@@ -79,14 +79,14 @@ TEST_F(EnSightFileTest, VariablesOfPartsThatAreMissingAreRefused) {
     EXPECT_THAT(errorOf(file), HasSubstr("the part 2, which the geometry does not have"));
 }
 
-TEST_F(EnSightFileTest, BinaryVariablesOfPartsThatAreMissingAreRefused) {
+TEST_F(EnSightFileTest, binaryVariablesOfPartsThatAreMissingAreRefused) {
     const std::string file = writeBinaryEnSightBox(folder.path());
     const std::string geometry = folder.read("box.0.00000.geo");
     replaceFile(folder.file("box.0.00000.geo"), geometry.substr(0, geometry.rfind("part")));
     EXPECT_THAT(errorOf(file), HasSubstr("the part 2, which the geometry does not have"));
 }
 
-TEST_F(EnSightFileTest, AMissingFileIsNamed) {
+TEST_F(EnSightFileTest, aMissingFileIsNamed) {
     const std::string file = writeEnSightBox(folder.path());
     std::filesystem::remove(folder.path() / "box.p.1");
     EXPECT_THAT(errorOf(file), AllOf(HasSubstr("box.case cannot be read"), HasSubstr("box.p.1")));
@@ -94,21 +94,22 @@ TEST_F(EnSightFileTest, AMissingFileIsNamed) {
     EXPECT_THAT(errorOf(file), AllOf(HasSubstr("box.case cannot be read"), HasSubstr("box.geo")));
 }
 
-TEST_F(EnSightFileTest, WhatIsNoCaseIsRefused) {
+TEST_F(EnSightFileTest, whatIsNoCaseIsRefused) {
     EXPECT_THAT(errorOf(folder.write("text.case", "just some text\n")),
                 HasSubstr("text.case cannot be read: "));
     EXPECT_THAT(errorOf(folder.write("empty.case", "")), HasSubstr("the file is empty"));
 }
 
-TEST_F(EnSightFileTest, ALineThatDescribesNoVariableIsNamed) {
+TEST_F(EnSightFileTest, aLineThatDescribesNoVariableIsNamed) {
     writeEnSightBox(folder.path());
     for (const char* const line :
-         {"scalar per", "scalar per node: 1 p", "scalar per edge: 1 p box.p.0", "p box.p.0"})
+         {"scalar per", "scalar per node: 1 p", "scalar per edge: 1 p box.p.0", "p box.p.0"}) {
         EXPECT_THAT(errorOf(writeCase(line)), HasSubstr("its line 6 describes no variable"))
             << line;
+    }
 }
 
-TEST_F(EnSightFileTest, LinesWithAndWithoutTimeSetsAreUnderstood) {
+TEST_F(EnSightFileTest, linesWithAndWithoutTimeSetsAreUnderstood) {
     writeEnSightBox(folder.path());
     EXPECT_EQ(errorOf(writeCase("# comment\n\nscalar per node: p box.p.0\n"
                                 "constant per case: density 1.2\n")),
@@ -134,7 +135,7 @@ protected:
     }
 };
 
-TEST_F(EnSightMeshTest, BlocksOfThreeKinds) {
+TEST_F(EnSightMeshTest, blocksOfThreeKinds) {
     folder.write("made.c", "c\npart\n1\nblock\n5\npart\n3\nblock\n6\n7\n");
     const std::string file =
         writeGeometry("part\n1\neven\nblock uniform\n2 2 2\n0 0 0\n1 1 1\n"
@@ -149,7 +150,7 @@ TEST_F(EnSightMeshTest, BlocksOfThreeKinds) {
     EXPECT_DOUBLE_EQ(cellValue(*readPart(file, 0, "bent"), "c", 1), 7.0);
 }
 
-TEST_F(EnSightMeshTest, PolygonsAndPolyhedra) {
+TEST_F(EnSightMeshTest, polygonsAndPolyhedra) {
     const std::string file =
         writeGeometry(coordinates("0 1 0 0", "0 0 1 0", "0 0 0 1") +
                       "nsided\n1\n10\n3\n1 2 3\nnfaced\n1\n11\n4\n3\n3\n3\n3\n1 3 2\n1 2 4\n2 3 4\n"
@@ -161,7 +162,7 @@ TEST_F(EnSightMeshTest, PolygonsAndPolyhedra) {
     EXPECT_EQ(mesh->GetCell(1)->GetNumberOfFaces(), 4);
 }
 
-TEST_F(EnSightMeshTest, TheBaseOfAWedgeLooksOutwards) {
+TEST_F(EnSightMeshTest, theBaseOfAWedgeLooksOutwards) {
     const std::string file = writeGeometry(
         coordinates("0 1 0 0 1 0", "0 0 1 0 0 1", "0 0 0 1 1 1") + "penta6\n1\n1\n1 2 3 4 5 6\n");
     const auto mesh = readPart(file, 0, "made");
@@ -171,7 +172,7 @@ TEST_F(EnSightMeshTest, TheBaseOfAWedgeLooksOutwards) {
     EXPECT_EQ(wedge.GetPointId(4), 5);
 }
 
-TEST_F(EnSightMeshTest, CellsOfNeighboursAreLeftOutWithTheirValues) {
+TEST_F(EnSightMeshTest, cellsOfNeighboursAreLeftOutWithTheirValues) {
     folder.write("made.c", "c\npart\n1\ng_tria3\n8\ntria3\n9\n");
     const std::string file = writeGeometry(coordinates("0 1 0", "0 0 1", "0 0 0") +
                                                "g_tria3\n1\n1\n1 2 3\ntria3\n1\n2\n1 2 3\n",
@@ -181,7 +182,7 @@ TEST_F(EnSightMeshTest, CellsOfNeighboursAreLeftOutWithTheirValues) {
     EXPECT_DOUBLE_EQ(cellValue(*mesh, "c", 0), 9.0);
 }
 
-TEST_F(EnSightMeshTest, SeveralTimesInOneFileAreTakenApart) {
+TEST_F(EnSightMeshTest, severalTimesInOneFileAreTakenApart) {
     folder.write("made.c", "BEGIN TIME STEP\nc\npart\n1\ntria3\n8\nEND TIME STEP\n"
                            "BEGIN TIME STEP\nc\npart\n1\ntria3\n9\nEND TIME STEP\n");
     const std::string file =
@@ -192,7 +193,7 @@ TEST_F(EnSightMeshTest, SeveralTimesInOneFileAreTakenApart) {
     EXPECT_DOUBLE_EQ(cellValue(*readPart(file, 1, "made"), "c", 0), 9.0);
 }
 
-TEST_F(EnSightMeshTest, WhatCannotBeReadIsNamed) {
+TEST_F(EnSightMeshTest, whatCannotBeReadIsNamed) {
     const std::string triangle = coordinates("0 1 0", "0 0 1", "0 0 0") + "tria3\n1\n1\n";
     EXPECT_THAT(errorOf(writeGeometry(triangle + "1 2 4\n")),
                 HasSubstr("made.geo has cells with nodes that are not there."));
@@ -209,7 +210,7 @@ TEST_F(EnSightMeshTest, WhatCannotBeReadIsNamed) {
     EXPECT_THAT(errorOf(file), HasSubstr("it is no EnSight Gold case"));
 }
 
-TEST_F(EnSightFileTest, IsDrawn) {
+TEST_F(EnSightFileTest, isDrawn) {
     EXPECT_GT(colouredPixels(drawDefaults(writeEnSightBox(folder.path()), 0.25)), 500);
 }
 

@@ -43,8 +43,9 @@ std::string partHeader(std::size_t part) {
 
 std::string atPoints(const std::function<double(const host::Vec3&)>& value) {
     std::string text;
-    for (const host::Vec3& point : boxPoints())
+    for (const host::Vec3& point : boxPoints()) {
         text += number(value(point));
+    }
     return text;
 }
 
@@ -57,8 +58,9 @@ std::string geometryOf(std::size_t part, const std::string& name, const std::str
                        atPoints([](const host::Vec3& p) { return p.z; }) + element + "\n" +
                        label(cells.size()) + "\n";
     for (const auto& cell : cells) {
-        for (const int point : cell)
+        for (const int point : cell) {
             text += label(static_cast<std::size_t>(point) + 1);
+        }
         text += "\n";
     }
     return text;
@@ -66,9 +68,11 @@ std::string geometryOf(std::size_t part, const std::string& name, const std::str
 
 std::vector<std::array<int, 4>> squaresAtInlet() {
     std::vector<std::array<int, 4>> squares;
-    for (const auto& cell : boxCells())
-        if (boxPoints()[static_cast<std::size_t>(cell[0])].x == 0.0)
+    for (const auto& cell : boxCells()) {
+        if (boxPoints()[static_cast<std::size_t>(cell[0])].x == 0.0) {
             squares.push_back({cell[0], cell[4], cell[7], cell[3]});
+        }
+    }
     return squares;
 }
 
@@ -84,8 +88,9 @@ void writeStep(const fs::path& folder, std::size_t step) {
         u += partHeader(part) + "coordinates\n" + x + zero + zero;
     }
     std::string q = "q\n" + partHeader(1) + "hexa8\n";
-    for (std::size_t cell = 0; cell < boxCells().size(); ++cell)
+    for (std::size_t cell = 0; cell < boxCells().size(); ++cell) {
         q += number(static_cast<double>(cell) + time);
+    }
 
     const std::string suffix = std::to_string(step);
     std::ofstream(folder / ("box.p." + suffix)) << p;
@@ -131,15 +136,17 @@ std::string writeEnSightBox(const fs::path& folder) {
     std::ofstream(folder / "box.geo") << "the sample\nas text\nnode id assign\nelement id assign\n"
                                       << geometryOf(1, "fluid", "hexa8", boxCells())
                                       << geometryOf(2, "inlet", "quad4", squaresAtInlet());
-    for (std::size_t step = 0; step < sampleTimes.size(); ++step)
+    for (std::size_t step = 0; step < sampleTimes.size(); ++step) {
         writeStep(folder, step);
+    }
     std::ofstream text(folder / "box.case");
     text << "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: box.geo\n\nVARIABLE\n"
             "scalar per node: 1 p box.p.*\nvector per node: 1 U box.U.*\n"
             "scalar per element: 1 q box.q.*\n\nTIME\ntime set: 1\nnumber of steps: "
          << sampleTimes.size() << "\nfilename start number: 0\nfilename increment: 1\ntime values:";
-    for (const double time : sampleTimes)
+    for (const double time : sampleTimes) {
         text << " " << time;
+    }
     text << "\n";
     return (folder / "box.case").string();
 }

@@ -44,8 +44,9 @@ std::string errorOf(const std::string& content) {
 std::string bigEndian(float value) {
     const auto bits = std::bit_cast<std::uint32_t>(value);
     std::string bytes;
-    for (const unsigned shift : {24U, 16U, 8U, 0U})
+    for (const unsigned shift : {24U, 16U, 8U, 0U}) {
         bytes.push_back(static_cast<char>((bits >> shift) & 0xFFU));
+    }
     return bytes;
 }
 
@@ -69,8 +70,9 @@ TEST(Ply, pointsFacesAndOtherNumbersOfThePoints) {
 
 TEST(Ply, linesThatEndWithCarriageReturns) {
     std::string content;
-    for (const char c : asciiHeader + asciiValues)
+    for (const char c : asciiHeader + asciiValues) {
         content += c == '\n' ? "\r\n" : std::string(1, c);
+    }
     EXPECT_EQ(read(content)->GetNumberOfCells(), 2);
 }
 
@@ -78,8 +80,9 @@ TEST(Ply, bothByteOrders) {
     std::string content = "ply\nformat binary_big_endian 1.0\nelement vertex 3\n"
                           "property float x\nproperty float y\nproperty float z\n"
                           "element face 1\nproperty list uchar ushort vertex_indices\nend_header\n";
-    for (const float value : {1.5F, -2.0F, 3.25F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F})
+    for (const float value : {1.5F, -2.0F, 3.25F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F}) {
         content += bigEndian(value);
+    }
     content += std::string("\3\0\2\0\1\0\0", 7);
     const auto mesh = read(content);
     std::array<double, 3> point{};
