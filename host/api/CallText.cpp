@@ -3,9 +3,9 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/core/Host.h"
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroText.h"
 
-#include <charconv>
 #include <variant>
 
 namespace corvane::host {
@@ -35,11 +35,7 @@ void appendTruth(std::string& text, bool value) {
 }
 
 void appendNumber(std::string& text, double value) {
-    char digits[32];
-    const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), value);
-    if (error == std::errc{}) {
-        text.append(digits, end);
-    }
+    text += exactText(value);
 }
 
 void appendQuoted(std::string& text, const char* value) {

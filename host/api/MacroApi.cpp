@@ -4,6 +4,7 @@
 #include "host/api/AddOnMemory.h"
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroText.h"
 
 #include <optional>
@@ -12,15 +13,11 @@ using namespace corvane::host;
 
 namespace {
 
-std::string withoutTrailingBlanks(const std::string& text) {
-    return text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
-}
-
 /// What went wrong, which may be empty, or nothing.
 std::optional<std::string> runCommand(Session& session, const std::string& macroName,
                                       CorMacroCommandCallback callback,
                                       const std::string& command) {
-    std::string copy = withoutTrailingBlanks(command);
+    std::string copy(trimmedAtEnd(command, " \t\r\n"));
     char* message = nullptr;
     bool succeeded = false;
     const std::string thrown =

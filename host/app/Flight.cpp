@@ -4,6 +4,7 @@
 #include "host/app/MovieFormats.h"
 #include "host/core/Host.h"
 #include "host/core/base/HostError.h"
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroWords.h"
 
 #include <filesystem>

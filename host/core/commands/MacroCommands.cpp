@@ -1,9 +1,9 @@
 // The table of macro commands.
 #include "host/core/commands/MacroCommands.h"
 
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroText.h"
 #include "host/core/macro/MacroVariables.h"
-#include "host/core/page/StyleTree.h"
 
 namespace corvane::host {
 

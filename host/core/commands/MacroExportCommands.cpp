@@ -1,5 +1,6 @@
 // Macro commands about pictures, add-ons and other macros.
 #include "host/core/base/HostError.h"
+#include "host/core/base/Text.h"
 #include "host/core/commands/MacroCommands.h"
 #include "host/core/commands/MacroPlayer.h"
 

@@ -1,4 +1,5 @@
 // Macro commands about the page and its frames.
+#include "host/core/base/Text.h"
 #include "host/core/commands/MacroCommands.h"
 #include "host/core/commands/MacroPlayer.h"
 

@@ -1,6 +1,7 @@
 // The reference page of the macro language, made from the tables that the program works with.
 #include "host/core/commands/MacroReference.h"
 
+#include "host/core/base/Text.h"
 #include "host/core/commands/MacroCommands.h"
 #include "host/core/page/StyleBindings.h"
 #include "host/core/picture/ExportSetup.h"
@@ -94,7 +95,7 @@ std::vector<StyleLeaf> withFirstNumberOnly(const std::vector<StyleLeaf>& leaves)
     std::vector<StyleLeaf> kept;
     for (StyleLeaf leaf : leaves) {
         const std::string number = leaf.path.size() > 1 ? leaf.path[1] : "";
-        const bool isNumbered = !number.empty() && number.front() >= '0' && number.front() <= '9';
+        const bool isNumbered = !number.empty() && isDigit(number.front());
         if (isNumbered && number != "1") {
             continue;
         }

@@ -1,4 +1,5 @@
 // Macro commands about the view and what a frame shows.
+#include "host/core/base/Text.h"
 #include "host/core/commands/MacroCommands.h"
 #include "host/core/page/StyleBindings.h"
 

@@ -1,6 +1,7 @@
 // What the page shows, as a macro that shows it again.
 #include "host/core/commands/SceneMacro.h"
 
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroRecorder.h"
 #include "host/core/macro/MacroText.h"
 #include "host/core/macro/MacroVariables.h"

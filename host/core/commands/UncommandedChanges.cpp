@@ -1,9 +1,9 @@
 // What changes without a command, as lines of the macro that is being recorded.
 #include "host/core/commands/UncommandedChanges.h"
 
+#include "host/core/base/Text.h"
 #include "host/core/commands/SceneMacro.h"
 #include "host/core/macro/MacroText.h"
-#include "host/core/macro/MacroWords.h"
 #include "host/core/session/Session.h"
 
 namespace corvane::host {

@@ -1,6 +1,8 @@
 // Splits macros into lines and words.
 #include "host/core/macro/MacroText.h"
 
+#include "host/core/base/Text.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -13,22 +15,14 @@ constexpr std::size_t longestLine = std::size_t{1} << 20U;
 constexpr std::size_t longestShown = 200;
 constexpr std::size_t longestCause = 2000;
 
+constexpr std::string_view blanks = " \t\r";
+
 bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r';
+    return blanks.find(c) != std::string_view::npos;
 }
 
 bool isAlphanumeric(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-char upper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-std::string trimmed(const std::string& text) {
-    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
-    const auto last = std::find_if_not(text.rbegin(), text.rend(), isBlank).base();
-    return first < last ? std::string(first, last) : std::string();
+    return isDigit(c) || isLetter(c);
 }
 
 /// Some editors begin their files with it.
@@ -186,7 +180,7 @@ MacroReader::MacroReader(std::istream& stream, std::string fileName)
 bool MacroReader::next(MacroLine& line) {
     std::string text;
     while (readLine(text)) {
-        text = trimmed(m_number == 1 ? withoutByteOrderMark(text) : text);
+        text = trimmed(m_number == 1 ? withoutByteOrderMark(text) : text, blanks);
         if (!text.empty() && text.front() != '#') {
             parse(text, line);
             return true;
@@ -232,8 +226,7 @@ void MacroReader::parse(const std::string& text, MacroLine& line) const {
     if (nameBegin == nameEnd) {
         fail(text, "The name of a command is missing behind $!.");
     }
-    line.name.assign(nameBegin, nameEnd);
-    std::transform(line.name.begin(), line.name.end(), line.name.begin(), upper);
+    line.name = upperCase({nameBegin, nameEnd});
     line.number = m_number;
     line.text = text;
     try {

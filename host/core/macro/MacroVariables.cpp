@@ -1,6 +1,7 @@
 // Replaces variables by their values.
 #include "host/core/macro/MacroVariables.h"
 
+#include "host/core/base/Text.h"
 #include "host/core/macro/MacroWords.h"
 
 #include <algorithm>
@@ -10,18 +11,14 @@ namespace corvane::host {
 
 namespace {
 
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
+bool canBeginName(char c) {
+    return isLetter(c) || c == '_';
 }
 
 void expectName(const std::string& name) {
     const bool isName =
-        !name.empty() && isLetter(name.front()) &&
-        std::all_of(name.begin(), name.end(), [](char c) { return isLetter(c) || isDigit(c); });
+        !name.empty() && canBeginName(name.front()) &&
+        std::all_of(name.begin(), name.end(), [](char c) { return canBeginName(c) || isDigit(c); });
     if (!isName) {
         reject("\"" + name +
                "\" is no name of a variable: letters, digits and underscores make one.");

@@ -2,10 +2,8 @@
 #include "host/core/macro/MacroWords.h"
 
 #include "host/core/base/HostError.h"
-#include "host/core/page/StyleTree.h"
+#include "host/core/base/Text.h"
 
-#include <array>
-#include <charconv>
 #include <filesystem>
 
 namespace corvane::host {
@@ -14,13 +12,11 @@ namespace {
 
 template <typename T>
 T parsed(const std::string& text) {
-    T value{};
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc() || stop != end) {
+    const std::optional<T> value = parsedNumber<T>(text);
+    if (!value) {
         reject("\"" + text + "\" is not a number that fits here.");
     }
-    return value;
+    return *value;
 }
 
 } // namespace
@@ -49,12 +45,6 @@ int integerFrom(const std::string& text) {
 
 long longFrom(const std::string& text) {
     return parsed<long>(text);
-}
-
-std::string exactText(double number) {
-    std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-    return {buffer.data(), end};
 }
 
 bool booleanFrom(const std::string& text) {

@@ -21,9 +21,6 @@ int integerFrom(const std::string& text);
 long longFrom(const std::string& text);
 bool booleanFrom(const std::string& text);
 
-/// The shortest text that reads as the same number.
-std::string exactText(double number);
-
 /// The value of the words "= VALUE". Rejects others with the form.
 const std::string& valueOf(const std::vector<std::string>& words, const char* form);
 

@@ -1,6 +1,8 @@
 // Finds, checks, writes and reads style values.
 #include "host/core/page/StyleTree.h"
 
+#include "host/core/base/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,10 +14,6 @@ namespace corvane::host {
 namespace {
 
 constexpr char separator = '/';
-
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 /// The lower-case joined path, built in place: an animation looks up a dozen paths a frame.
 class Key {
@@ -30,7 +28,7 @@ public:
             if (m_length > 0) {
                 m_text[m_length++] = separator;
             }
-            std::transform(keyword.begin(), keyword.end(), m_text.begin() + m_length, lower);
+            std::transform(keyword.begin(), keyword.end(), m_text.begin() + m_length, toLower);
             m_length += keyword.size();
         }
     }
@@ -105,11 +103,6 @@ struct Reader {
 };
 
 } // namespace
-
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char left, char right) { return lower(left) == lower(right); });
-}
 
 void StyleTree::bind(StyleLeaf leaf) {
     const Key key(leaf.path);

@@ -78,9 +78,6 @@ private:
     std::unordered_map<std::string, std::size_t, KeyHash, std::equal_to<>> m_index;
 };
 
-/// Compares keywords and texts without regard to ASCII letter case.
-bool equalIgnoringCase(std::string_view a, std::string_view b);
-
 /// The path as macros write it: keywords joined by '/'.
 std::string toString(const StylePath& path);
 StylePath stylePathFromString(const std::string& text);

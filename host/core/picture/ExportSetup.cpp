@@ -1,9 +1,10 @@
 // The export settings, their paths and their words in macros.
 #include "host/core/picture/ExportSetup.h"
 
+#include "host/core/base/Text.h"
+
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <limits>
 #include <utility>
 
@@ -60,17 +61,6 @@ const std::vector<Setting>& settings() {
         {"AnimationSpeed", Kind::Number, {}},
         {"ExportFName", Kind::Text, {}}};
     return all;
-}
-
-template <typename T>
-std::optional<T> numberFromText(const std::string& text) {
-    T value{};
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc() || stop != end) {
-        return std::nullopt;
-    }
-    return value;
 }
 
 /// Null without such a setting.
@@ -143,9 +133,9 @@ std::optional<StyleInput> exportSettingFromText(const std::string& name, const s
     }
     switch (setting->kind) {
     case Kind::Integer:
-        return numberFromText<long>(text);
+        return parsedNumber<long>(text);
     case Kind::Number:
-        return numberFromText<double>(text);
+        return parsedNumber<double>(text);
     case Kind::Text:
         return text;
     case Kind::Boolean:

@@ -3,6 +3,7 @@
 
 #include "host/core/base/HostError.h"
 #include "host/core/base/PartFile.h"
+#include "host/core/base/Text.h"
 #include "host/core/picture/PictureRequests.h"
 
 #include <algorithm>

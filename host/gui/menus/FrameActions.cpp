@@ -2,7 +2,7 @@
 #include "host/gui/menus/FrameActions.h"
 
 #include "host/core/Host.h"
-#include "host/core/macro/MacroWords.h"
+#include "host/core/base/Text.h"
 #include "host/gui/commands/MenuActions.h"
 #include "host/gui/window/MainWindow.h"
 

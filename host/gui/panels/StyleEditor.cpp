@@ -2,7 +2,7 @@
 #include "host/gui/panels/StyleEditor.h"
 
 #include "host/core/Host.h"
-#include "host/core/macro/MacroWords.h"
+#include "host/core/base/Text.h"
 #include "host/gui/base/QtText.h"
 #include "host/gui/controls/ColorButton.h"
 #include "host/gui/controls/NumberEdit.h"

@@ -2,7 +2,7 @@
 #include "host/gui/time/TimePlayer.h"
 
 #include "host/core/Host.h"
-#include "host/core/macro/MacroWords.h"
+#include "host/core/base/Text.h"
 #include "host/gui/time/SolutionTimes.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 // Keeps the last error message of libav for each thread.
 #include "host/movie/libav/LibavLog.h"
 
+#include "host/core/base/Text.h"
+
 extern "C" {
 #include <libavutil/log.h>
 }
@@ -24,8 +26,7 @@ void keepErrors(void* source, int level, const char* format, va_list arguments) 
     int printPrefix = 0;
     av_log_format_line2(source, level, format, arguments, line.data(),
                         static_cast<int>(line.size()), &printPrefix);
-    t_message = line.data();
-    t_message.erase(t_message.find_last_not_of("\r\n. ") + 1);
+    t_message = host::trimmedAtEnd(line.data(), "\r\n. ");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Which class reads which file.
 #include "host/scene/formats/MeshFormats.h"
 
+#include "host/core/base/Text.h"
 #include "host/scene/formats/CgnsFile.h"
 #include "host/scene/formats/ExodusFile.h"
 #include "host/scene/formats/OpenFoamFile.h"
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -94,10 +94,7 @@ const std::map<std::string, Opener, std::less<>>& openers() {
 }
 
 std::string extensionOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension;
+    return host::lowerCase(std::filesystem::path(path).extension().string());
 }
 
 std::string firstBytesOf(const std::string& path) {

@@ -1,6 +1,7 @@
 // OpenFOAM cases (.foam).
 #include "host/scene/formats/OpenFoamFile.h"
 
+#include "host/core/base/Text.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellData.h>
@@ -10,7 +11,6 @@
 #include <vtkPointData.h>
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <string_view>
 #include <utility>
@@ -22,10 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 bool isTimeFolder(const fs::directory_entry& entry) {
-    const std::string name = entry.path().filename().string();
-    double time = 0.0;
-    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), time);
-    return error == std::errc{} && end == name.data() + name.size() && entry.is_directory();
+    return host::parsedNumber<double>(entry.path().filename().string()) && entry.is_directory();
 }
 
 std::ptrdiff_t countTimes(const fs::path& folder) {

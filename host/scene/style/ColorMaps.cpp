@@ -1,12 +1,13 @@
 // From values to colours.
 #include "host/scene/style/ColorMaps.h"
 
+#include "host/core/base/Text.h"
+
 #include <vtkColorTransferFunction.h>
 #include <vtkNew.h>
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string_view>
 #include <vector>
 
@@ -44,12 +45,11 @@ const std::vector<ColorMap>& colorMaps() {
     return maps;
 }
 
-const ColorMap& findColorMap(std::string name) {
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+const ColorMap& findColorMap(const std::string& name) {
     const auto& maps = colorMaps();
-    const auto found = std::find_if(maps.begin(), maps.end(),
-                                    [&](const ColorMap& map) { return map.name == name; });
+    const auto found = std::find_if(maps.begin(), maps.end(), [&](const ColorMap& map) {
+        return host::equalIgnoringCase(map.name, name);
+    });
     return found == maps.end() ? maps.front() : *found;
 }
 

@@ -1,6 +1,8 @@
 // Collects what VTK would print.
 #include "host/scene/vtk/VtkMessages.h"
 
+#include "host/core/base/Text.h"
+
 #include <vtkLogger.h>
 #include <vtkObjectFactory.h>
 #include <vtkOutputWindow.h>
@@ -48,8 +50,7 @@ std::string withoutDecoration(std::string text) {
         text.erase(0, line + 1);
     }
     std::replace(text.begin(), text.end(), '\n', ' ');
-    const auto last = text.find_last_not_of(" .");
-    return last == std::string::npos ? std::string() : text.substr(0, last + 1);
+    return std::string(host::trimmedAtEnd(text, " ."));
 }
 
 void installOnce() {

@@ -1,14 +1,15 @@
 // What the text of an EnSight Gold case says.
 #include "host/scene/formats/ensight/EnSightCase.h"
 
+#include "host/core/base/Text.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <stdexcept>
@@ -29,10 +30,12 @@ Words wordsOf(const std::string& text) {
     return words;
 }
 
+/// False, and the value stays, when the word is no number.
 template <class Number>
 bool parse(const std::string& word, Number& value) {
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
-    return error == std::errc{} && end == word.data() + word.size();
+    const std::optional<Number> number = host::parsedNumber<Number>(word);
+    value = number.value_or(value);
+    return number.has_value();
 }
 
 /// A time set as it is written.

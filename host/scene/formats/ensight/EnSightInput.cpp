@@ -1,10 +1,11 @@
 // The lines and numbers of an EnSight Gold file, one after the other.
 #include "host/scene/formats/ensight/EnSightInput.h"
 
+#include "host/core/base/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cctype>
 #include <charconv>
 #include <fstream>
 #include <iterator>
@@ -16,19 +17,12 @@ namespace corvane::scene {
 
 namespace {
 
-constexpr std::string_view spaces = " \t\r\n\v\f";
-
 [[noreturn]] void failAtEnd() {
     throw std::runtime_error("ends before its data do");
 }
 
-std::string trimmed(std::string_view text) {
-    text = text.substr(0, text.find('\0'));
-    const auto first = text.find_first_not_of(spaces);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return std::string(text.substr(first, text.find_last_not_of(spaces) - first + 1));
+std::string textOf(std::string_view line) {
+    return std::string(host::trimmed(line.substr(0, line.find('\0'))));
 }
 
 /// What goes beyond single precision is written by none that means it.
@@ -65,13 +59,13 @@ bool EnSightInput::isAtEnd() {
 
 std::string EnSightInput::line() {
     if (m_kind == Kind::Binary) {
-        return trimmed(take(lineLength));
+        return textOf(take(lineLength));
     }
     if (m_at >= m_content.size()) {
         failAtEnd();
     }
     const auto end = std::min(m_content.find('\n', m_at), m_content.size());
-    const std::string text = trimmed(take(end - m_at));
+    const std::string text = textOf(take(end - m_at));
     m_at = std::min(end + 1, m_content.size());
     return text;
 }
@@ -129,7 +123,8 @@ Number EnSightInput::textValue() {
     const char* const last = m_content.data() + m_content.size();
     std::conditional_t<std::is_integral_v<Number>, Number, double> value{};
     const auto [end, error] = std::from_chars(*first == '+' ? first + 1 : first, last, value);
-    if (error != std::errc{} || (end != last && spaces.find(*end) == std::string_view::npos)) {
+    if (error != std::errc{} ||
+        (end != last && host::whitespace.find(*end) == std::string_view::npos)) {
         throw std::runtime_error("holds what is no number where one should be");
     }
     m_at += static_cast<std::size_t>(end - first);
@@ -170,7 +165,7 @@ std::string_view EnSightInput::take(std::size_t length) {
 }
 
 void EnSightInput::skipSpace() {
-    m_at = std::min(m_content.find_first_not_of(spaces, m_at), m_content.size());
+    m_at = std::min(m_content.find_first_not_of(host::whitespace, m_at), m_content.size());
 }
 
 } // namespace corvane::scene
