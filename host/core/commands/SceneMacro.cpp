@@ -67,10 +67,11 @@ void addData(Lines& lines, const DataSet& data) {
 }
 
 /// The values that are not those which the data bring along.
-void addStyles(Lines& lines, Frame& frame) {
-    Frame fresh(frame.id(), frame.placement);
-    if (frame.data()) {
-        fresh.attachData(frame.data());
+void addStyles(Lines& lines, const FrameState& state) {
+    const Frame frame(state);
+    Frame fresh(state.id, state.placement);
+    if (state.data) {
+        fresh.attachData(state.data);
         chooseDefaultPlots(fresh);
     }
     for (const StyleLeaf& leaf : frame.styles().leaves()) {
@@ -82,16 +83,16 @@ void addStyles(Lines& lines, Frame& frame) {
     }
 }
 
-void addFrame(Lines& lines, Frame& frame, const Page& page) {
+void addFrame(Lines& lines, const FrameState& frame, const Placement& workArea) {
     // Without a place a new frame fills the work area, of whatever size.
-    const bool isFilling = frame.placement == page.regionOf(ExportRegion_WorkArea);
+    const bool isFilling = frame.placement == workArea;
     lines.add("FRAME", isFilling ? Words{"CREATE"} : placementWords(frame.placement));
-    if (frame.data()) {
-        addData(lines, *frame.data());
+    if (frame.data) {
+        addData(lines, *frame.data);
     }
     addStyles(lines, frame);
     lines.add("VIEW", viewWords(frame.view));
-    if (frame.data()) {
+    if (frame.data) {
         lines.add("SOLUTIONTIME", {"=", exactText(frame.solutionTime)});
     }
     if (frame.plotType == PlotType_Cartesian2D) {
@@ -105,25 +106,24 @@ void skipNumber(Lines& lines) {
     lines.add("FRAME", {"DELETE"});
 }
 
-bool isStackedByNumber(const Page& page) {
-    return std::is_sorted(page.frames().begin(), page.frames().end(),
-                          [](const auto& a, const auto& b) { return a->id() > b->id(); });
+bool isStackedByNumber(const PageState& page) {
+    return std::is_sorted(page.frames.begin(), page.frames.end(),
+                          [](const auto& a, const auto& b) { return a.id > b.id; });
 }
 
-void activate(Lines& lines, const Frame& frame) {
-    lines.add("FRAME", {"ACTIVATE", "=", std::to_string(frame.id())});
+void activate(Lines& lines, long id) {
+    lines.add("FRAME", {"ACTIVATE", "=", std::to_string(id)});
 }
 
 /// The frames are there, the one with the highest number on top and active.
-void addStack(Lines& lines, const Page& page) {
-    const auto& frames = page.frames();
+void addStack(Lines& lines, const PageState& page) {
     const bool isRestacked = !isStackedByNumber(page);
-    for (auto frame = frames.rbegin(); isRestacked && frame != frames.rend(); ++frame) {
-        activate(lines, **frame);
+    for (auto frame = page.frames.rbegin(); isRestacked && frame != page.frames.rend(); ++frame) {
+        activate(lines, frame->id);
         lines.add("FRAME", {"POP"});
     }
-    if (page.active() != nullptr && page.active() != frames.front().get()) {
-        activate(lines, *page.active());
+    if (!page.frames.empty() && page.active != page.frames.front().id) {
+        activate(lines, page.active);
     }
 }
 
@@ -180,13 +180,14 @@ std::vector<std::string> viewWords(const View3D& view) {
 
 std::vector<std::string> sceneMacro(Session& session) {
     Lines lines;
-    const Page& page = session.page();
+    const PageState page = session.page().state();
     if (page.workArea != WorkArea{}) {
         lines.add("WORKAREA", workAreaWords(page.workArea));
     }
-    for (long id = 1; id <= page.lastId(); ++id) {
-        if (Frame* const frame = page.find(id)) {
-            addFrame(lines, *frame, page);
+    const Placement workArea = session.page().regionOf(ExportRegion_WorkArea);
+    for (long id = 1; id <= session.page().lastId(); ++id) {
+        if (const FrameState* const frame = findFrame(page, id)) {
+            addFrame(lines, *frame, workArea);
         } else {
             skipNumber(lines);
         }

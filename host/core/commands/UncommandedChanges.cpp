@@ -37,35 +37,25 @@ void UncommandedChanges::catchUp() {
     if (!m_recorder.isRecording() || m_session.isAnimating()) {
         return;
     }
-    catchUpWorkArea();
-    const Frame* const frame = m_session.page().active();
-    const auto seen = frame != nullptr ? m_frames.find(frame->id()) : m_frames.end();
-    if (seen != m_frames.end()) {
-        catchUpFrame(*frame, seen->second);
+    const PageState now = m_session.page().state();
+    if (now.workArea != m_seen.workArea) {
+        m_recorder.recordState(macroLine("WORKAREA", workAreaWords(now.workArea)));
     }
-    remember();
+    const FrameState* const frame = findFrame(now, now.active);
+    const FrameState* const seen = findFrame(m_seen, now.active);
+    if (frame != nullptr && seen != nullptr) {
+        catchUpFrame(*frame, *seen);
+    }
+    m_seen = now;
 }
 
 void UncommandedChanges::remember() {
-    if (!m_recorder.isRecording()) {
-        return;
-    }
-    const Page& page = m_session.page();
-    m_workArea = page.workArea;
-    m_frames.clear();
-    for (const auto& frame : page.frames()) {
-        m_frames[frame->id()] = {frame->view, frame->solutionTime};
+    if (m_recorder.isRecording()) {
+        m_seen = m_session.page().state();
     }
 }
 
-void UncommandedChanges::catchUpWorkArea() {
-    const WorkArea& area = m_session.page().workArea;
-    if (area != m_workArea) {
-        m_recorder.recordState(macroLine("WORKAREA", workAreaWords(area)));
-    }
-}
-
-void UncommandedChanges::catchUpFrame(const Frame& frame, const Seen& seen) {
+void UncommandedChanges::catchUpFrame(const FrameState& frame, const FrameState& seen) {
     if (frame.view != seen.view && frame.plotType == PlotType_Cartesian3D) {
         m_recorder.recordState(macroLine("VIEW", viewWords(frame.view)));
     }

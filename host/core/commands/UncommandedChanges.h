@@ -2,9 +2,7 @@
 #pragma once
 
 #include "host/core/macro/MacroRecorder.h"
-#include "host/core/page/Page.h"
-
-#include <map>
+#include "host/core/page/PageState.h"
 
 namespace corvane::host {
 
@@ -33,22 +31,15 @@ public:
     void commandEnded(bool isRecorded);
 
 private:
-    struct Seen {
-        View3D view;
-        double solutionTime = 0.0;
-    };
-
     void recordingStarted() override { remember(); }
     void recordingCatchesUp() override { catchUp(); }
     void addOnCommandRecorded() override;
-    void catchUpWorkArea();
-    void catchUpFrame(const Frame& frame, const Seen& seen);
+    void catchUpFrame(const FrameState& frame, const FrameState& seen);
 
     Session& m_session;
     MacroRecorder& m_recorder;
     bool m_hasAddOnRecorded = false;
-    WorkArea m_workArea;
-    std::map<long, Seen> m_frames; ///< by number
+    PageState m_seen;
 };
 
 } // namespace corvane::host

@@ -17,10 +17,6 @@ constexpr std::size_t longestCause = 2000;
 
 constexpr std::string_view blanks = " \t\r";
 
-bool isBlank(char c) {
-    return blanks.find(c) != std::string_view::npos;
-}
-
 bool isAlphanumeric(char c) {
     return isDigit(c) || isLetter(c);
 }
@@ -54,111 +50,12 @@ std::string shown(const std::string& text, std::size_t longest) {
     return text.size() > longest ? result + "…" : result;
 }
 
-/// Takes words from a line, one by one.
-class Splitter {
-public:
-    explicit Splitter(const std::string& text) : m_text(text) {}
-
-    std::vector<std::string> words() {
-        std::vector<std::string> all;
-        while (skipBlanks()) {
-            all.push_back(word());
-        }
-        return all;
-    }
-
-private:
-    bool skipBlanks() {
-        while (!atEnd() && isBlank(m_text[m_at])) {
-            ++m_at;
-        }
-        return !atEnd();
-    }
-
-    std::string word() {
-        switch (m_text[m_at]) {
-        case '=':
-            ++m_at;
-            return "=";
-        case '"':
-            return quotedWord();
-        default:
-            return plainWord();
-        }
-    }
-
-    std::string plainWord() {
-        const std::size_t begin = m_at;
-        while (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
-            if (m_text[m_at] == '"') {
-                throw HostError("A quote stands within a word.");
-            }
-            ++m_at;
-        }
-        return m_text.substr(begin, m_at - begin);
-    }
-
-    std::string quotedWord() {
-        std::string result;
-        for (++m_at; !atEnd() && m_text[m_at] != '"'; ++m_at) {
-            result += m_text[m_at] == '\\' ? escaped() : m_text[m_at];
-        }
-        if (atEnd()) {
-            throw HostError("A closing quote is missing.");
-        }
-        ++m_at;
-        if (!atEnd() && !isBlank(m_text[m_at]) && m_text[m_at] != '=') {
-            throw HostError("A blank is missing behind a quoted word.");
-        }
-        return result;
-    }
-
-    /// Stands on the last character of the escape afterwards.
-    char escaped() {
-        ++m_at;
-        switch (atEnd() ? '\0' : m_text[m_at]) {
-        case '"':
-            return '"';
-        case '\\':
-            return '\\';
-        case 'n':
-            return '\n';
-        default:
-            throw HostError("A backslash within quotes must be followed by \\, \" or n.");
-        }
-    }
-
-    bool atEnd() const { return m_at >= m_text.size(); }
-
-    const std::string& m_text;
-    std::size_t m_at = 0;
-};
-
 } // namespace
 
 MacroError::MacroError(const std::string& file, unsigned long line, const std::string& text,
                        const std::string& cause)
     : HostError(shown(file, longestCause) + ":" + std::to_string(line) + ": " +
                 shown(text, longestShown) + "\n" + shown(cause, longestCause)) {}
-
-std::string quoted(const std::string& text) {
-    std::string result = "\"";
-    for (const char c : text) {
-        switch (c) {
-        case '"':
-        case '\\':
-            result += '\\';
-            result += c;
-            break;
-        case '\n':
-            result += "\\n";
-            break;
-        default:
-            result += c;
-        }
-    }
-    return result + '"';
-}
 
 std::string macroLine(const std::string& name, const std::vector<std::string>& words) {
     std::string line = "$!" + name;
@@ -168,10 +65,6 @@ std::string macroLine(const std::string& name, const std::vector<std::string>& w
         line += ' ' + (isPlain ? word : quoted(word));
     }
     return line;
-}
-
-std::vector<std::string> splitWords(const std::string& text) {
-    return Splitter(text).words();
 }
 
 MacroReader::MacroReader(std::istream& stream, std::string fileName)

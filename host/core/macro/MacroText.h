@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/core/base/HostError.h"
+#include "host/core/base/QuotedWords.h"
 
 #include <istream>
 #include <string>
@@ -26,17 +27,9 @@ struct MacroLine {
     std::string text;               ///< as it stands in the file, without blanks around it
 };
 
-/// In double quotes, with \" and \\ for quotes and backslashes and \n for line breaks.
-std::string quoted(const std::string& text);
-
 /// The line of a macro that splits into these words again: macroLine("VIEW", {"FIT"}) is
 /// "$!VIEW FIT".
 std::string macroLine(const std::string& name, const std::vector<std::string>& words);
-
-/// Words are separated by blanks and tabs; "=" is a word of its own outside quotes; a word in
-/// double quotes may hold anything, with \", \\ and \n as above. Throws HostError with
-/// the cause.
-std::vector<std::string> splitWords(const std::string& text);
 
 /// Reads the next line that is neither empty nor a comment (#). False at the end. Throws MacroError
 /// for a line that does not begin with "$!", cannot be split, holds a zero byte, or is longer than

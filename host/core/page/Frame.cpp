@@ -23,6 +23,27 @@ Frame::Frame(long id, Placement where) : placement(where), m_id(id) {
     bindPlotStyles(m_styles, style, {isQuantity, isVector, mayHaveVectors});
 }
 
+Frame::Frame(const FrameState& state) : Frame(state.id, state.placement) {
+    putBack(state);
+}
+
+FrameState Frame::state() const {
+    return {m_id, placement, plotType, view, style, solutionTime, m_data};
+}
+
+void Frame::putBack(const FrameState& state) {
+    placement = state.placement;
+    plotType = state.plotType;
+    view = state.view;
+    solutionTime = state.solutionTime;
+    const bool isBound = style.surfaces.size() == state.style.surfaces.size();
+    m_data = state.data;
+    style = state.style;
+    if (!isBound) {
+        bindSurfaceStyles(m_styles, style.surfaces);
+    }
+}
+
 void Frame::attachData(std::shared_ptr<const DataSet> data) {
     m_data = std::move(data);
     style.surfaces.assign(m_data ? m_data->blocks.size() : 0, SurfaceStyle{});

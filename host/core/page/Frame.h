@@ -3,6 +3,8 @@
 
 #include "host/core/page/DataSet.h"
 #include "host/core/page/FrameStyle.h"
+#include "host/core/page/PageState.h"
+#include "host/core/page/Placement.h"
 #include "host/core/page/StyleTree.h"
 #include "host/core/page/View3D.h"
 #include "hostapi/CorEnums.h"
@@ -11,22 +13,12 @@
 
 namespace corvane::host {
 
-/// Position of the left upper corner and size on the paper, in inches; y grows downwards.
-struct Placement {
-    double x = 0.0;
-    double y = 0.0;
-    double width = 8.0;
-    double height = 4.5;
-
-    double aspect() const { return width / height; }
-    friend bool operator==(const Placement&, const Placement&) = default;
-};
-
 /// All state that the picture of a frame depends on. It stays at its address, since its style tree
 /// points into it.
 class Frame {
 public:
     Frame(long id, Placement placement);
+    explicit Frame(const FrameState& state);
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
 
@@ -43,14 +35,17 @@ public:
     /// is allowed. Chooses nothing: see chooseDefaultPlots.
     void attachData(std::shared_ptr<const DataSet> data);
 
+    /// Everything that its picture depends on.
+    FrameState state() const;
+    /// Becomes what the state says, but for the number, which stays.
+    void putBack(const FrameState& state);
+
     /// "ThreeDView", "GlobalThreeD", "ThreeDAxis", "StreamAttributes", "Contour", "Surface" n,
     /// "Slice" n, "IsoSurface" n, "Streamtraces", "Annotations".
     StyleTree& styles() { return m_styles; }
     const StyleTree& styles() const { return m_styles; }
 
 private:
-    void bindSurfaces();
-
     long m_id;
     std::shared_ptr<const DataSet> m_data;
     StyleTree m_styles;

@@ -36,6 +36,36 @@ auto findById(Frames& frames, long id) {
 
 } // namespace
 
+PageState Page::state() const {
+    PageState state{workArea, {}, m_active != nullptr ? m_active->id() : 0};
+    state.frames.reserve(m_frames.size());
+    for (const auto& frame : m_frames) {
+        state.frames.push_back(frame->state());
+    }
+    return state;
+}
+
+void Page::putBack(const PageState& state) {
+    endWalk();
+    workArea = state.workArea;
+    std::vector<std::unique_ptr<Frame>> stack;
+    for (const FrameState& wanted : state.frames) {
+        const auto found = findById(m_frames, wanted.id);
+        if (found == m_frames.end()) {
+            stack.push_back(std::make_unique<Frame>(wanted));
+            m_lastId = std::max(m_lastId, wanted.id);
+        } else {
+            stack.push_back(std::move(*found));
+            m_frames.erase(found);
+            stack.back()->putBack(wanted);
+        }
+    }
+    m_frames = std::move(stack);
+    if (!activate(state.active)) {
+        activateTop();
+    }
+}
+
 void Page::resizeWorkArea(const WorkArea& area) {
     const bool isFilled = isFilledByOneFrame();
     workArea = area;

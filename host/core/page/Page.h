@@ -2,25 +2,14 @@
 #pragma once
 
 #include "host/core/page/Frame.h"
+#include "host/core/page/PageState.h"
+#include "host/core/page/WorkArea.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace corvane::host {
-
-/// The paper is as wide as a work area that one frame fills, so that texts and frames look the same
-/// in windows and batch runs of any size.
-inline constexpr double paperWidthInches = 8.0;
-
-/// What the window, or the picture of a batch run, shows of the paper.
-struct WorkArea {
-    int width = 1280; ///< pixels
-    int height = 720;
-    double pixelsPerInch = 1280 / paperWidthInches;
-
-    friend bool operator==(const WorkArea&, const WorkArea&) = default;
-};
 
 class Page {
 public:
@@ -29,6 +18,11 @@ public:
     Page& operator=(const Page&) = delete;
 
     WorkArea workArea;
+
+    PageState state() const;
+    /// Shows what the state says; frames that are in both stay at their addresses. Ends a walk.
+    /// Numbers that were ever used are not used again.
+    void putBack(const PageState& state);
 
     /// Frames keep their places on the paper, but one that fills the work area goes on filling it.
     void resizeWorkArea(const WorkArea& area);

@@ -142,12 +142,24 @@ StyleSetResult_e StyleTree::set(const StyleLeaf& leaf, const StyleInput& value) 
     return std::visit(Writer{leaf, value}, leaf.target);
 }
 
+bool StyleTree::restore(const StyleLeaf& leaf, const StyleInput& value) {
+    if (std::visit(Writer{leaf, value}, leaf.target) == StyleSet_BadValue) {
+        return false;
+    }
+    // Zero and minus zero count as equal when they are set, and are restored as they were.
+    if (double* const* const number = std::get_if<double*>(&leaf.target)) {
+        **number = std::get<double>(value);
+    }
+    return true;
+}
+
 std::optional<StyleInput> StyleTree::get(const StylePath& path) const {
     const StyleLeaf* leaf = find(path);
-    if (leaf == nullptr) {
-        return std::nullopt;
-    }
-    return std::visit(Reader{}, leaf->target);
+    return leaf == nullptr ? std::nullopt : std::optional(get(*leaf));
+}
+
+StyleInput StyleTree::get(const StyleLeaf& leaf) {
+    return std::visit(Reader{}, leaf.target);
 }
 
 const StyleLeaf* StyleTree::find(const StylePath& path) const {

@@ -55,8 +55,13 @@ public:
     /// The same for a leaf that find() gave.
     static StyleSetResult_e set(const StyleLeaf& leaf, const StyleInput& value);
 
+    /// Writes a value that was read from such a leaf before, whether or not it could be set in this
+    /// state. False for one that the leaf can never have had.
+    static bool restore(const StyleLeaf& leaf, const StyleInput& value);
+
     /// The value, or nothing when there is no such leaf. Booleans arrive as 0 and 1.
     std::optional<StyleInput> get(const StylePath& path) const;
+    static StyleInput get(const StyleLeaf& leaf);
 
     /// Valid until something is bound or unbound; null without such a leaf.
     const StyleLeaf* find(const StylePath& path) const;

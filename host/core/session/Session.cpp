@@ -5,6 +5,7 @@
 #include "host/core/base/PartFile.h"
 #include "host/core/base/Text.h"
 #include "host/core/picture/PictureRequests.h"
+#include "host/core/session/PageChanges.h"
 
 #include <algorithm>
 #include <cmath>
@@ -241,6 +242,22 @@ bool Session::deleteFrame(long id) {
     pageChanged(StateChange_FrameDeleted);
     if (m_page.active() != before && m_page.active() != nullptr) {
         pageChanged(StateChange_FrameActivated);
+    }
+    return true;
+}
+
+bool Session::putBack(const PageState& state) {
+    if (isAnimating()) {
+        return false;
+    }
+    const PageState before = m_page.state();
+    if (before == state) {
+        return true;
+    }
+    m_page.putBack(state);
+    m_drawing.mark();
+    for (const StateChange_e change : changesBetween(before, m_page.state())) {
+        m_stateChanges.notify(change);
     }
     return true;
 }

@@ -94,6 +94,9 @@ public:
     /// False without such a frame.
     bool activateFrame(long id);
     bool deleteFrame(long id);
+    /// Shows what the state says, and tells about all that is another then. False, and nothing
+    /// changes, during an animation.
+    bool putBack(const PageState& state);
     /// Writes a PNG file, whole or not at all. The height follows from the region. Throws
     /// HostError.
     void exportPicture(const std::string& fileName, ExportRegion_e region, int width,
