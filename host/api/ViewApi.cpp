@@ -12,8 +12,8 @@ namespace {
 
 /// Null when the frame in question is not a 3D frame.
 const View3D* currentView(Session& session) {
-    const Frame* const frame = session.page().current();
-    return frame && frame->plotType == PlotType_Cartesian3D ? &frame->view : nullptr;
+    const Frame* const frame = session.page().currentSpatial();
+    return frame ? &frame->view : nullptr;
 }
 
 double radians(double degrees) {

@@ -1,11 +1,11 @@
 // The main job: a key frame file becomes a movie, by the add-on's own macro commands.
 #include "host/app/Flight.h"
 
-#include "host/app/MovieFormats.h"
 #include "host/core/Host.h"
 #include "host/core/base/HostError.h"
 #include "host/core/base/Text.h"
 #include "host/core/macro/MacroWords.h"
+#include "host/core/picture/MovieFormats.h"
 
 #include <filesystem>
 
@@ -53,7 +53,7 @@ void openKeyFrames(host::Host& host, const std::string& givenName) {
 }
 
 void setUpMovie(host::Host& host, const Options& options, double speed) {
-    setUp(host, "ExportFormat", movieFormatFor(options.output)->keyword);
+    setUp(host, "ExportFormat", host::movieFormatForFile(options.output)->keyword);
     setUp(host, "ExportRegion", "CURRENTFRAME");
     setUp(host, "ImageWidth", std::to_string(host.session().page().workArea.width));
     setUp(host, "AnimationSpeed", host::exactText(options.framesPerSecond.value_or(speed)));

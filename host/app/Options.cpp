@@ -1,38 +1,35 @@
 // The command line as values.
 #include "host/app/Options.h"
 
-#include "host/app/MovieFormats.h"
+#include "host/core/base/Limits.h"
 #include "host/core/commands/MacroReference.h"
+#include "host/core/picture/MovieFormats.h"
 
 #include <CLI/CLI.hpp>
 
-#include <charconv>
+#include <algorithm>
+#include <string_view>
 
 namespace corvane::app {
 namespace {
 
-constexpr int minimumSize = 4;
-constexpr int maximumSize = 32766;
+namespace limits = host::limits;
+using host::rangeText;
 
-std::optional<int> parseSide(const char* first, const char* last) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(first, last, value);
-    const bool fits =
-        error == std::errc{} && end == last && value >= minimumSize && value <= maximumSize;
-    return fits ? std::optional(value) : std::nullopt;
+std::optional<int> parseSide(std::string_view text) {
+    const std::optional<int> side = host::parsedNumber<int>(text);
+    return side && limits::pictureSide.contains(*side) ? side : std::nullopt;
 }
 
 void parseSize(const std::string& text, Options& options) {
-    const auto cross = text.find('x');
-    const char* end = text.data() + text.size();
-    const auto width =
-        cross == std::string::npos ? std::nullopt : parseSide(text.data(), text.data() + cross);
-    const auto height =
-        cross == std::string::npos ? std::nullopt : parseSide(text.data() + cross + 1, end);
+    const std::string_view view = text;
+    const std::size_t cross = std::min(view.find('x'), view.size());
+    const auto width = parseSide(view.substr(0, cross));
+    const auto height = cross < view.size() ? parseSide(view.substr(cross + 1)) : std::nullopt;
     if (!width || !height) {
-        throw UsageError("--size takes width and height in pixels, from 4 to 32766, such as "
-                         "1920x1080; \"" +
-                         text + "\" is not that.");
+        throw UsageError("--size takes width and height in pixels, from " +
+                         rangeText(limits::pictureSide) + ", such as 1920x1080; \"" + text +
+                         "\" is not that.");
     }
     options.width = *width;
     options.height = *height;
@@ -51,9 +48,9 @@ void parseVariables(const std::vector<std::string>& settings, Options& options) 
 
 // CLI11's own range check lets "nan" through.
 void checkFramesPerSecond(const Options& options) {
-    if (options.framesPerSecond &&
-        !(*options.framesPerSecond >= 0.001 && *options.framesPerSecond <= 200.0)) {
-        throw UsageError("--fps takes frames per second from 0.001 to 200.");
+    if (options.framesPerSecond && !limits::framesPerSecond.contains(*options.framesPerSecond)) {
+        throw UsageError("--fps takes frames per second from " +
+                         rangeText(limits::framesPerSecond) + ".");
     }
 }
 
@@ -67,9 +64,9 @@ void checkCombination(const Options& options) {
     if (!options.output.empty() && options.keyFrames.empty()) {
         throw UsageError("--output needs --keyframes FILE, the flight that goes into the movie.");
     }
-    if (!options.output.empty() && movieFormatFor(options.output) == nullptr) {
+    if (!options.output.empty() && host::movieFormatForFile(options.output) == nullptr) {
         throw UsageError("The movie's format follows from its extension, and \"" + options.output +
-                         "\" has none of " + movieExtensions() + ".");
+                         "\" has none of " + host::movieExtensions() + ".");
     }
     if (options.keyFrames.empty() && options.macro.empty()) {
         throw UsageError("There is nothing to do without a window: give --macro FILE, or "
@@ -106,10 +103,12 @@ Options parseCommandLine(int argc, const char* const* argv) {
            "fits it)")
         ->type_name("WxH");
     app.add_option("--fps", options.framesPerSecond,
-                   "frames per second, 0.001 to 200 (30, or what the macro sets)");
+                   "frames per second, " + rangeText(limits::framesPerSecond) +
+                       " (30, or what the macro sets)");
     app.add_option("--supersample", options.supersample,
-                   "draw 2 to 16 times larger and filter down; 1 does not")
-        ->check(CLI::Range(1, 16));
+                   "draw " + rangeText(limits::supersampling) +
+                       " times larger and filter down; 1 does not")
+        ->check(CLI::Range(limits::supersamplingOrNone.least, limits::supersamplingOrNone.most));
     app.add_option("--add-on", options.addOns,
                    "load this library beside Key Frame Animation; may be given several times")
         ->type_name("LIBRARY")

@@ -1,6 +1,8 @@
 // Chooses how a movie is written.
 #include "host/movie/LibavMovieWriters.h"
 
+#include "host/core/base/Limits.h"
+#include "host/core/picture/MovieFormats.h"
 #include "host/movie/EncoderThread.h"
 #include "host/movie/formats/AviFormat.h"
 #include "host/movie/formats/FlvFormat.h"
@@ -8,7 +10,6 @@
 #include "host/movie/formats/RasterMetafileFormat.h"
 #include "host/movie/formats/SwfFormat.h"
 #include "host/movie/formats/WmvFormat.h"
-#include "host/movie/libav/FrameRate.h"
 #include "host/movie/libav/LibavCheck.h"
 #include "host/movie/libav/LibavLog.h"
 
@@ -24,17 +25,14 @@ void logOnStandardError(const std::string& note) {
 }
 
 void checkSpeed(const host::MovieRequest& request) {
-    // Written so that a speed that is not a number is refused too.
-    if (request.framesPerSecond >= leastFramesPerSecond &&
-        request.framesPerSecond <= mostFramesPerSecond) {
-        return;
+    if (!host::limits::framesPerSecond.contains(request.framesPerSecond)) {
+        LibavCheck(request.path)
+            .fail("its speed would be " + std::to_string(request.framesPerSecond) +
+                  " frames per second; choose " + host::rangeText(host::limits::framesPerSecond));
     }
-    LibavCheck(request.path)
-        .fail("its speed would be " + std::to_string(request.framesPerSecond) +
-              " frames per second; choose 0.001 to 200");
 }
 
-std::unique_ptr<MovieFormat> formatOf(const host::MovieRequest& request) {
+std::unique_ptr<FileFormat> formatOf(const host::MovieRequest& request) {
     switch (request.format) {
     case ExportFormat_AVI:
         return std::make_unique<AviFormat>();
@@ -50,8 +48,8 @@ std::unique_ptr<MovieFormat> formatOf(const host::MovieRequest& request) {
         return std::make_unique<WmvFormat>();
     }
     LibavCheck(request.path)
-        .fail("format " + std::to_string(request.format) +
-              " holds no movies; choose AVI, FLV, Flash, MPEG-4, WMV or raster metafile");
+        .fail("format " + std::to_string(request.format) + " holds no movies; choose " +
+              host::movieDescriptions());
 }
 
 } // namespace

@@ -87,8 +87,7 @@ void FrameScene::update(const Frame& frame, const FrameArea& area, int pictureWi
 
     updatePlots(frame, area);
     updateAnnotations(frame, area);
-    const bool axis = frame.style.annotations.showAxis && m_data != nullptr &&
-                      frame.plotType == PlotType_Cartesian3D;
+    const bool axis = frame.style.annotations.showAxis && m_data != nullptr && frame.isSpatial();
     if (axis) {
         m_axis.show(frame.view, textColorOn(frame.style.annotations.background), area, pictureWidth,
                     pictureHeight);
@@ -102,7 +101,7 @@ void FrameScene::updatePlots(const Frame& frame, const FrameArea& area) {
     attach(frame);
     hidePlots();
     m_warning.clear();
-    if (m_data != nullptr && frame.plotType == PlotType_Cartesian3D) {
+    if (m_data != nullptr && frame.isSpatial()) {
         showContent(frame, area);
     }
     m_renderer->SetUseDepthPeeling(m_isTranslucent ? 1 : 0);
@@ -182,7 +181,7 @@ void FrameScene::updateAnnotations(const Frame& frame, const FrameArea& area) {
     const host::AnnotationStyle& style = frame.style.annotations;
     const host::Color textColor = textColorOn(style.background);
 
-    if (style.showOutline && m_data != nullptr && frame.plotType == PlotType_Cartesian3D) {
+    if (style.showOutline && m_data != nullptr && frame.isSpatial()) {
         m_outline.show(m_data->bounds, lineColorOn(style.background), frame.style.light,
                        std::max(1.0, lineWidthPart * area.full.height));
     } else {

@@ -2,6 +2,7 @@
 #include "host/scene/SceneRenderer.h"
 
 #include "host/core/base/HostError.h"
+#include "host/core/base/Limits.h"
 #include "host/core/page/Page.h"
 #include "host/scene/FrameScene.h"
 #include "host/scene/ahead/PreparedGeometry.h"
@@ -24,10 +25,6 @@
 namespace corvane::scene {
 
 namespace {
-
-/// The largest finished picture; supersampling comes on top.
-constexpr int largestPicture = 32766;
-constexpr int largestSupersample = 16;
 
 host::Picture emptyPicture(const host::PictureRequest& request) {
     const std::size_t pixels =
@@ -187,11 +184,11 @@ SceneRenderer::Canvas& SceneRenderer::canvas() const {
 }
 
 int SceneRenderer::largestSize() const {
-    return largestPicture * largestSupersample;
+    return host::limits::pictureSide.most * host::limits::supersampling.most;
 }
 
 void SceneRenderer::limitTarget(int pixels) {
-    canvas().limitTarget(std::max(largestSupersample, pixels));
+    canvas().limitTarget(std::max(host::limits::supersampling.most, pixels));
 }
 
 void SceneRenderer::waitForReadAhead() {

@@ -1,6 +1,7 @@
 // The table of macro commands.
 #include "host/core/commands/MacroCommands.h"
 
+#include "host/core/base/Limits.h"
 #include "host/core/base/Text.h"
 #include "host/core/macro/MacroText.h"
 #include "host/core/macro/MacroVariables.h"
@@ -53,10 +54,12 @@ const std::vector<MacroCommand>& macroCommands() {
          changeFrames},
         {"WORKAREA",
          {"Width = N Height = N [PixelsPerInch = N]"},
-         "Makes the part of the paper that pictures show so many pixels wide and high, from 4 to "
-         "32766. The paper is 8 inches wide in it unless PixelsPerInch is given. One frame that "
-         "fills it goes on filling it. A size from the command line (--size) stays; in a window, "
-         "the size holds while the macro plays.",
+         "Makes the part of the paper that pictures show so many pixels wide and high, from " +
+             rangeText(limits::pictureSide) +
+             ". The paper is 8 inches wide in it unless PixelsPerInch is given. One frame that "
+             "fills it goes on filling it. A size from the command line (--size) stays; in a "
+             "window, "
+             "the size holds while the macro plays.",
          "$!WORKAREA Width = 1920 Height = 1080",
          sizeWorkArea,
          Recorded::ByOthers},
@@ -71,7 +74,9 @@ const std::vector<MacroCommand>& macroCommands() {
          {"\"FILE.png\" [Region = CURRENTFRAME | ALLFRAMES | WORKAREA] [Width = N] "
           "[Supersample = N]"},
          "Writes a picture: of the work area, as wide as it is, unless other values are given. "
-         "Width is 4 to 32766 pixels; Supersample draws 2 to 16 times larger and filters down.",
+         "Width is " +
+             rangeText(limits::pictureSide) + " pixels; Supersample draws " +
+             rangeText(limits::supersampling) + " times larger and filters down.",
          "$!PICTURE \"wake.png\" Width = 1920 Supersample = 2",
          exportPicture,
          Recorded::WithFileName},

@@ -8,14 +8,6 @@ namespace corvane::host {
 
 namespace {
 
-int rangedFrom(const std::string& name, const std::string& text, int minimum, int maximum) {
-    const int value = integerFrom(text);
-    if (value < minimum || value > maximum) {
-        reject(name + " cannot be \"" + text + "\".");
-    }
-    return value;
-}
-
 ExportRegion_e regionFrom(const std::string& text) {
     const std::optional<StyleInput> value = exportSettingFromText("ExportRegion", text);
     if (!value) {
@@ -36,9 +28,9 @@ void exportPicture(const MacroCall& call) {
         if (equalIgnoringCase(name, "Region")) {
             region = regionFrom(text);
         } else if (equalIgnoringCase(name, "Width")) {
-            width = rangedFrom(name, text, 4, 32766);
+            width = integerWithin(limits::pictureSide, name, text);
         } else if (equalIgnoringCase(name, "Supersample")) {
-            supersample = rangedFrom(name, text, 1, 16);
+            supersample = integerWithin(limits::supersamplingOrNone, name, text);
         } else {
             reject("A picture has no value \"" + name + "\".");
         }

@@ -69,16 +69,6 @@ void deleteFrame(const MacroCall& call) {
 
 constexpr const char* sizeForm = "Width = pixels, Height = pixels, PixelsPerInch = number";
 
-int pixelsFrom(const std::string& name, const std::string& text) {
-    constexpr int least = 4;
-    constexpr int most = 32766;
-    const int pixels = integerFrom(text);
-    if (pixels < least || pixels > most) {
-        reject(name + " cannot be \"" + text + "\".");
-    }
-    return pixels;
-}
-
 double scaleFrom(const std::string& name, const std::string& text) {
     constexpr double most = 1e5;
     const double scale = numberFrom(text);
@@ -92,9 +82,9 @@ WorkArea workAreaFrom(const std::vector<std::string>& words) {
     WorkArea area{0, 0, 0.0};
     for (const auto& [name, text] : settingsOf(words, 0, sizeForm)) {
         if (equalIgnoringCase(name, "Width")) {
-            area.width = pixelsFrom(name, text);
+            area.width = integerWithin(limits::pictureSide, name, text);
         } else if (equalIgnoringCase(name, "Height")) {
-            area.height = pixelsFrom(name, text);
+            area.height = integerWithin(limits::pictureSide, name, text);
         } else if (equalIgnoringCase(name, "PixelsPerInch")) {
             area.pixelsPerInch = scaleFrom(name, text);
         } else {

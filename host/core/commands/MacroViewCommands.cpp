@@ -33,8 +33,8 @@ const AxisView& axisViewFrom(const std::string& name) {
 }
 
 Frame& spatialFrame(Session& session) {
-    Frame* const frame = session.page().current();
-    if (frame == nullptr || frame->plotType != PlotType_Cartesian3D) {
+    Frame* const frame = session.page().currentSpatial();
+    if (frame == nullptr) {
         reject("There is no 3D frame that has a view.");
     }
     return *frame;

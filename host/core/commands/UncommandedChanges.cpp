@@ -56,7 +56,7 @@ void UncommandedChanges::remember() {
 }
 
 void UncommandedChanges::catchUpFrame(const FrameState& frame, const FrameState& seen) {
-    if (frame.view != seen.view && frame.plotType == PlotType_Cartesian3D) {
+    if (frame.view != seen.view && frame.isSpatial()) {
         m_recorder.recordState(macroLine("VIEW", viewWords(frame.view)));
     }
     if (frame.solutionTime != seen.solutionTime) {

@@ -47,6 +47,14 @@ long longFrom(const std::string& text) {
     return parsed<long>(text);
 }
 
+int integerWithin(const Range<int>& range, const std::string& name, const std::string& text) {
+    const int value = integerFrom(text);
+    if (!range.contains(value)) {
+        reject(name + " cannot be \"" + text + "\".");
+    }
+    return value;
+}
+
 bool booleanFrom(const std::string& text) {
     if (equalIgnoringCase(text, "true")) {
         return true;

@@ -1,6 +1,8 @@
 // The words behind a macro command as values.
 #pragma once
 
+#include "host/core/base/Limits.h"
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,6 +22,8 @@ double numberFrom(const std::string& text);
 int integerFrom(const std::string& text);
 long longFrom(const std::string& text);
 bool booleanFrom(const std::string& text);
+/// Rejects the value of the named setting when it is outside the range too.
+int integerWithin(const Range<int>& range, const std::string& name, const std::string& text);
 
 /// The value of the words "= VALUE". Rejects others with the form.
 const std::string& valueOf(const std::vector<std::string>& words, const char* form);

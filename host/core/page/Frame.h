@@ -30,6 +30,9 @@ public:
     FrameStyle style;
     double solutionTime = 0.0;
 
+    /// Whether it shows 3D data, and so has a view.
+    bool isSpatial() const { return plotType == PlotType_Cartesian3D; }
+
     const std::shared_ptr<const DataSet>& data() const { return m_data; }
     /// Makes style.surfaces fit the blocks of the new data and rebinds their paths; no data (null)
     /// is allowed. Chooses nothing: see chooseDefaultPlots.

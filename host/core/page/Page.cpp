@@ -170,6 +170,11 @@ Frame* Page::current() const {
     return m_walk ? m_frames[*m_walk].get() : m_active;
 }
 
+Frame* Page::currentSpatial() const {
+    Frame* const frame = current();
+    return frame != nullptr && frame->isSpatial() ? frame : nullptr;
+}
+
 double Page::toPixels(double inches) const {
     return snapped(inches * workArea.pixelsPerInch);
 }

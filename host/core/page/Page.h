@@ -55,6 +55,7 @@ public:
     bool nextOfWalk();
     void endWalk();
     Frame* current() const;
+    Frame* currentSpatial() const; ///< current(), if it is spatial; null otherwise
 
     /// Pixels of a length on the paper, rounded to 1e-9 relative so that 800 never arrives as
     /// 799.99….

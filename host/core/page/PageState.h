@@ -25,6 +25,7 @@ struct FrameState {
     double solutionTime = 0.0;
     std::shared_ptr<const DataSet> data; ///< null: none
 
+    bool isSpatial() const { return plotType == PlotType_Cartesian3D; }
     friend bool operator==(const FrameState&, const FrameState&) = default;
 };
 

@@ -1,10 +1,11 @@
 // The export settings, their paths and their words in macros.
 #include "host/core/picture/ExportSetup.h"
 
+#include "host/core/base/Limits.h"
 #include "host/core/base/Text.h"
+#include "host/core/picture/MovieFormats.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <utility>
 
@@ -26,16 +27,17 @@ struct Setting {
     std::vector<Keyword> keywords;
 };
 
+std::vector<Keyword> formatKeywords() {
+    std::vector<Keyword> keywords;
+    for (const MovieFormat& format : movieFormats()) {
+        keywords.push_back({format.keyword, format.code});
+    }
+    return keywords;
+}
+
 const std::vector<Setting>& settings() {
     const static std::vector<Setting> all{
-        {"ExportFormat",
-         Kind::Integer,
-         {{"AVI", ExportFormat_AVI},
-          {"FLV", ExportFormat_FlashFLV},
-          {"FLASH", ExportFormat_FlashSWF},
-          {"MPEG4", ExportFormat_MPEG4},
-          {"RASTERMETAFILE", ExportFormat_RasterMetafile},
-          {"WMV", ExportFormat_WMV}}},
+        {"ExportFormat", Kind::Integer, formatKeywords()},
         {"ExportRegion",
          Kind::Integer,
          {{"CURRENTFRAME", ExportRegion_CurrentFrame},
@@ -83,10 +85,7 @@ std::optional<StyleInput> keywordFromText(const Setting& setting, const std::str
 } // namespace
 
 bool ExportSetup::isAnimationFormat() const {
-    constexpr std::array<int, 6> formats{ExportFormat_RasterMetafile, ExportFormat_AVI,
-                                         ExportFormat_FlashSWF,       ExportFormat_FlashFLV,
-                                         ExportFormat_MPEG4,          ExportFormat_WMV};
-    return std::find(formats.begin(), formats.end(), format) != formats.end();
+    return movieFormatOf(format) != nullptr;
 }
 
 void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> isAllowed) {
@@ -106,10 +105,13 @@ void bindExportSetup(StyleTree& tree, ExportSetup& setup, std::function<bool()> 
     bind("AVICompression", &setup.aviCompression, 0, AVICompression_LosslessUncompressed);
     bind("FlashImageType", &setup.flashImageType, 0, FlashImageType_256Color);
     bind("FlashCompressionType", &setup.flashCompressionType, 0, FlashCompressionType_SmallestSize);
-    bind("ImageWidth", &setup.imageWidth, 4, 32766);
-    bind("AnimationSpeed", &setup.animationSpeed, 0.001, 200);
+    const auto bindRange = [&](const char* name, auto* target, const auto& range) {
+        bind(name, target, range.least, range.most);
+    };
+    bindRange("ImageWidth", &setup.imageWidth, limits::pictureSide);
+    bindRange("AnimationSpeed", &setup.animationSpeed, limits::framesPerSecond);
     bind("UseSuperSampleAntiAliasing", &setup.useSuperSampleAntiAliasing, 0, 1);
-    bind("SuperSampleFactor", &setup.superSampleFactor, 2, 16);
+    bindRange("SuperSampleFactor", &setup.superSampleFactor, limits::supersampling);
     bind("ExportFName", &setup.fileName, 0, 0);
 }
 

@@ -14,10 +14,10 @@ struct ExportSetup {
     int flashImageType = FlashImageType_Lossless;
     int flashCompressionType = FlashCompressionType_BestSpeed;
     int region = ExportRegion_CurrentFrame;
-    int imageWidth = 512;         ///< pixels, 4..32766; the height follows from the region's aspect
-    double animationSpeed = 30.0; ///< frames per second, 0.001..200
+    int imageWidth = 512; ///< limits::pictureSide; the height follows from the region's aspect
+    double animationSpeed = 30.0; ///< limits::framesPerSecond
     bool useSuperSampleAntiAliasing = false;
-    int superSampleFactor = 3; ///< 2..16, used with useSuperSampleAntiAliasing
+    int superSampleFactor = 3; ///< limits::supersampling; used with useSuperSampleAntiAliasing
     std::string fileName;
 
     bool isAnimationFormat() const;

@@ -6,6 +6,7 @@
 #include "host/core/page/Page.h"
 #include "host/core/picture/Drawing.h"
 #include "host/core/picture/ExportSetup.h"
+#include "host/core/picture/MovieFormats.h"
 #include "host/core/picture/PictureRequests.h"
 #include "host/core/ports/Ports.h"
 
@@ -73,8 +74,7 @@ bool Exporter::cancel() {
 PictureRequest Exporter::request() const {
     if (!m_setup.isAnimationFormat()) {
         throw HostError("The export format " + std::to_string(m_setup.format) +
-                        " holds no movies. Choose AVI, FLV, Flash, MPEG-4, WMV or raster "
-                        "metafile.");
+                        " holds no movies. Choose " + movieDescriptions() + ".");
     }
     if (m_setup.fileName.empty()) {
         throw HostError("The movie has no file name. Set one in the export options.");

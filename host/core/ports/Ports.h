@@ -54,7 +54,7 @@ struct MovieRequest {
     ExportFormat_e format = ExportFormat_MPEG4;
     int width = 0;                 ///< pixels of the pictures that will be added
     int height = 0;                ///< odd sizes are padded where the format needs even ones
-    double framesPerSecond = 30.0; ///< 0.001..200
+    double framesPerSecond = 30.0; ///< limits::framesPerSecond
     AVICompression_e aviCompression = AVICompression_LinePreserving;
     FlashImageType_e flashImageType = FlashImageType_Lossless;
     FlashCompressionType_e flashCompression = FlashCompressionType_BestSpeed;

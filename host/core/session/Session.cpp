@@ -51,17 +51,12 @@ void Session::bindOwnStyles() {
     bindExportSetup(m_styles, m_exportSetup, [this] { return !m_exporter.isRecording(); });
 }
 
-Frame* Session::spatialFrame() const {
-    Frame* frame = m_page.current();
-    return frame != nullptr && frame->plotType == PlotType_Cartesian3D ? frame : nullptr;
-}
-
 const StyleTree* Session::treeFor(const StylePath& path) const {
     if (!path.empty() && (equalIgnoringCase(path.front(), "ExportSetup") ||
                           equalIgnoringCase(path.front(), "Interface"))) {
         return &m_styles;
     }
-    const Frame* frame = spatialFrame();
+    const Frame* frame = m_page.currentSpatial();
     return frame != nullptr ? &frame->styles() : nullptr;
 }
 
@@ -138,7 +133,7 @@ bool Session::setSolutionTime(double time) {
 }
 
 bool Session::rotateView(RotateAxis_e axis, double degrees) {
-    Frame* frame = spatialFrame();
+    Frame* frame = m_page.currentSpatial();
     const bool isKnown =
         axis == RotateAxis_Psi || axis == RotateAxis_Theta || axis == RotateAxis_Alpha;
     if (frame == nullptr || !isKnown || !std::isfinite(degrees)) {
@@ -151,7 +146,7 @@ bool Session::rotateView(RotateAxis_e axis, double degrees) {
 }
 
 bool Session::setView(const View3D& view) {
-    Frame* frame = spatialFrame();
+    Frame* frame = m_page.currentSpatial();
     if (frame == nullptr) {
         return false;
     }
@@ -161,7 +156,7 @@ bool Session::setView(const View3D& view) {
 }
 
 bool Session::fitView() {
-    Frame* frame = spatialFrame();
+    Frame* frame = m_page.currentSpatial();
     if (frame == nullptr || !frame->data() || frame->data()->bounds.isEmpty()) {
         return false;
     }

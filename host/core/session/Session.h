@@ -121,8 +121,7 @@ private:
     const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
     void announceIfMoved(const Frame& frame, const View3D& before);
-    AddOnCaller addOnCaller();   ///< calls behind the guard, and tells the user what was thrown
-    Frame* spatialFrame() const; ///< the frame in question when it shows 3D
+    AddOnCaller addOnCaller(); ///< calls behind the guard, and tells the user what was thrown
 
     Ports m_ports;
     CallTrace m_trace;

@@ -8,9 +8,7 @@ namespace corvane::gui {
 
 host::Frame* spatialFrameWithData(host::Session& session) {
     host::Frame* const frame = session.page().active();
-    const bool isSpatial =
-        frame != nullptr && frame->data() && frame->plotType == PlotType_Cartesian3D;
-    return isSpatial ? frame : nullptr;
+    return frame != nullptr && frame->data() && frame->isSpatial() ? frame : nullptr;
 }
 
 void setView(const Commands& commands, const host::View3D& view) {

@@ -1,6 +1,7 @@
 // Asks where to and how large a picture is to be written.
 #include "host/gui/menus/ExportPictureDialog.h"
 
+#include "host/core/base/Limits.h"
 #include "host/gui/base/QtText.h"
 
 #include <QComboBox>
@@ -45,7 +46,7 @@ ExportPictureDialog::ExportPictureDialog(int width, int height, QWidget* parent)
       m_supersample(new QComboBox) {
     setWindowTitle(tr("Export Picture"));
     m_file->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
-    m_width->setRange(4, 32766);
+    m_width->setRange(host::limits::pictureSide.least, host::limits::pictureSide.most);
     m_width->setValue(width);
     m_width->setSuffix(tr(" pixels"));
     for (const int factor : {1, 2, 3, 4}) {

@@ -1,7 +1,7 @@
 // Flash movies.
 #pragma once
 
-#include "host/movie/formats/MovieFormat.h"
+#include "host/movie/formats/FileFormat.h"
 
 namespace corvane::movie {
 
@@ -9,7 +9,7 @@ namespace corvane::movie {
 /// writes SWF files with lossy video alone. The image types are lossless bitmaps of 24 bits,
 /// JPEG pictures with the colour of every pixel, and bitmaps with palettes of 256 colours. A file
 /// that was cut off holds all its pictures, but does not say how many.
-class SwfFormat : public MovieFormat {
+class SwfFormat : public FileFormat {
 public:
     std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const override;
 };

@@ -1,12 +1,12 @@
 // A movie format that libav writes from pictures to file.
 #pragma once
 
-#include "host/movie/formats/MovieFormat.h"
+#include "host/movie/formats/FileFormat.h"
 #include "host/movie/libav/VideoSettings.h"
 
 namespace corvane::movie {
 
-class VideoFormat : public MovieFormat {
+class VideoFormat : public FileFormat {
 public:
     std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const override;
 

@@ -7,9 +7,6 @@ extern "C" {
 
 namespace corvane::movie {
 
-constexpr double leastFramesPerSecond = 0.001;
-constexpr double mostFramesPerSecond = 200.0;
-
 /// The fraction with both terms up to largestTerm that is nearest to the speed: 29.97 is 2997/100.
 AVRational frameRate(double framesPerSecond, int largestTerm);
 

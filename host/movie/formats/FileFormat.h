@@ -1,4 +1,4 @@
-// One entry of the menu of movie formats.
+// A format of movie files, and how a movie of it is started.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -8,9 +8,9 @@
 
 namespace corvane::movie {
 
-class MovieFormat {
+class FileFormat {
 public:
-    virtual ~MovieFormat() = default;
+    virtual ~FileFormat() = default;
     /// Starts a movie as the request's options for this format say. Throws HostError when such a
     /// movie cannot be written.
     virtual std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const = 0;
