@@ -1,4 +1,3 @@
-// The queue between drawing and encoding.
 #include "host/movie/EncoderThread.h"
 
 #include "host/core/base/HostError.h"
@@ -92,7 +91,7 @@ bool EncoderThread::takeNext(host::Picture& picture) {
 void EncoderThread::keepFailure(const std::string& reason) {
     const std::lock_guard lock(m_mutex);
     m_failure = reason;
-    m_waiting.clear(); // an add() that waits may go on, and throw
+    m_waiting.clear(); // wakes an add() that waits, which then throws
     m_queueChanged.notify_all();
 }
 

@@ -1,4 +1,4 @@
-// Writes pictures on a thread of its own, so that the next one can be drawn meanwhile.
+// Encodes pictures on a background thread, so that the next one can be drawn meanwhile.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -14,13 +14,13 @@
 
 namespace corvane::movie {
 
-/// Keeps the order of the pictures. Its own functions are for one thread at a time.
+/// Pictures are written in the order in which they are added. Only waiting() is thread-safe.
 class EncoderThread : public host::MovieWriter {
 public:
-    /// mostWaiting: pictures (at least 1) that wait beside the one being written; add() blocks
-    /// beyond them.
+    /// mostWaiting: how many pictures (at least 1) may be queued besides the one being written;
+    /// add() blocks while the queue is full.
     EncoderThread(std::unique_ptr<PictureSink> sink, std::size_t mostWaiting);
-    /// Without finish() before it: drops the waiting pictures.
+    /// Drops queued pictures unless finish() was called.
     ~EncoderThread() override;
     EncoderThread(const EncoderThread&) = delete;
     EncoderThread& operator=(const EncoderThread&) = delete;
@@ -28,7 +28,7 @@ public:
     void add(host::Picture picture) override;
     void finish() override;
 
-    /// Pictures that wait just now; for any thread.
+    /// The number of queued pictures. Thread-safe.
     std::size_t waiting() const;
 
 private:
@@ -44,13 +44,13 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_queueChanged;
     std::deque<host::Picture> m_waiting;
-    std::string m_failure; ///< empty while all went well
+    std::string m_failure; ///< empty while nothing has failed
     bool m_hasEnded = false;
 
-    std::thread m_thread; ///< last: it uses all of the above
+    std::thread m_thread; ///< declared last, since it uses all of the above
 };
 
-/// How many pictures of a size may wait: a few, and one where they are huge.
+/// How many pictures of this size to queue: a few, or one if they are huge.
 std::size_t mostWaitingPictures(int width, int height);
 
 } // namespace corvane::movie

@@ -1,4 +1,3 @@
-// Chooses how a movie is written.
 #include "host/movie/LibavMovieWriters.h"
 
 #include "host/core/base/Limits.h"

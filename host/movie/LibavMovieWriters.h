@@ -9,18 +9,17 @@
 
 namespace corvane::movie {
 
-/// Writes all formats of movies, with libav and, where that has no writer, its own. Pictures are
-/// compressed on a thread of the movie's own. While an MPEG-4 movie is written its file is
-/// fragmented; finish() turns it into a plain one, for which a second file stands beside it for a
-/// moment.
+/// Writes every movie format: with libav, or with code of our own where libav lacks a writer. Each
+/// movie compresses its pictures on its own thread. An MPEG-4 file is fragmented while it is being
+/// written; finish() rewrites it as a plain one, by way of a temporary file beside it.
 class LibavMovieWriters : public host::MovieWriters {
 public:
     using Log = std::function<void(const std::string&)>;
 
-    /// Notes on standard error, one line each.
+    /// Logs to standard error, one line per note.
     LibavMovieWriters();
-    /// The log takes one sentence when a movie is not quite what was asked for, such as padded to
-    /// an even size.
+    /// The log is given one sentence whenever a movie differs from what was asked for, for example
+    /// because it was padded to an even size.
     explicit LibavMovieWriters(Log log);
 
     std::unique_ptr<host::MovieWriter> open(const host::MovieRequest& request) override;

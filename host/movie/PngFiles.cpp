@@ -1,4 +1,3 @@
-// Picture files in the PNG format.
 #include "host/movie/PngFiles.h"
 
 #include "host/core/base/HostError.h"

@@ -5,7 +5,7 @@
 
 namespace corvane::movie {
 
-/// Colours are written as they are, without an alpha channel.
+/// Writes the colours unchanged, without the alpha channel.
 class PngFiles : public host::PictureFiles {
 public:
     void write(const host::Picture& picture, const std::string& path) override;

@@ -1,4 +1,3 @@
-// AVI movies.
 #include "host/movie/formats/AviFormat.h"
 
 #include "host/movie/libav/Codecs.h"
@@ -9,7 +8,7 @@ namespace corvane::movie {
 
 namespace {
 
-constexpr int largestSideInAvi = 32767; // the frame rectangle has signed fields of 16 bits
+constexpr int largestSideInAvi = 32767; // the frame rectangle has signed 16-bit fields
 
 VideoSettings aviWith(EncoderSettings encoder) {
     encoder.largestSide = largestSideInAvi;

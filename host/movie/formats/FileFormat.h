@@ -11,8 +11,8 @@ namespace corvane::movie {
 class FileFormat {
 public:
     virtual ~FileFormat() = default;
-    /// Starts a movie as the request's options for this format say. Throws HostError when such a
-    /// movie cannot be written.
+    /// Starts a movie with the options that the request has for this format. Throws HostError when
+    /// such a movie cannot be written.
     virtual std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const = 0;
 };
 

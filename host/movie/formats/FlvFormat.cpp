@@ -1,4 +1,3 @@
-// Flash video.
 #include "host/movie/formats/FlvFormat.h"
 
 #include "host/movie/libav/Codecs.h"

@@ -5,9 +5,9 @@
 
 namespace corvane::movie {
 
-/// H.264 in an FLV file, which players of FLV have read since the ninth Flash player, and Sorenson
-/// Spark, which all of them read, where libav has no x264. Times are whole milliseconds; the speed
-/// itself stands in the file's description. A file that was cut off plays up to its end.
+/// H.264 in an FLV file, which players support since Flash Player 9. Where libav was built without
+/// x264: Sorenson Spark, which every FLV player supports. Timestamps are whole milliseconds; the
+/// exact frame rate is in the metadata. A truncated file can be played up to where it ends.
 class FlvFormat : public VideoFormat {
 public:
     VideoSettings settings(const host::MovieRequest& request) const override;

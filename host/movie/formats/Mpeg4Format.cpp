@@ -1,4 +1,3 @@
-// MPEG-4 movies: H.264 in an MP4 file.
 #include "host/movie/formats/Mpeg4Format.h"
 
 #include "host/movie/formats/Mpeg4Movie.h"
@@ -8,7 +7,7 @@ namespace corvane::movie {
 
 namespace {
 
-/// Where libav was built without x264. Larger files for the same quality, but every libav has it.
+/// For a libav built without x264. Files are larger at the same quality, but every libav has it.
 EncoderSettings mpeg4Part2() {
     EncoderSettings settings;
     settings.encoder = "mpeg4";

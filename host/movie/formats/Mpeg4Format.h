@@ -5,7 +5,8 @@
 
 namespace corvane::movie {
 
-/// The file is fragmented: what is on disk can be played up to its last fragment at any time.
+/// The file is fragmented while it is being written, so it can be played up to its last fragment
+/// at any time.
 class Mpeg4Format : public VideoFormat {
 public:
     std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const override;

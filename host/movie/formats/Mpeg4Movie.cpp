@@ -1,4 +1,3 @@
-// An MPEG-4 movie being written.
 #include "host/movie/formats/Mpeg4Movie.h"
 
 #include "host/movie/formats/PlainMp4.h"

@@ -7,8 +7,8 @@
 
 namespace corvane::movie {
 
-/// Fragmented while it is written, so that what a killed process leaves can be played; plain when
-/// it is finished, for the widest choice of players.
+/// Fragmented while it is being written, so that the file of a killed process can be played; plain
+/// once it is finished, for compatibility with the most players.
 class Mpeg4Movie : public PictureSink {
 public:
     Mpeg4Movie(const host::MovieRequest& request, const VideoSettings& settings);

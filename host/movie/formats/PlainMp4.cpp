@@ -1,4 +1,3 @@
-// Copies the packets of a fragmented MP4 file into a plain one.
 #include "host/movie/formats/PlainMp4.h"
 
 #include "host/core/base/HostError.h"
@@ -14,7 +13,7 @@ namespace corvane::movie {
 
 namespace {
 
-/// Removes its file unless that was moved away.
+/// Removes its file on destruction unless the file has been moved.
 class CopyFile {
 public:
     explicit CopyFile(std::string path) : m_path(std::move(path)) {}
@@ -77,7 +76,7 @@ void copyPlain(const std::string& from, const std::string& to) {
 bool rearrangeAsPlainMp4(const std::string& path) {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(path, ignored)) {
-        return false; // a device or pipe must not be replaced by a file
+        return false; // never replace a device or pipe by a regular file
     }
     const CopyFile copy(path + ".plain");
     try {

@@ -1,14 +1,14 @@
-// The last step of an MP4 movie.
+// Rewrites a fragmented MP4 file as a plain one.
 #pragma once
 
 #include <string>
 
 namespace corvane::movie {
 
-/// Rearranges a complete fragmented MP4 file into one with a single index at its beginning, which
-/// every player and slide program can seek in; the compressed pictures are copied as they are. The
-/// new file is written beside the old one and takes its place at the end. When that fails (such as
-/// for want of disk space) the old file stays, which is complete too, and the result is false.
+/// Remuxes a complete fragmented MP4 file into one with a single index at its beginning, in which
+/// every player and presentation program can seek; the video is not encoded again. The new file is
+/// written beside the old one and then replaces it. If that fails, for example because the disk is
+/// full, the old file, which is complete too, is kept and the result is false.
 bool rearrangeAsPlainMp4(const std::string& path);
 
 } // namespace corvane::movie

@@ -5,9 +5,9 @@
 
 namespace corvane::movie {
 
-/// Binary PPM pictures one behind the other: lossless, and read by common image tools and players.
-/// The file holds no speed. One that was cut off holds all pictures but the last. The layout is in
-/// docs/raster-metafile.md.
+/// A sequence of binary PPM pictures: lossless, and read by common image tools and players. The
+/// file does not store the frame rate. A truncated file lacks only its last picture.
+/// docs/raster-metafile.md describes the layout.
 class RasterMetafileFormat : public VideoFormat {
 public:
     VideoSettings settings(const host::MovieRequest& request) const override;

@@ -1,4 +1,3 @@
-// Flash movies.
 #include "host/movie/formats/SwfFormat.h"
 
 #include "host/movie/swf/SwfMovie.h"

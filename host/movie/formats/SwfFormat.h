@@ -5,10 +5,10 @@
 
 namespace corvane::movie {
 
-/// SWF files of bitmaps that any SWF reader knows, after the SWF file format specification: libav
-/// writes SWF files with lossy video alone. The image types are lossless bitmaps of 24 bits,
-/// JPEG pictures with the colour of every pixel, and bitmaps with palettes of 256 colours. A file
-/// that was cut off holds all its pictures, but does not say how many.
+/// SWF files made of bitmaps, which every SWF reader supports; libav itself writes only lossy video
+/// into SWF files. The image types are lossless 24-bit bitmaps, JPEG pictures without chroma
+/// subsampling, and bitmaps with palettes of 256 colours. A truncated file keeps its complete
+/// pictures, but its header does not count them.
 class SwfFormat : public FileFormat {
 public:
     std::unique_ptr<PictureSink> open(const host::MovieRequest& request) const override;

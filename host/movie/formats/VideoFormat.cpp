@@ -1,4 +1,3 @@
-// A movie format that libav writes from pictures to file.
 #include "host/movie/formats/VideoFormat.h"
 
 #include "host/movie/libav/MovieFile.h"

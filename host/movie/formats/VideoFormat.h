@@ -1,4 +1,4 @@
-// A movie format that libav writes from pictures to file.
+// A movie format for which libav has both encoder and container.
 #pragma once
 
 #include "host/movie/formats/FileFormat.h"

@@ -1,4 +1,3 @@
-// Windows Media movies.
 #include "host/movie/formats/WmvFormat.h"
 
 #include "host/movie/libav/Codecs.h"

@@ -5,8 +5,8 @@
 
 namespace corvane::movie {
 
-/// Windows Media Video 8 in an ASF file. Times are whole milliseconds. A file that was cut off
-/// plays up to its end.
+/// Windows Media Video 8 in an ASF file. Timestamps are whole milliseconds. A truncated file can be
+/// played up to where it ends.
 class WmvFormat : public VideoFormat {
 public:
     VideoSettings settings(const host::MovieRequest& request) const override;

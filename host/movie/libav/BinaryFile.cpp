@@ -1,4 +1,3 @@
-// A file of bytes whose writing is checked.
 #include "host/movie/libav/BinaryFile.h"
 
 #include "host/movie/libav/OutputContainer.h"

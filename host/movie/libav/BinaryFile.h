@@ -1,4 +1,4 @@
-// A file of bytes whose writing is checked.
+// A binary file that reports every failed write.
 #pragma once
 
 #include "host/movie/libav/LibavCheck.h"
@@ -10,21 +10,21 @@ struct AVIOContext;
 
 namespace corvane::movie {
 
-/// Failures are told in the words of libav's files, so that all movies fail alike. Destroying it
-/// before close() closes the file and leaves it.
+/// Goes through libav's file layer, so that error messages read alike for all formats. Destroying
+/// it before close() closes the file but does not remove it.
 class BinaryFile {
 public:
-    /// Makes or truncates the file at the check's path. Throws HostError.
+    /// Creates or truncates the file at the check's path. Throws HostError.
     explicit BinaryFile(LibavCheck check);
     ~BinaryFile();
     BinaryFile(const BinaryFile&) = delete;
     BinaryFile& operator=(const BinaryFile&) = delete;
 
-    /// The bytes are in the file when this returns. Throws HostError.
+    /// Flushes the bytes to the file before returning. Throws HostError.
     void write(const std::vector<std::uint8_t>& bytes);
-    /// Writes over the first bytes of the file. Throws HostError.
+    /// Overwrites the first bytes of the file. Throws HostError.
     void rewriteBeginning(const std::vector<std::uint8_t>& bytes);
-    /// Throws HostError when a byte may be missing.
+    /// Throws HostError unless every byte was written.
     void close();
 
 private:

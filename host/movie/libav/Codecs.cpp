@@ -1,4 +1,3 @@
-// Ways to compress pictures that several formats share.
 #include "host/movie/libav/Codecs.h"
 
 namespace corvane::movie {
@@ -10,8 +9,8 @@ LibavOptions finestQuantization() {
 EncoderSettings h264() {
     EncoderSettings settings;
     settings.encoder = "libx264";
-    // Pictures without B pictures are stored in the order in which they are shown. So the first
-    // one stands at time zero without an edit list, which fragmented files cannot rely on.
+    // Without B frames, frames are stored in the order in which they are shown. So the first one
+    // is at time zero without an edit list, which fragmented files cannot rely on.
     settings.options = {{"preset", "veryfast"}, {"crf", "18"}, {"profile", "high"}, {"bf", "0"}};
     settings.frames = {AV_PIX_FMT_YUV420P, ColorModel::Video};
     settings.largestSide = 16384;
@@ -25,7 +24,7 @@ EncoderSettings jpeg(bool optimalCodeWords) {
     settings.options = finestQuantization();
     settings.options.emplace_back("huffman", optimalCodeWords ? "optimal" : "default");
     settings.frames = {AV_PIX_FMT_YUV444P, ColorModel::Jpeg};
-    settings.largestSide = 65500; // what JPEG libraries take; its fields hold a little more
+    settings.largestSide = 65500; // the limit of JPEG libraries; the format allows slightly more
     settings.largestRateTerm = 1'000'000;
     return settings;
 }

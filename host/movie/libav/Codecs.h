@@ -1,18 +1,18 @@
-// Ways to compress pictures that several formats share.
+// Encoder settings that several formats share.
 #pragma once
 
 #include "host/movie/libav/VideoSettings.h"
 
 namespace corvane::movie {
 
-/// The finest step of quantization. Thin lines and small text have clean edges.
+/// The finest quantization, which keeps the edges of thin lines and small text clean.
 LibavOptions finestQuantization();
 
-/// H.264 as nearly every player takes it.
+/// H.264 with the options that nearly every player supports.
 EncoderSettings h264();
 
-/// Pictures of their own, with the colour of every pixel. The optimal code words for each picture
-/// make it smaller and take longer; the pictures are the same.
+/// Independent JPEG pictures without chroma subsampling. Optimal Huffman tables for each picture
+/// make files smaller and take longer; the decoded pictures are the same.
 EncoderSettings jpeg(bool optimalCodeWords);
 
 } // namespace corvane::movie

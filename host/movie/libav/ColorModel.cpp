@@ -1,11 +1,10 @@
-// How the numbers in a movie stand for colours.
 #include "host/movie/libav/ColorModel.h"
 
 namespace corvane::movie {
 
 AVColorSpace matrixOf(ColorModel model, int height) {
-    // Where a file does not say it, players take pictures up to the height of a PAL screen for
-    // BT.601, and higher ones for BT.709.
+    // Where the file does not name the matrix, players assume BT.601 for pictures up to the height
+    // of PAL video, and BT.709 for higher ones.
     constexpr int mostLinesOfSmallVideo = 576;
     switch (model) {
     case ColorModel::Video:

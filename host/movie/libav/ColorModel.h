@@ -1,4 +1,4 @@
-// How the numbers in a movie stand for colours.
+// How the values in a movie encode colours.
 #pragma once
 
 extern "C" {
@@ -8,13 +8,14 @@ extern "C" {
 namespace corvane::movie {
 
 enum class ColorModel {
-    Video,          ///< BT.709 in limited range, and the file says so
-    UnlabeledVideo, ///< limited range; the file cannot say which matrix, players go by the size
-    Jpeg,           ///< BT.601 in full range, as all JPEG pictures are read
-    Rgb             ///< red, green and blue as they are
+    Video,          ///< BT.709 in limited range, labelled as such in the file
+    UnlabeledVideo, ///< limited range; the file cannot name the matrix, so players choose it by
+                    ///< size
+    Jpeg,           ///< BT.601 in full range, as JPEG readers assume
+    Rgb             ///< red, green and blue, not converted
 };
 
-/// The height is that of the pictures, in pixels.
+/// height: of the pictures, in pixels.
 AVColorSpace matrixOf(ColorModel model, int height);
 AVColorRange rangeOf(ColorModel model);
 

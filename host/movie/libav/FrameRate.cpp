@@ -1,4 +1,3 @@
-// Speeds of movies as exact fractions.
 #include "host/movie/libav/FrameRate.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Speeds of movies as exact fractions.
+// Frame rates as exact fractions.
 #pragma once
 
 extern "C" {
@@ -7,11 +7,11 @@ extern "C" {
 
 namespace corvane::movie {
 
-/// The fraction with both terms up to largestTerm that is nearest to the speed: 29.97 is 2997/100.
+/// The fraction nearest to the frame rate with both terms up to largestTerm: 29.97 is 2997/100.
 AVRational frameRate(double framesPerSecond, int largestTerm);
 
-/// Pictures from one key picture to the next: about a second, so that players seek quickly and
-/// little is lost of a movie whose writer was killed.
+/// The distance between key frames: about a second, so that players seek quickly and little is lost
+/// if the program is killed while it writes.
 int picturesPerGroup(AVRational rate);
 
 } // namespace corvane::movie

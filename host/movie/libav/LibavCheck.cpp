@@ -1,4 +1,3 @@
-// Puts together the sentences about failed calls of libav.
 #include "host/movie/libav/LibavCheck.h"
 
 #include "host/core/base/HostError.h"
@@ -23,7 +22,7 @@ std::string errorText(int code) {
 } // namespace
 
 int LibavCheck::operator()(int code, const char* action) const {
-    // Taken on success too: a message must not explain the failure of a later call.
+    // Taken even on success, lest an old message explain the failure of a later call.
     const std::string message = takeLibavMessage();
     if (code >= 0) {
         return code;

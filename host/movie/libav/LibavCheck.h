@@ -1,4 +1,4 @@
-// Turns what libav* returns into HostErrors that name the movie.
+// Turns error codes of libav into HostErrors that name the movie.
 #pragma once
 
 #include <string>
@@ -11,11 +11,11 @@ public:
 
     const std::string& path() const { return m_path; }
 
-    /// Returns the code unless it is an error. The action completes "... failed while ...", such as
-    /// "opening the file".
+    /// Returns the code, or throws if it is an error. The action completes "... while ...", for
+    /// example "opening the file".
     int operator()(int code, const char* action) const;
 
-    /// Returns the pointer unless it is null, which is how libav reports that memory ran out.
+    /// Returns the pointer, or throws if it is null, which is how libav reports lack of memory.
     template <typename T>
     T* made(T* pointer) const {
         if (!pointer) {
@@ -24,7 +24,7 @@ public:
         return pointer;
     }
 
-    /// Throws a HostError with the movie's name and the reason.
+    /// Throws a HostError with the movie's path and the reason.
     [[noreturn]] void fail(const std::string& reason) const;
 
 private:

@@ -1,4 +1,4 @@
-// Owning handles of what libav* allocates.
+// Owning handles for objects that libav allocates.
 #pragma once
 
 extern "C" {
@@ -38,7 +38,7 @@ struct InputDeleter {
 };
 using InputHandle = std::unique_ptr<AVFormatContext, InputDeleter>;
 
-/// Closes the file too; whoever wants to know whether that went well closes it beforehand.
+/// Closes the file too; close it beforehand to learn whether that succeeded.
 struct OutputDeleter {
     void operator()(AVFormatContext* output) const {
         avio_closep(&output->pb);

@@ -1,4 +1,3 @@
-// Keeps the last error message of libav for each thread.
 #include "host/movie/libav/LibavLog.h"
 
 #include "host/core/base/Text.h"

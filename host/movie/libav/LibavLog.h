@@ -1,15 +1,15 @@
-// What libav* says beside its return codes.
+// The log messages of libav.
 #pragma once
 
 #include <string>
 
 namespace corvane::movie {
 
-/// Keeps libav's messages off the terminal, for the whole process and for good; the last error
-/// message of each thread is kept.
+/// Redirects libav's log from the terminal for the rest of the process; the last error message of
+/// each thread is kept.
 void captureLibavLog();
 
-/// The last error message that libav gave on this thread since the last call; empty without one.
+/// The last error message that libav logged on this thread since the previous call, or empty.
 std::string takeLibavMessage();
 
 } // namespace corvane::movie

@@ -1,4 +1,3 @@
-// Hands options to libav, and sees to it that none is lost.
 #include "host/movie/libav/LibavOptions.h"
 
 namespace corvane::movie {

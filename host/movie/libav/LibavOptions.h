@@ -1,4 +1,4 @@
-// Options of encoders and containers, by libav's own names.
+// Options of encoders and containers, under libav's names.
 #pragma once
 
 #include "host/movie/libav/LibavCheck.h"
@@ -12,7 +12,7 @@ namespace corvane::movie {
 
 using LibavOptions = std::vector<std::pair<std::string, std::string>>;
 
-/// Options in the form that libav takes them from while it opens something.
+/// Options in the form in which libav's open functions consume them.
 class LibavDictionary {
 public:
     LibavDictionary(const LibavOptions& options, const LibavCheck& check);
@@ -21,7 +21,7 @@ public:
     LibavDictionary& operator=(const LibavDictionary&) = delete;
 
     AVDictionary** get() { return &m_dictionary; }
-    /// libav removes the options that it used; one that is left would have had no effect. Throws.
+    /// Throws HostError if an option had no effect: libav removes those that it uses.
     void requireAllUsed(const LibavCheck& check) const;
 
 private:

@@ -1,4 +1,3 @@
-// Joins converter, encoder and container into a movie.
 #include "host/movie/libav/MovieFile.h"
 
 #include "host/movie/libav/FrameRate.h"

@@ -1,4 +1,4 @@
-// One movie: pictures in, file out.
+// A movie written by libav: pictures in, file out.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -15,7 +15,7 @@ namespace corvane::movie {
 
 class MovieFile : public PictureSink {
 public:
-    /// Starts the encoder and makes the file. Throws HostError.
+    /// Starts the encoder and creates the file. Throws HostError.
     MovieFile(const host::MovieRequest& request, const VideoSettings& settings);
 
     std::string note() const override;

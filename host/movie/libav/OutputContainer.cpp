@@ -1,4 +1,3 @@
-// Writes movie files with libavformat.
 #include "host/movie/libav/OutputContainer.h"
 
 #include <utility>
@@ -16,8 +15,8 @@ OutputContainer::OutputContainer(const std::string& container, LibavCheck check)
                                            fileUrl(m_check.path()).c_str()),
             "choosing a file format");
     m_context.reset(context);
-    // Each packet, or fragment, reaches the file at once: a full disk is noticed early, and what
-    // was written outlives the process.
+    // Flush each packet or fragment at once: a full disk is noticed early, and what has been
+    // written survives if the process is killed.
     m_context->flags |= AVFMT_FLAG_FLUSH_PACKETS;
 }
 
@@ -39,7 +38,7 @@ void OutputContainer::begin(const StreamShape& shape, const LibavOptions& option
 void OutputContainer::addStream(const StreamShape& shape) {
     m_stream = m_check.made(avformat_new_stream(m_context.get(), nullptr));
     m_check(avcodec_parameters_copy(m_stream->codecpar, shape.codec), "describing the pictures");
-    m_stream->codecpar->codec_tag = 0; // the container chooses its own
+    m_stream->codecpar->codec_tag = 0; // let the container choose its own
     m_stream->sample_aspect_ratio = m_stream->codecpar->sample_aspect_ratio;
     m_stream->time_base = shape.timeBase;
     m_stream->avg_frame_rate = shape.rate;

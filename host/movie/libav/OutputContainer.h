@@ -1,4 +1,4 @@
-// A movie file with one stream of pictures.
+// A movie file with one video stream.
 #pragma once
 
 #include "host/movie/libav/LibavCheck.h"
@@ -12,24 +12,24 @@ namespace corvane::movie {
 /// The stream of a movie.
 struct StreamShape {
     const AVCodecParameters* codec = nullptr;
-    AVRational timeBase{0, 1}; ///< of the packets that will be written
+    AVRational timeBase{0, 1}; ///< of the packets to be written
     AVRational rate{0, 1};     ///< pictures per second
 };
 
-/// Destroying it before finish() closes the file without its end, and leaves it.
+/// Destroying it before finish() closes the file without its trailer, and does not remove it.
 class OutputContainer {
 public:
-    /// Makes no file yet; it will stand at the check's path.
+    /// Does not create the file yet; its path will be that of the check.
     OutputContainer(const std::string& container, LibavCheck check);
 
-    /// Whether the stream's header belongs into the container, not into the packets.
+    /// Whether the stream's header belongs in the container instead of the packets.
     bool keepsHeaderApart() const;
 
-    /// Makes or truncates the file and writes its beginning. Throws HostError.
+    /// Creates or truncates the file and writes its header. Throws HostError.
     void begin(const StreamShape& shape, const LibavOptions& options);
-    /// Times and duration of the packet are in the stream's time base of begin(); they are changed.
+    /// Expects the timestamps of the packet in the time base given to begin(), and rescales them.
     void write(AVPacket* packet);
-    /// Writes the file's end and closes it. Throws HostError when a byte may be missing.
+    /// Writes the trailer and closes the file. Throws HostError unless every byte was written.
     void finish();
 
 private:
@@ -41,7 +41,7 @@ private:
     AVRational m_timeBase{0, 1};
 };
 
-/// How libav is told that a path is a path, whatever is in it.
+/// The path as a URL, so that libav never takes a part of it for a protocol.
 std::string fileUrl(const std::string& path);
 
 } // namespace corvane::movie

@@ -1,4 +1,3 @@
-// Pictures that do not belong into a movie.
 #include "host/movie/libav/PictureCheck.h"
 
 #include "host/movie/libav/SizeText.h"

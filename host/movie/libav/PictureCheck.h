@@ -1,4 +1,4 @@
-// Pictures that do not belong into a movie.
+// Rejects pictures that do not fit into a movie.
 #pragma once
 
 #include "host/core/ports/Picture.h"
@@ -6,7 +6,7 @@
 
 namespace corvane::movie {
 
-/// Throws HostError unless the picture has the size (pixels) of the movie, and all its bytes.
+/// Throws HostError unless the picture is complete and has the size (pixels) of the movie.
 void checkPicture(const host::Picture& picture, int width, int height, const LibavCheck& check);
 
 } // namespace corvane::movie

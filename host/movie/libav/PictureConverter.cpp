@@ -1,4 +1,3 @@
-// Converts colours with swscale.
 #include "host/movie/libav/PictureConverter.h"
 
 #include "host/movie/libav/PictureCheck.h"
@@ -15,13 +14,13 @@ namespace corvane::movie {
 
 namespace {
 
-/// The smallest multiple of 2^shift that is not below the size.
+/// The size rounded up to a multiple of 2^shift.
 int roundedUp(int size, int shift) {
     const int group = 1 << shift;
     return (size + group - 1) / group * group;
 }
 
-/// Repeats the last of the pixels that a row has until the row is full.
+/// Fills up a row by repeating the last of its pixels.
 void repeatLastPixel(std::uint8_t* row, std::ptrdiff_t pixels, std::ptrdiff_t wanted) {
     for (std::ptrdiff_t x = pixels; x < wanted; ++x) {
         std::memcpy(row + 4 * x, row + 4 * (pixels - 1), 4);
@@ -68,8 +67,8 @@ void PictureConverter::makeScaler() {
     set("dst_format", m_frame->format);
     set("dst_range", rangeOf(m_kind.colors) == AVCOL_RANGE_JPEG ? 1 : 0);
     placeSharedColors();
-    // Without the full chroma input pairs of pixels would be averaged first, which places their
-    // colour between them all the same.
+    // Without full chroma input, swscale first averages pairs of pixels, which places chroma
+    // between them whatever the positions say.
     set("sws_flags", SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INP);
     m_check(sws_init_context(m_scaler.get(), nullptr, nullptr), "setting up the colours");
     chooseMatrix();
@@ -77,9 +76,9 @@ void PictureConverter::makeScaler() {
 
 void PictureConverter::placeSharedColors() {
     if (m_kind.pixelFormat != AV_PIX_FMT_YUV420P) {
-        return; // every pixel has a colour of its own
+        return; // no chroma subsampling
     }
-    // They sit where the encoders' streams say: at the left one of two, between two rows.
+    // Where the encoders' streams say: at the left pixel of two, between two rows.
     set("dst_h_chr_pos", 0);
     set("dst_v_chr_pos", 128);
 }
@@ -87,7 +86,7 @@ void PictureConverter::placeSharedColors() {
 void PictureConverter::chooseMatrix() {
     const AVColorSpace matrix = matrixOf(m_kind.colors, m_height);
     if (matrix == AVCOL_SPC_RGB) {
-        return; // colours are moved, not calculated
+        return; // copied, not converted
     }
     const int* coefficients =
         sws_getCoefficients(matrix == AVCOL_SPC_BT709 ? SWS_CS_ITU709 : SWS_CS_ITU601);
@@ -111,7 +110,7 @@ void PictureConverter::copyPadded(const host::Picture& picture) {
 AVFrame* PictureConverter::convert(const host::Picture& picture) {
     checkPicture(picture, m_width, m_height, m_check);
     copyPadded(picture);
-    // An encoder may still hold the frame before.
+    // The encoder may still hold the previous frame.
     m_check(av_frame_make_writable(m_frame.get()), "making room for a picture");
     m_check(sws_scale(m_scaler.get(), m_source->data, m_source->linesize, 0, m_source->height,
                       m_frame->data, m_frame->linesize),

@@ -1,4 +1,4 @@
-// Turns pictures into frames of the kind that encoders take.
+// Converts pictures to the pixel formats of encoders.
 #pragma once
 
 #include "host/core/ports/Picture.h"
@@ -10,17 +10,17 @@
 
 namespace corvane::movie {
 
-/// Serves a whole movie.
+/// One converter is used for all pictures of a movie.
 class PictureConverter {
 public:
-    /// The size is that of the pictures. Where the pixel format shares colours between pixels the
-    /// frames are larger by a repeated last column or row, so that they hold whole groups of them.
+    /// width, height: of the pictures. With chroma subsampling, the last column or row is repeated
+    /// where that is needed to fill whole groups of pixels.
     PictureConverter(int width, int height, const FrameKind& kind, const LibavCheck& check);
 
     int frameWidth() const { return m_frame->width; }
     int frameHeight() const { return m_frame->height; }
 
-    /// The frame belongs to the converter, and is good until the next call.
+    /// The frame belongs to the converter and is valid until the next call.
     AVFrame* convert(const host::Picture& picture);
 
 private:
@@ -35,7 +35,7 @@ private:
     int m_width;
     int m_height;
     FrameKind m_kind;
-    FrameHandle m_source; ///< aligned and padded the way swscale likes to read it
+    FrameHandle m_source; ///< the picture, aligned and padded for swscale
     FrameHandle m_frame;
     ScalerHandle m_scaler;
 };

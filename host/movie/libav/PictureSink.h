@@ -1,4 +1,4 @@
-// Where the encoder thread's pictures go.
+// A movie that takes the pictures of the encoder thread.
 #pragma once
 
 #include "host/core/ports/Picture.h"
@@ -7,11 +7,11 @@
 
 namespace corvane::movie {
 
-/// Used by one thread at a time. Destroying it before finish() closes the file and leaves it.
+/// Not thread-safe. Destroying it before finish() closes the file but does not remove it.
 class PictureSink {
 public:
     virtual ~PictureSink() = default;
-    /// A sentence about what differs between the pictures and the movie; empty for nothing.
+    /// A sentence about how the movie differs from its pictures, or empty.
     virtual std::string note() const { return {}; }
     /// Throws when the picture cannot be written.
     virtual void write(const host::Picture& picture) = 0;

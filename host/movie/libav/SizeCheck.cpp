@@ -1,4 +1,3 @@
-// Sizes that a movie cannot have.
 #include "host/movie/libav/SizeCheck.h"
 
 #include "host/movie/libav/SizeText.h"

@@ -1,4 +1,4 @@
-// Sizes that a movie cannot have.
+// Rejects sizes that a movie cannot have.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -6,8 +6,8 @@
 
 namespace corvane::movie {
 
-/// Throws HostError when the request's pictures are empty, have a side above the largest one
-/// (pixels), or have more pixels than libav handles. Returns the check.
+/// Throws HostError when the requested pictures are empty, are larger than largestSide (pixels) in
+/// a direction, or have more pixels than libav supports. Returns the check.
 const LibavCheck& checkedSize(const host::MovieRequest& request, int largestSide,
                               const LibavCheck& check);
 

@@ -1,4 +1,4 @@
-// Sizes in messages.
+// Picture sizes in messages.
 #pragma once
 
 #include <string>

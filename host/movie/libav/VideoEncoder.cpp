@@ -1,4 +1,3 @@
-// Compresses the frames of a movie with libavcodec.
 #include "host/movie/libav/VideoEncoder.h"
 
 #include "host/movie/libav/FrameRate.h"
@@ -29,13 +28,13 @@ void VideoEncoder::setShape(const VideoShape& shape) {
     m_context->framerate = shape.rate;
     m_context->time_base = av_inv_q(shape.rate);
     m_context->gop_size = picturesPerGroup(shape.rate);
-    m_context->thread_count = 0; // as many as there are cores
+    m_context->thread_count = 0; // one per core
     if (shape.headerApart) {
         m_context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     }
 }
 
-/// Players guess, and guess differently, what is not said.
+/// Players guess what is not labelled, and they guess differently.
 void VideoEncoder::setColors(const FrameKind& frames) {
     m_context->pix_fmt = frames.pixelFormat;
     m_context->color_range = rangeOf(frames.colors);

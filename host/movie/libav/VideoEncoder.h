@@ -1,4 +1,4 @@
-// Compresses the frames of a movie.
+// Compresses the frames of a movie with libavcodec.
 #pragma once
 
 #include "host/movie/libav/LibavCheck.h"
@@ -9,27 +9,27 @@
 
 namespace corvane::movie {
 
-/// What the encoder is to know of the movie.
+/// The properties of a movie that the encoder needs.
 struct VideoShape {
     int width = 0;
     int height = 0;
     AVRational rate{0, 1};
-    bool headerApart = false; ///< the container keeps the stream's header, not the packets
+    bool headerApart = false; ///< the stream's header goes into the container, not the packets
 };
 
 class VideoEncoder {
 public:
-    /// Times of packets count frames. The packet is the encoder's own.
+    /// Timestamps of packets count frames. The packet belongs to the encoder.
     using PacketTaker = std::function<void(AVPacket*)>;
 
-    /// Throws HostError when there is no such encoder, or when it does not take such a movie.
+    /// Throws HostError if libav has no such encoder, or if it does not support such a movie.
     VideoEncoder(const EncoderSettings& settings, const VideoShape& shape, LibavCheck check);
 
     const AVCodecContext& context() const { return *m_context; }
 
-    /// Gives the frame to the encoder, and to the taker what is ready by then.
+    /// Encodes the frame, and passes finished packets to the taker.
     void encode(AVFrame* frame, const PacketTaker& taker);
-    /// Gives all that is left to the taker.
+    /// Passes all remaining packets to the taker.
     void drain(const PacketTaker& taker);
 
 private:
@@ -43,7 +43,7 @@ private:
     std::int64_t m_frames = 0;
 };
 
-/// The first of the encoders that this libav has. Throws HostError when it has none.
+/// The first of the encoders that this libav was built with. Throws HostError if there is none.
 const EncoderSettings& availableEncoder(const VideoSettings& settings, const LibavCheck& check);
 
 } // namespace corvane::movie

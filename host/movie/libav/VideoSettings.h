@@ -1,4 +1,4 @@
-// What makes one kind of movie that libav writes different from another.
+// The settings with which libav writes one kind of movie.
 #pragma once
 
 #include "host/movie/libav/ColorModel.h"
@@ -13,26 +13,27 @@ extern "C" {
 
 namespace corvane::movie {
 
-/// What an encoder takes.
+/// The frames that an encoder expects.
 struct FrameKind {
     AVPixelFormat pixelFormat = AV_PIX_FMT_NONE;
     ColorModel colors = ColorModel::Video;
-    bool bottomUp = false; ///< the lowest row first
+    bool bottomUp = false; ///< the bottom row comes first
 };
 
-/// One way to compress the pictures of a movie.
+/// An encoder with its options and limits.
 struct EncoderSettings {
     std::string encoder; ///< libav's name
     LibavOptions options;
     FrameKind frames;
-    int largestSide = 0;     ///< pixels; what encoder and container take at most in a direction
-    int largestRateTerm = 0; ///< of the fraction that the speed is stored as
+    int largestSide = 0;     ///< pixels in one direction, the limit of encoder and container
+    int largestRateTerm = 0; ///< in the fraction that stores the frame rate
 };
 
 struct VideoSettings {
-    std::string container;                 ///< libav's name
-    LibavOptions containerOptions;         ///< while it is written
-    std::vector<EncoderSettings> encoders; ///< the first one that this libav has is used
+    std::string container;         ///< libav's name
+    LibavOptions containerOptions; ///< applied when the file is created
+    std::vector<EncoderSettings>
+        encoders; ///< in order of preference; the first available one is used
 };
 
 } // namespace corvane::movie

@@ -1,4 +1,3 @@
-// Bytes in the ZLIB format.
 #include "host/movie/swf/Deflated.h"
 
 #include <zlib.h>
@@ -12,7 +11,7 @@ std::vector<std::uint8_t> deflated(const std::vector<std::uint8_t>& bytes,
     const int effort = aim == FlashCompressionType_SmallestSize ? Z_BEST_COMPRESSION : Z_BEST_SPEED;
     uLongf size = compressBound(static_cast<uLong>(bytes.size()));
     std::vector<std::uint8_t> result(size);
-    // With room for the largest result it can fail for want of memory alone.
+    // With room for the largest possible result, lack of memory is the only error left.
     if (compress2(result.data(), &size, bytes.data(), static_cast<uLong>(bytes.size()), effort) !=
         Z_OK) {
         throw std::bad_alloc();

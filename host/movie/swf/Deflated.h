@@ -1,4 +1,4 @@
-// Bytes in the ZLIB format.
+// Compression in the zlib format.
 #pragma once
 
 #include "hostapi/CorEnums.h"
@@ -8,7 +8,7 @@
 
 namespace corvane::movie {
 
-/// The aim chooses the effort; the bytes come back the same. Throws std::bad_alloc.
+/// Lossless; the aim chooses between speed and size. Throws std::bad_alloc.
 std::vector<std::uint8_t> deflated(const std::vector<std::uint8_t>& bytes,
                                    FlashCompressionType_e aim);
 

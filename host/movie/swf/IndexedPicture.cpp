@@ -1,4 +1,3 @@
-// Pictures of up to 256 colours.
 #include "host/movie/swf/IndexedPicture.h"
 
 #include <array>
@@ -23,7 +22,7 @@ std::size_t pixelsOf(const host::Picture& picture) {
     return picture.rgba.size() / 4;
 }
 
-/// Nothing when there are too many colours.
+/// Empty if there are too many colours.
 std::optional<IndexedPicture> exactlyIndexed(const host::Picture& picture) {
     IndexedPicture result;
     result.indices.reserve(pixelsOf(picture));
@@ -44,7 +43,7 @@ std::optional<IndexedPicture> exactlyIndexed(const host::Picture& picture) {
     return result;
 }
 
-/// Colours that differ in their lowest two bits alone share a cell.
+/// Colours that differ only in their lowest two bits share a cell.
 std::size_t cellOf(const PaletteColor& color) {
     const auto high = [&](std::size_t channel) { return std::size_t{color[channel]} >> 2U; };
     return high(0) << 12U | high(1) << 6U | high(2);

@@ -1,4 +1,4 @@
-// Pictures of up to 256 colours.
+// Pictures with a palette of up to 256 colours.
 #pragma once
 
 #include "host/core/ports/Picture.h"
@@ -14,9 +14,9 @@ struct IndexedPicture {
     std::vector<std::uint8_t> indices; ///< into the palette; rows from the top
 };
 
-/// A picture of up to 256 colours comes back exactly; others get the 256 colours that suit them
-/// best. There is no dithering: it would put noise round thin lines and into every next picture.
-/// The picture has at least one pixel.
+/// Exact for pictures of up to 256 colours; others are reduced to 256 colours chosen for them.
+/// There is no dithering, which would surround thin lines with noise that flickers from picture to
+/// picture. The picture must have at least one pixel.
 IndexedPicture indexed(const host::Picture& picture);
 
 } // namespace corvane::movie

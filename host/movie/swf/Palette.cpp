@@ -1,4 +1,3 @@
-// The few colours that suit many best.
 #include "host/movie/swf/Palette.h"
 
 #include <algorithm>
@@ -10,7 +9,7 @@ namespace {
 
 using Groups = std::vector<ColorGroup>::iterator;
 
-/// Groups that share a colour of the palette.
+/// Groups that share one colour of the palette.
 struct Part {
     Groups first;
     Groups last;
@@ -41,7 +40,7 @@ Part measured(Groups first, Groups last) {
     return part;
 }
 
-/// Where the groups on the two sides of the mean come apart, once they are put in that order.
+/// Partitions the groups at the mean of the channel that varies most; returns the boundary.
 Groups cut(const Part& part) {
     const auto widest = std::max_element(part.errors.begin(), part.errors.end());
     const auto channel = static_cast<std::size_t>(widest - part.errors.begin());
@@ -50,7 +49,7 @@ Groups cut(const Part& part) {
     });
 }
 
-/// False when nothing is left that could be divided.
+/// False if nothing is left to divide.
 bool divideWorst(std::vector<Part>& parts) {
     const auto worst =
         std::max_element(parts.begin(), parts.end(),

@@ -7,8 +7,8 @@
 namespace corvane::movie {
 
 struct SwfBitmap {
-    unsigned tag = 0;               ///< the code of the tag that defines it
-    std::vector<std::uint8_t> data; ///< what follows the character's id in that tag
+    unsigned tag = 0;               ///< code of the defining tag
+    std::vector<std::uint8_t> data; ///< contents of that tag after the character id
 };
 
 constexpr unsigned swfDefineBitsLossless = 20;

@@ -1,4 +1,3 @@
-// Bytes of an SWF file.
 #include "host/movie/swf/SwfBytes.h"
 
 #include <algorithm>
@@ -66,7 +65,7 @@ void SwfBytes::scaling(int factor) {
 }
 
 void SwfBytes::tag(unsigned code, const std::vector<std::uint8_t>& body) {
-    // Any tag may have the long header, and players want it on bitmaps.
+    // The long header is valid for every tag, and players require it for bitmaps.
     constexpr unsigned longHeader = 63;
     u16(code << 6U | (body.empty() ? 0U : longHeader));
     if (body.empty()) {

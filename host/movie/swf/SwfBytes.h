@@ -1,4 +1,4 @@
-// Bytes of an SWF file.
+// Writes the basic data types of SWF files.
 #pragma once
 
 #include <cstddef>
@@ -7,9 +7,8 @@
 
 namespace corvane::movie {
 
-/// After the chapter "Basic data types" of the SWF file format specification: whole numbers begin
-/// with their lowest byte, bit fields with their highest bit, and what follows bit fields begins
-/// with a new byte.
+/// Integers are little-endian, bit fields start with their most significant bit, and whatever
+/// follows bit fields starts at a byte boundary.
 class SwfBytes {
 public:
     void u8(unsigned value);
@@ -22,9 +21,9 @@ public:
     void bits(unsigned count, std::uint32_t value);
     /// A RECT from the origin, in twips (1/20 pixel).
     void rectangle(int width, int height);
-    /// A MATRIX that scales alike in both directions.
+    /// A MATRIX that scales equally in both directions.
     void scaling(int factor);
-    /// Fills the last byte of bit fields with zeros.
+    /// Pads bit fields with zeros up to a byte boundary.
     void align() { m_freeBits = 0; }
 
     /// Appends a tag with its header.
@@ -37,7 +36,7 @@ private:
     unsigned m_freeBits = 0; ///< of the last byte
 };
 
-/// Bits of a signed field that the number, which is not negative, needs.
+/// The size in bits of a signed field for a number that is not negative.
 unsigned signedBits(int number);
 
 } // namespace corvane::movie

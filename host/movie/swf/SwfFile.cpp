@@ -1,4 +1,3 @@
-// An SWF file that shows one bitmap after another.
 #include "host/movie/swf/SwfFile.h"
 
 #include "host/movie/swf/SwfBytes.h"
@@ -13,7 +12,7 @@ namespace {
 
 constexpr int twips = 20; // in a pixel
 constexpr unsigned idsOfFrame = 2;
-constexpr unsigned mostFrames = 65535 / idsOfFrame; // ids have 16 bits
+constexpr unsigned mostFrames = 65535 / idsOfFrame; // ids are 16-bit
 
 namespace tags {
 constexpr unsigned end = 0;
@@ -24,13 +23,13 @@ constexpr unsigned placeObject2 = 26;
 constexpr unsigned fileAttributes = 69;
 } // namespace tags
 
-/// What stands in front of the first frame.
+/// The tags before the first frame.
 void appendPreamble(SwfBytes& file) {
     file.tag(tags::fileAttributes, {0, 0, 0, 0}); // no scripts, no network
     file.tag(tags::setBackgroundColor, {255, 255, 255});
 }
 
-/// A STRAIGHTEDGERECORD along an axis; as many of them as its fields of 17 bits ask for.
+/// An axis-parallel edge, split into as many STRAIGHTEDGERECORDs as their 17-bit fields require.
 void appendEdge(SwfBytes& shape, bool isVertical, int delta) {
     constexpr int longest = 65535;
     constexpr unsigned count = 17;

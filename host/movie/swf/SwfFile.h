@@ -1,4 +1,4 @@
-// An SWF file that shows one bitmap after another.
+// An SWF file that plays a sequence of bitmaps.
 #pragma once
 
 #include "host/movie/libav/BinaryFile.h"
@@ -8,16 +8,15 @@
 
 namespace corvane::movie {
 
-/// Of the SWF file format specification, version 8: each frame defines a bitmap and a rectangle
-/// filled with it, puts the rectangle in the place of the one before, and shows it.
+/// Version 8 of the format. Each frame defines a bitmap and a rectangle filled with it, and shows
+/// the rectangle instead of the previous one.
 class SwfFile {
 public:
     /// The size is in pixels, 1 to 65535; framesPer256Seconds, from 1 to 65535, is the frame rate
-    /// in steps of 1/256. Makes the file. Throws HostError.
+    /// in steps of 1/256. Creates the file. Throws HostError.
     SwfFile(int width, int height, unsigned framesPer256Seconds, const LibavCheck& check);
 
-    /// Throws HostError, also when the file would have more pictures or bytes than its fields can
-    /// count.
+    /// Throws HostError, also when the pictures or bytes would exceed what the format can count.
     void add(const SwfBitmap& bitmap);
     /// Throws HostError.
     void finish();

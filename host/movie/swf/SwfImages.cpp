@@ -1,4 +1,3 @@
-// The image types of SWF movies.
 #include "host/movie/swf/SwfImages.h"
 
 #include "host/movie/swf/SwfJpegImages.h"

@@ -10,18 +10,18 @@
 
 namespace corvane::movie {
 
-/// Compresses pictures; the bitmaps may come later than their pictures, and come in their order.
+/// Compresses pictures. Bitmaps keep the order of the pictures, but may be delayed.
 class SwfImages {
 public:
     using Taker = std::function<void(SwfBitmap)>;
 
     virtual ~SwfImages() = default;
     virtual void encode(const host::Picture& picture, const Taker& taker) = 0;
-    /// Gives what is left to the taker.
+    /// Passes all remaining bitmaps to the taker.
     virtual void drain(const Taker&) {}
 };
 
-/// Throws HostError when such images cannot be made.
+/// Throws HostError if such images cannot be encoded.
 std::unique_ptr<SwfImages> swfImages(const host::MovieRequest& request, const LibavCheck& check);
 
 } // namespace corvane::movie

@@ -1,4 +1,3 @@
-// JPEG images of SWF movies.
 #include "host/movie/swf/SwfJpegImages.h"
 
 #include "host/movie/libav/Codecs.h"

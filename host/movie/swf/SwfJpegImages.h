@@ -8,7 +8,7 @@
 
 namespace corvane::movie {
 
-/// DefineBitsJPEG2. The smallest size has code words for each picture, and the same pictures.
+/// DefineBitsJPEG2. FlashCompressionType_SmallestSize optimizes the Huffman tables of each picture.
 class SwfJpegImages : public SwfImages {
 public:
     SwfJpegImages(const host::MovieRequest& request, const LibavCheck& check);

@@ -1,4 +1,3 @@
-// An SWF movie being written.
 #include "host/movie/swf/SwfMovie.h"
 
 #include "host/movie/libav/PictureCheck.h"
@@ -11,7 +10,7 @@ namespace corvane::movie {
 
 namespace {
 
-/// Sizes of bitmaps have 16 bits, and JPEG pictures are no larger than this either.
+/// Sizes of bitmaps are 16-bit numbers, and JPEG libraries support no larger pictures than this.
 constexpr int largestSide = 65500;
 
 /// The frame rate of SWF files, in steps of 1/256.

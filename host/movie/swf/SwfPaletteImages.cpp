@@ -1,4 +1,3 @@
-// Images of 256 colours of SWF movies.
 #include "host/movie/swf/SwfPaletteImages.h"
 
 #include "host/movie/swf/Deflated.h"
@@ -9,13 +8,13 @@ namespace corvane::movie {
 
 namespace {
 
-/// Rows are stored in multiples of four bytes. Not every reader knows that, so the bitmap itself is
-/// that wide; the rectangle that shows it leaves the last columns out.
+/// Rows are padded to multiples of four bytes. Not every reader honours that, so the bitmap itself
+/// is that wide; the rectangle that shows it omits the extra columns.
 std::size_t storedWidth(const host::Picture& picture) {
     return (static_cast<std::size_t>(picture.width) + 3) / 4 * 4;
 }
 
-/// The palette, then the rows, filled up with their last pixel.
+/// The palette, then the rows, padded with their last pixel.
 std::vector<std::uint8_t> tableAndPixels(const IndexedPicture& picture, std::size_t width,
                                          std::size_t stored) {
     SwfBytes bytes;

@@ -5,8 +5,8 @@
 
 namespace corvane::movie {
 
-/// DefineBitsLossless with a palette for each picture, so that a movie that fades or turns has the
-/// colours of each of its pictures.
+/// DefineBitsLossless with a separate palette for each picture, so that colours are right even
+/// when a movie fades.
 class SwfPaletteImages : public SwfImages {
 public:
     explicit SwfPaletteImages(FlashCompressionType_e compression) : m_compression(compression) {}

@@ -1,4 +1,3 @@
-// Lossless images of SWF movies.
 #include "host/movie/swf/SwfTrueColorImages.h"
 
 #include "host/movie/swf/Deflated.h"
@@ -8,7 +7,7 @@ namespace corvane::movie {
 
 namespace {
 
-/// Four bytes a pixel: 0, red, green, blue.
+/// Four bytes per pixel: 0, red, green, blue.
 std::vector<std::uint8_t> pixelsOf(const host::Picture& picture) {
     std::vector<std::uint8_t> pixels(picture.rgba.size());
     for (std::size_t i = 0; i + 3 < pixels.size(); i += 4) {

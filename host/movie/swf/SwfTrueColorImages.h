@@ -5,7 +5,7 @@
 
 namespace corvane::movie {
 
-/// DefineBitsLossless with 24 bits a pixel.
+/// DefineBitsLossless with 24 bits per pixel.
 class SwfTrueColorImages : public SwfImages {
 public:
     explicit SwfTrueColorImages(FlashCompressionType_e compression) : m_compression(compression) {}
