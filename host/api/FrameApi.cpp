@@ -8,18 +8,6 @@ using namespace corvane::host;
 
 namespace {
 
-/// Changes which frame is active, and tells about it when it is another one than before.
-bool changeActive(Session& session, bool (Page::*change)()) {
-    const Frame* const before = session.page().active();
-    if (!(session.page().*change)()) {
-        return false;
-    }
-    if (session.page().active() != before) {
-        session.pageChanged(StateChange_FrameActivated);
-    }
-    return true;
-}
-
 bool isKnown(CoordSys_e system) {
     return system == CoordSys_Paper || system == CoordSys_Screen;
 }
@@ -62,7 +50,7 @@ long CorUtilFrameGetUniqueID(void) {
 
 CorBool CorUtilFrameActivateTop(void) {
     return TracedCall("CorUtilFrameActivateTop").answer(false, [](Session& session) {
-        return changeActive(session, &Page::activateTop);
+        return session.activateTopFrame();
     });
 }
 
@@ -75,7 +63,7 @@ CorBool CorUtilFrameActivateByUniqueID(long id) {
 
 CorBool CorUtilFramePushTop(void) {
     return TracedCall("CorUtilFramePushTop").answer(false, [](Session& session) {
-        if (!changeActive(session, &Page::pushTop)) {
+        if (!session.pushTopFrame()) {
             return false;
         }
         session.drawing().mark();
@@ -85,19 +73,19 @@ CorBool CorUtilFramePushTop(void) {
 
 void CorUtilFrameLightweightPopStart(void) {
     TracedCall("CorUtilFrameLightweightPopStart").perform([](Session& session) {
-        session.page().startWalk();
+        session.startFrameWalk();
     });
 }
 
 CorBool CorUtilFrameLightweightPopNext(void) {
     return TracedCall("CorUtilFrameLightweightPopNext").answer(false, [](Session& session) {
-        return session.page().nextOfWalk();
+        return session.nextFrameOfWalk();
     });
 }
 
 void CorUtilFrameLightweightPopEnd(void) {
     TracedCall("CorUtilFrameLightweightPopEnd").perform([](Session& session) {
-        session.page().endWalk();
+        session.endFrameWalk();
     });
 }
 

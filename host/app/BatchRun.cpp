@@ -126,8 +126,8 @@ void BatchRun::traceCalls() {
 }
 
 void BatchRun::setUpPage() {
-    m_host.session().page().workArea = {m_options.width, m_options.height,
-                                        m_options.width / host::paperWidthInches};
+    m_host.session().resizeWorkArea(
+        {m_options.width, m_options.height, m_options.width / host::paperWidthInches});
     if (m_options.isSizeGiven) {
         m_host.macros().keepPictureSize();
     }

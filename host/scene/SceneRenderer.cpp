@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <map>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -152,8 +153,8 @@ void SceneRenderer::Canvas::forgetDeletedFrames(const host::Page& page) {
 
 void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     std::vector<vtkRenderer*> order{m_paper};
-    for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame) {
-        for (vtkRenderer* const renderer : m_frames[(*frame)->id()]->renderers()) {
+    for (const host::Frame* const frame : page.frames() | std::views::reverse) {
+        for (vtkRenderer* const renderer : m_frames[frame->id()]->renderers()) {
             order.push_back(renderer);
         }
     }

@@ -9,8 +9,8 @@ namespace {
 
 constexpr const char* placementForm = "X = inches, Y = inches, Width = inches, Height = inches";
 
-Frame& activeFrame(Session& session) {
-    Frame* const frame = session.page().active();
+const Frame& activeFrame(Session& session) {
+    const Frame* const frame = session.page().active();
     if (frame == nullptr) {
         reject("There is no frame.");
     }

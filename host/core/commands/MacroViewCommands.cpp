@@ -32,8 +32,8 @@ const AxisView& axisViewFrom(const std::string& name) {
     reject("There is no axis \"" + name + "\"; there are +X, -X, +Y, -Y, +Z and -Z.");
 }
 
-Frame& spatialFrame(Session& session) {
-    Frame* const frame = session.page().currentSpatial();
+const Frame& spatialFrame(Session& session) {
+    const Frame* const frame = session.page().currentSpatial();
     if (frame == nullptr) {
         reject("There is no 3D frame that has a view.");
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvane::host {
 
@@ -103,9 +104,13 @@ bool Page::deleteFrame(long id) {
     return true;
 }
 
-Frame* Page::find(long id) const {
+const Frame* Page::find(long id) const {
     const auto found = findById(m_frames, id);
     return found == m_frames.end() ? nullptr : found->get();
+}
+
+Frame* Page::find(long id) {
+    return const_cast<Frame*>(std::as_const(*this).find(id));
 }
 
 bool Page::activate(long id) {
@@ -166,13 +171,21 @@ void Page::endWalk() {
     m_walk.reset();
 }
 
-Frame* Page::current() const {
+const Frame* Page::current() const {
     return m_walk ? m_frames[*m_walk].get() : m_active;
 }
 
-Frame* Page::currentSpatial() const {
-    Frame* const frame = current();
+Frame* Page::current() {
+    return const_cast<Frame*>(std::as_const(*this).current());
+}
+
+const Frame* Page::currentSpatial() const {
+    const Frame* const frame = current();
     return frame != nullptr && frame->isSpatial() ? frame : nullptr;
+}
+
+Frame* Page::currentSpatial() {
+    return const_cast<Frame*>(std::as_const(*this).currentSpatial());
 }
 
 double Page::toPixels(double inches) const {

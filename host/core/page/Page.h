@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <ranges>
 #include <vector>
 
 namespace corvane::host {
@@ -34,10 +35,16 @@ public:
     /// The frame below on the stack becomes active. False: no such frame.
     bool deleteFrame(long id);
 
-    /// From the top of the stack down.
-    const std::vector<std::unique_ptr<Frame>>& frames() const { return m_frames; }
-    Frame* active() const { return m_active; } ///< null without frames
-    Frame* find(long id) const;
+    /// Pointers to the frames, from the top of the stack down.
+    auto frames() const {
+        return m_frames | std::views::transform([](const std::unique_ptr<Frame>& frame) {
+                   return static_cast<const Frame*>(frame.get());
+               });
+    }
+    const Frame* active() const { return m_active; } ///< null without frames
+    Frame* active() { return m_active; }
+    const Frame* find(long id) const; ///< null without such a frame
+    Frame* find(long id);
     /// The highest number that a frame had so far; 0 without one.
     long lastId() const { return m_lastId; }
 
@@ -54,8 +61,10 @@ public:
     void startWalk();
     bool nextOfWalk();
     void endWalk();
-    Frame* current() const;
-    Frame* currentSpatial() const; ///< current(), if it is spatial; null otherwise
+    const Frame* current() const;
+    Frame* current();
+    const Frame* currentSpatial() const; ///< current(), if it is spatial; null otherwise
+    Frame* currentSpatial();
 
     /// Pixels of a length on the paper, rounded to 1e-9 relative so that 800 never arrives as
     /// 799.99….

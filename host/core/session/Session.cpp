@@ -219,8 +219,20 @@ void Session::resizeWorkArea(const WorkArea& area) {
 }
 
 bool Session::activateFrame(long id) {
+    return announceIfActivated([this, id] { return m_page.activate(id); });
+}
+
+bool Session::activateTopFrame() {
+    return announceIfActivated([this] { return m_page.activateTop(); });
+}
+
+bool Session::pushTopFrame() {
+    return announceIfActivated([this] { return m_page.pushTop(); });
+}
+
+bool Session::announceIfActivated(const std::function<bool()>& change) {
     const Frame* const before = m_page.active();
-    if (!m_page.activate(id)) {
+    if (!change()) {
         return false;
     }
     if (m_page.active() != before) {

@@ -48,7 +48,13 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    Page& page() { return m_page; }
+    /// What is shown. It changes by the rules below, which mark it for drawing and tell the
+    /// listeners.
+    const Page& page() const { return m_page; }
+    /// For whoever puts a page together without telling anybody, as tests do; pageChanged() tells.
+    Page& silentPage() { return m_page; }
+    /// Tells the listeners, and marks the page for drawing.
+    void pageChanged(StateChange_e change);
     Locks& locks() { return m_locks; }
     Drawing& drawing() { return m_drawing; }
     IdleQueue& idle() { return m_idle; }
@@ -91,6 +97,13 @@ public:
     bool lowerFrame(long id);
     /// See Page::resizeWorkArea.
     void resizeWorkArea(const WorkArea& area);
+    /// Whether there is a frame. See Page.
+    bool activateTopFrame();
+    bool pushTopFrame();
+    /// A walk over the frames changes nothing that is shown. See Page.
+    void startFrameWalk() { m_page.startWalk(); }
+    bool nextFrameOfWalk() { return m_page.nextOfWalk(); }
+    void endFrameWalk() { m_page.endWalk(); }
     /// False without such a frame.
     bool activateFrame(long id);
     bool deleteFrame(long id);
@@ -101,8 +114,6 @@ public:
     /// HostError.
     void exportPicture(const std::string& fileName, ExportRegion_e region, int width,
                        int supersample);
-    /// Announces a change made to the page, and marks it for drawing.
-    void pageChanged(StateChange_e change);
 
     /// Calls into an add-on, behind the guard. Answers the text of what it threw, empty when
     /// nothing.
@@ -121,6 +132,8 @@ private:
     const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
     void announceIfMoved(const Frame& frame, const View3D& before);
+    /// Makes the change, and tells when another frame is active than before. Answers what it did.
+    bool announceIfActivated(const std::function<bool()>& change);
     AddOnCaller addOnCaller(); ///< calls behind the guard, and tells the user what was thrown
 
     Ports m_ports;

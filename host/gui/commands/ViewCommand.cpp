@@ -6,8 +6,8 @@
 
 namespace corvane::gui {
 
-host::Frame* spatialFrameWithData(host::Session& session) {
-    host::Frame* const frame = session.page().active();
+const host::Frame* spatialFrameWithData(const host::Session& session) {
+    const host::Frame* const frame = session.page().active();
     return frame != nullptr && frame->data() && frame->isSpatial() ? frame : nullptr;
 }
 

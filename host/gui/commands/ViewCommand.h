@@ -12,7 +12,7 @@ struct View3D;
 namespace corvane::gui {
 
 /// The active frame when it shows data in space; else null.
-host::Frame* spatialFrameWithData(host::Session& session);
+const host::Frame* spatialFrameWithData(const host::Session& session);
 
 /// Sets the view as a whole.
 void setView(const Commands& commands, const host::View3D& view);

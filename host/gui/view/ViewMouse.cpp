@@ -122,7 +122,7 @@ void ViewMouse::activateFrameAt(QPointF point) const {
     const host::Page& page = m_commands.session().page();
     for (const auto& frame : page.frames()) {
         if (rectOf(*frame).contains(point)) {
-            if (frame.get() != page.active()) {
+            if (frame != page.active()) {
                 m_commands.perform("FRAME", {"ACTIVATE", "=", std::to_string(frame->id())});
             }
             return;
@@ -130,7 +130,7 @@ void ViewMouse::activateFrameAt(QPointF point) const {
     }
 }
 
-host::Frame* ViewMouse::spatialFrame() const {
+const host::Frame* ViewMouse::spatialFrame() const {
     return spatialFrameWithData(m_commands.session());
 }
 

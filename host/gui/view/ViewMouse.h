@@ -39,7 +39,7 @@ private:
     void wheel(const QWheelEvent& event);
 
     void activateFrameAt(QPointF point) const;
-    host::Frame* spatialFrame() const;
+    const host::Frame* spatialFrame() const;
     QRectF rectOf(const host::Frame& frame) const;
     PictureOffset fromCenter(const host::Frame& frame, QPointF point) const;
     PictureSize sizeOf(const host::Frame& frame) const;

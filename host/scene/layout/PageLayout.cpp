@@ -2,6 +2,7 @@
 #include "host/scene/layout/PageLayout.h"
 
 #include <cmath>
+#include <ranges>
 
 namespace corvane::scene {
 
@@ -31,14 +32,14 @@ std::vector<FrameInPicture> framesInPicture(const host::Page& page,
     const PixelRect picture{0, 0, request.width * request.supersample,
                             request.height * request.supersample};
     std::vector<FrameInPicture> shown;
-    for (auto frame = page.frames().rbegin(); frame != page.frames().rend(); ++frame) {
-        if (request.region == ExportRegion_CurrentFrame && frame->get() != page.active()) {
+    for (const host::Frame* const frame : page.frames() | std::views::reverse) {
+        if (request.region == ExportRegion_CurrentFrame && frame != page.active()) {
             continue;
         }
-        const PixelRect full = pixelsOf((*frame)->placement, region, request);
+        const PixelRect full = pixelsOf(frame->placement, region, request);
         const PixelRect visible = intersection(full, picture);
         if (!visible.isEmpty()) {
-            shown.push_back({frame->get(), {full, visible}});
+            shown.push_back({frame, {full, visible}});
         }
     }
     return shown;
