@@ -71,6 +71,15 @@ TEST_F(EnSightFileTest, aCaseWithoutTimesIsRead) {
     EXPECT_NEAR(valueAt(*readPart(file, 0, "fluid"), "p", {2.0, 0.0, 0.0}), 2.0, 1e-6);
 }
 
+TEST_F(EnSightFileTest, aFileNameThatBeginsWithADigitIsNoTimeSet) {
+    writeEnSightBox(folder.path());
+    std::filesystem::rename(folder.path() / "box.geo", folder.path() / "2box.geo");
+    const std::string file =
+        folder.write("made.case", "FORMAT\ntype: ensight gold\nGEOMETRY\nmodel: 2box.geo\n"
+                                  "VARIABLE\nscalar per node: p box.p.0\n");
+    EXPECT_NEAR(valueAt(*readPart(file, 0, "fluid"), "p", {2.0, 0.0, 0.0}), 2.0, 1e-6);
+}
+
 TEST_F(EnSightFileTest, variablesOfPartsThatAreMissingAreRefused) {
     const std::string file = writeEnSightBox(folder.path());
     // The second part is cut off, and the variables still have values for it.
