@@ -31,7 +31,8 @@ class BatchRun {
 public:
     explicit BatchRun(const Options& options)
         : m_options(options),
-          m_scene(nullptr, memoryForPlots(options)),
+          m_scene(nullptr, memoryForPlots(options),
+                  [this](const std::string& warning) { tell(warning); }),
           m_renderer(m_scene),
           m_reader(memoryForData(options)),
           m_status(options.quiet ? m_silence : std::cerr,
@@ -79,7 +80,6 @@ ExitCode BatchRun::run() {
 void BatchRun::work() {
     traceCalls();
     setUpPage();
-    m_scene.onWarning = [this](const std::string& warning) { tell(warning); };
     loadAddOns(m_host.session(), m_options, say);
     startRecording();
     openData();

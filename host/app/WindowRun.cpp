@@ -91,7 +91,8 @@ class WindowRun {
 public:
     explicit WindowRun(const Options& options)
         : m_options(options),
-          m_renderer(nullptr, memoryForPlots(options)),
+          m_renderer(nullptr, memoryForPlots(options),
+                     [this](const std::string& warning) { warn(warning); }),
           m_reader(memoryForData(options)),
           m_windowedHost({.renderer = m_renderer,
                           .reader = m_reader,
@@ -107,6 +108,7 @@ private:
     void watchSignals();
     void traceCalls();
     void openWhatWasAsked();
+    void warn(const std::string& warning);
 
     const Options& m_options;
     scene::SceneRenderer m_renderer;
@@ -119,10 +121,6 @@ private:
 };
 
 void WindowRun::start() {
-    m_renderer.onWarning = [this](const std::string& warning) {
-        say(warning);
-        m_windowedHost.tell(warning);
-    };
     watchSignals();
     traceCalls();
     loadAddOns(m_windowedHost.host().session(), m_options, say);
@@ -188,6 +186,11 @@ void WindowRun::openWhatWasAsked() {
     if (isOpen && !m_options.macro.empty()) {
         controller.macros().play(gui::toQt(m_options.macro));
     }
+}
+
+void WindowRun::warn(const std::string& warning) {
+    say(warning);
+    m_windowedHost.tell(warning);
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-// Draws pages with VTK, without any display server.
 #include "host/scene/SceneRenderer.h"
 
 #include "host/core/base/HostError.h"
@@ -50,10 +49,10 @@ void paste(host::Picture& picture, const host::Picture& piece, int x, int y) {
 /// The window, and what is kept of each frame.
 class SceneRenderer::Canvas {
 public:
-    using Listener = std::function<void(const std::string&)>;
-
-    Canvas(std::shared_ptr<SceneStatistics> statistics, std::size_t budget)
-        : m_statistics(std::move(statistics)),
+    Canvas(std::shared_ptr<SceneStatistics> statistics, std::size_t budget,
+           WarningCallback onWarning)
+        : m_onWarning(std::move(onWarning)),
+          m_statistics(std::move(statistics)),
           m_geometry(std::make_shared<PreparedGeometry>(budget, m_statistics)) {
         m_window->open(m_context);
         m_largestTarget = m_window->largestSize();
@@ -62,17 +61,16 @@ public:
 
     void limitTarget(int pixels) { m_largestTarget = std::min(m_largestTarget, pixels); }
     void waitForReadAhead() { m_geometry->wait(); }
-    /// The warnings of the frames go to the listener, where there is one.
-    host::Picture draw(const host::Page& page, const host::PictureRequest& request,
-                       const Listener& onWarning);
+    host::Picture draw(const host::Page& page, const host::PictureRequest& request);
 
 private:
     host::Picture drawTile(const PixelRect& tile, const std::vector<FrameInPicture>& frames,
-                           int supersample, const Listener& onWarning);
+                           int supersample);
     void prepareFrames(const host::Page& page);
     void forgetDeletedFrames(const host::Page& page);
     void orderRenderers(const host::Page& page);
 
+    WarningCallback m_onWarning;
     EglContext m_context;
     vtkNew<EglRenderWindow> m_window;
     int m_largestTarget = 0; ///< that can be drawn at once
@@ -85,8 +83,7 @@ private:
 };
 
 host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
-                                          const host::PictureRequest& request,
-                                          const Listener& onWarning) {
+                                          const host::PictureRequest& request) {
     // Odd data must neither stop a movie nor write to the terminal.
     const VtkMessages silenced;
     m_window->MakeCurrent();
@@ -94,12 +91,11 @@ host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
     const auto frames = framesInPicture(page, request);
     const auto tiles = tilesOf(request, m_largestTarget);
     if (tiles.size() == 1) {
-        return drawTile(tiles.front(), frames, request.supersample, onWarning);
+        return drawTile(tiles.front(), frames, request.supersample);
     }
     host::Picture picture = emptyPicture(request);
     for (const PixelRect& tile : tiles) {
-        paste(picture, drawTile(tile, frames, request.supersample, onWarning),
-              tile.x / request.supersample,
+        paste(picture, drawTile(tile, frames, request.supersample), tile.x / request.supersample,
               request.height - (tile.y + tile.height) / request.supersample);
     }
     return picture;
@@ -107,7 +103,7 @@ host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
 
 host::Picture SceneRenderer::Canvas::drawTile(const PixelRect& tile,
                                               const std::vector<FrameInPicture>& frames,
-                                              int supersample, const Listener& onWarning) {
+                                              int supersample) {
     m_window->SetSize(tile.width, tile.height);
     for (const auto& [id, scene] : m_frames) {
         scene->hide();
@@ -115,8 +111,8 @@ host::Picture SceneRenderer::Canvas::drawTile(const PixelRect& tile,
     for (const FrameInPicture& shown : framesInTile(frames, tile)) {
         FrameScene& scene = *m_frames[shown.frame->id()];
         scene.update(*shown.frame, shown.area, tile.width, tile.height);
-        if (onWarning && !scene.warning().empty()) {
-            onWarning(scene.warning());
+        if (m_onWarning && !scene.warning().empty()) {
+            m_onWarning(scene.warning());
         }
     }
     m_window->Render();
@@ -171,15 +167,17 @@ void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     m_order = std::move(order);
 }
 
-SceneRenderer::SceneRenderer(std::shared_ptr<SceneStatistics> statistics, std::size_t memoryBudget)
+SceneRenderer::SceneRenderer(std::shared_ptr<SceneStatistics> statistics, std::size_t memoryBudget,
+                             WarningCallback onWarning)
     : m_statistics(statistics ? std::move(statistics) : std::make_shared<SceneStatistics>()),
-      m_memoryBudget(memoryBudget) {}
+      m_memoryBudget(memoryBudget),
+      m_onWarning(std::move(onWarning)) {}
 
 SceneRenderer::~SceneRenderer() = default;
 
 SceneRenderer::Canvas& SceneRenderer::canvas() const {
     if (m_canvas == nullptr) {
-        m_canvas = std::make_unique<Canvas>(m_statistics, m_memoryBudget);
+        m_canvas = std::make_unique<Canvas>(m_statistics, m_memoryBudget, m_onWarning);
     }
     return *m_canvas;
 }
@@ -207,7 +205,7 @@ host::Picture SceneRenderer::draw(const host::Page& page, const host::PictureReq
                               " times larger, cannot be made: sizes from 1 to " +
                               std::to_string(largest) + " can be drawn here.");
     }
-    return canvas().draw(page, request, onWarning);
+    return canvas().draw(page, request);
 }
 
 } // namespace corvane::scene

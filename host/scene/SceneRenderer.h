@@ -16,10 +16,14 @@ struct SceneStatistics;
 /// use; all calls must come from one thread.
 class SceneRenderer : public host::Renderer {
 public:
-    /// Statistics may be null. memoryBudget: bytes of polygons that are kept for times and plots
-    /// that come back.
+    /// Is told, in a sentence, when something that was asked for begins to be missing in pictures.
+    using WarningCallback = std::function<void(const std::string&)>;
+
+    /// Statistics may be null, and onWarning empty. memoryBudget: bytes of polygons that are kept
+    /// for times and plots that come back.
     explicit SceneRenderer(std::shared_ptr<SceneStatistics> statistics = nullptr,
-                           std::size_t memoryBudget = defaultMemoryBudget() / 4);
+                           std::size_t memoryBudget = defaultMemoryBudget() / 4,
+                           WarningCallback onWarning = {});
     ~SceneRenderer() override;
 
     host::Picture draw(const host::Page& page, const host::PictureRequest& request) override;
@@ -33,9 +37,6 @@ public:
     /// do.
     void waitForReadAhead();
 
-    /// Told, in a sentence, when something that was asked for begins to be missing in pictures.
-    std::function<void(const std::string&)> onWarning;
-
 private:
     class Canvas;
 
@@ -43,6 +44,7 @@ private:
 
     std::shared_ptr<SceneStatistics> m_statistics;
     std::size_t m_memoryBudget;
+    WarningCallback m_onWarning;
     mutable std::unique_ptr<Canvas> m_canvas;
 };
 

@@ -16,6 +16,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace corvane::test {
 
@@ -56,7 +57,10 @@ protected:
     TempFolder folder;
     std::shared_ptr<scene::SceneStatistics> statistics = std::make_shared<scene::SceneStatistics>();
     scene::DataReaders reader{std::size_t{1} << 30U, statistics};
-    scene::SceneRenderer renderer{statistics};
+    std::vector<std::string> warnings; ///< of the renderer
+    scene::SceneRenderer renderer{
+        statistics, scene::defaultMemoryBudget() / 4,
+        [this](const std::string& warning) { warnings.push_back(warning); }};
     host::Page page;
 };
 

@@ -163,8 +163,6 @@ TEST_F(StreamtraceTest, withHalfOfTheLightEverythingIsHalfAsBright) {
 TEST_F(StreamtraceTest, whatCannotBeTracedDrawsNothing) {
     timing() = {0.0, 0.1, true, true};
     frame().style.streamtraces.show = false;
-    std::vector<std::string> warnings;
-    renderer.onWarning = [&](const std::string& sentence) { warnings.push_back(sentence); };
     const host::Picture empty = draw(width, height);
     frame().style.streamtraces.show = true;
     EXPECT_NE(draw(width, height), empty);
