@@ -1,4 +1,3 @@
-// CGNS files (.cgns).
 #include "host/scene/formats/CgnsFile.h"
 
 #include "host/scene/mesh/Hdf5Mutex.h"
@@ -26,10 +25,10 @@ using Name = std::array<char, 33>;
 /// the first zone.
 class CgnsContents {
 public:
-    explicit CgnsContents(const std::string& path) : m_path(path) {
+    explicit CgnsContents(const std::string& path) {
         int kind = 0;
         if (cg_is_cgns(path.c_str(), &kind) != CG_OK) {
-            throw readError(path, "it is no CGNS file, or a damaged one");
+            throw ReadFailure("it is no CGNS file, or a damaged one");
         }
         check(cg_open(path.c_str(), CG_MODE_READ, &m_file));
     }
@@ -74,11 +73,10 @@ private:
 
     void check(int code) const {
         if (code != CG_OK) {
-            throw readError(m_path, std::string("it is damaged (") + cg_get_error() + ")");
+            throw ReadFailure(std::string("it is damaged (") + cg_get_error() + ")");
         }
     }
 
-    std::string m_path;
     int m_file = 0;
 };
 

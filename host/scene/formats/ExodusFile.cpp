@@ -1,4 +1,3 @@
-// Exodus II files (.e .exo .ex2).
 #include "host/scene/formats/ExodusFile.h"
 
 #include "host/scene/formats/NetCdfCheck.h"

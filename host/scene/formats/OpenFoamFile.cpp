@@ -1,4 +1,3 @@
-// OpenFOAM cases (.foam).
 #include "host/scene/formats/OpenFoamFile.h"
 
 #include "host/core/base/Text.h"
@@ -69,8 +68,7 @@ vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
     const bool isDivided = countTimes(divided) > countTimes(folder);
     const fs::path constant = (isDivided ? divided : folder) / "constant";
     if (!fs::is_directory(constant)) {
-        throw readError(path(),
-                        "no OpenFOAM case is around it: there is no folder " + constant.string());
+        throw ReadFailure("no OpenFOAM case is around it: there is no folder " + constant.string());
     }
 
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();

@@ -1,4 +1,3 @@
-// Whether VTK can read a parallel XML file.
 #include "host/scene/formats/ParallelXmlCheck.h"
 
 #include "host/scene/mesh/ReadError.h"
@@ -48,7 +47,7 @@ void checkParallelXml(const std::string& path) {
         int components = 0;
         points->GetNestedElement(i)->GetScalarAttribute("NumberOfComponents", components);
         if (components != 3) {
-            throw readError(path, "it is damaged: its points have not three coordinates");
+            throw ReadFailure("it is damaged: its points have not three coordinates");
         }
     }
 }

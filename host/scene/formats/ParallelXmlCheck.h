@@ -5,7 +5,7 @@
 
 namespace corvane::scene {
 
-/// Throws a readError when the file is a parallel one whose points have not three coordinates:
+/// Throws ReadFailure when the file is a parallel one whose points have not three coordinates:
 /// VTK's reader falls over it. Others are left to that reader.
 void checkParallelXml(const std::string& path);
 

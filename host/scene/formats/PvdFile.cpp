@@ -1,4 +1,3 @@
-// Lists of files through time (.pvd).
 #include "host/scene/formats/PvdFile.h"
 
 #include "host/scene/mesh/ReadError.h"
@@ -28,26 +27,26 @@ vtkSmartPointer<vtkXMLDataElement> parse(const std::string& path) {
     const auto root = vtkSmartPointer<vtkXMLDataElement>::Take(
         vtkXMLUtilities::ReadElementFromFile(path.c_str()));
     if (messages.hasErrors()) {
-        throw readError(path, messages.reason());
+        throw ReadFailure(messages.reason());
     }
     if (root == nullptr) {
-        throw readError(path, "it is not well-formed XML");
+        throw ReadFailure("it is not well-formed XML");
     }
     return root;
 }
 
 /// The elements of the list in their order.
-std::vector<vtkXMLDataElement*> entriesOf(vtkXMLDataElement& root, const std::string& path) {
+std::vector<vtkXMLDataElement*> entriesOf(vtkXMLDataElement& root) {
     auto* const collection = root.FindNestedElementWithName("Collection");
     if (attribute(root, "type") != "Collection" || collection == nullptr) {
-        throw readError(path, "it holds no collection of data sets");
+        throw ReadFailure("it holds no collection of data sets");
     }
     std::vector<vtkXMLDataElement*> entries;
     for (int i = 0; i < collection->GetNumberOfNestedElements(); ++i) {
         entries.push_back(collection->GetNestedElement(i));
     }
     if (entries.empty()) {
-        throw readError(path, "its collection is empty");
+        throw ReadFailure("its collection is empty");
     }
     return entries;
 }
@@ -56,17 +55,17 @@ PvdPart::Step stepOf(vtkXMLDataElement& entry, const std::string& path) {
     PvdPart::Step step;
     const std::string file = attribute(entry, "file");
     if (file.empty()) {
-        throw readError(path, "an entry names no file");
+        throw ReadFailure("an entry names no file");
     }
     step.path = (std::filesystem::path(path).parent_path() / file).string();
     if (!attribute(entry, "timestep").empty() &&
         (entry.GetScalarAttribute("timestep", step.time) == 0 || !std::isfinite(step.time))) {
-        throw readError(path, "\"" + attribute(entry, "timestep") + "\" is not a time");
+        throw ReadFailure("\"" + attribute(entry, "timestep") + "\" is not a time");
     }
     return step;
 }
 
-void checkFilesExist(const std::vector<PvdPart>& parts, const std::string& path) {
+void checkFilesExist(const std::vector<PvdPart>& parts) {
     std::string firstMissing;
     int missing = 0;
     for (const auto& part : parts) {
@@ -81,7 +80,7 @@ void checkFilesExist(const std::vector<PvdPart>& parts, const std::string& path)
     }
     const std::string others =
         missing == 1 ? "" : " and " + std::to_string(missing - 1) + " more of its files";
-    throw readError(path, "it names " + firstMissing + ", which does not exist" + others);
+    throw ReadFailure("it names " + firstMissing + ", which does not exist" + others);
 }
 
 /// By time; a time that is listed twice counts as it was listed last.
@@ -104,16 +103,13 @@ std::string nameOf(const std::string& ownName, const std::string& key, const std
     return partCount == 1 ? stem : stem + " " + key;
 }
 
-} // namespace
-
-std::vector<PvdPart> readPvd(const std::string& path) {
-    checkReadable(path);
+std::vector<PvdPart> readList(const std::string& path) {
     const auto root = parse(path);
 
     std::map<std::string, std::size_t> indexOf;
     std::vector<std::string> keys;
     std::vector<PvdPart> parts;
-    for (auto* const entry : entriesOf(*root, path)) {
+    for (auto* const entry : entriesOf(*root)) {
         const std::string group = attribute(*entry, "group");
         const std::string key =
             group.empty() ? attribute(*entry, "part") : group + " " + attribute(*entry, "part");
@@ -124,12 +120,18 @@ std::vector<PvdPart> readPvd(const std::string& path) {
         }
         parts[found->second].steps.push_back(stepOf(*entry, path));
     }
-    checkFilesExist(parts, path);
+    checkFilesExist(parts);
     for (std::size_t i = 0; i < parts.size(); ++i) {
         parts[i].name = nameOf(parts[i].name, keys[i], path, parts.size());
         sortSteps(parts[i].steps);
     }
     return parts;
+}
+
+} // namespace
+
+std::vector<PvdPart> readPvd(const std::string& path) {
+    return withReadErrors(path, [&] { return readList(path); });
 }
 
 } // namespace corvane::scene

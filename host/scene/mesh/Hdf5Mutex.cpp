@@ -1,4 +1,3 @@
-// The HDF5 library is used by one thread at a time.
 #include "host/scene/mesh/Hdf5Mutex.h"
 
 #include <hdf5.h>

@@ -1,4 +1,3 @@
-// Whether a mesh can be worked with.
 #include "host/scene/mesh/MeshCheck.h"
 
 #include <vtkCellArray.h>

@@ -1,4 +1,3 @@
-// The meshes of a data object.
 #include "host/scene/mesh/MeshParts.h"
 
 #include <vtkCellTypes.h>

@@ -1,4 +1,3 @@
-// Values at the points of a mesh, wherever the file has them.
 #include "host/scene/mesh/PointValues.h"
 
 #include <vtkCellData.h>

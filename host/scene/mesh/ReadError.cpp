@@ -1,4 +1,3 @@
-// The sentences for files that cannot be read.
 #include "host/scene/mesh/ReadError.h"
 
 #include <algorithm>
@@ -6,6 +5,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <system_error>
 
 namespace corvane::scene {
@@ -19,10 +19,32 @@ std::string printable(std::string text) {
     return text;
 }
 
+std::string reasonOf(const std::exception& error) {
+    if (dynamic_cast<const ReadFailure*>(&error) != nullptr) {
+        return error.what();
+    }
+    // Sizes are taken from the file, and may be anything when it is damaged.
+    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr ||
+        dynamic_cast<const std::length_error*>(&error) != nullptr) {
+        return "it is damaged, or larger than this machine's memory";
+    }
+    if (const auto* files = dynamic_cast<const std::filesystem::filesystem_error*>(&error)) {
+        return files->path1().string() + " cannot be used: " + files->code().message();
+    }
+    return "it is damaged, or its reader has made a mistake";
+}
+
 } // namespace
 
 host::HostError readError(const std::string& path, const std::string& reason) {
     return host::HostError(path + " cannot be read: " + printable(reason) + ".");
+}
+
+host::HostError asReadError(const std::string& path, const std::exception& error) {
+    if (const auto* sentence = dynamic_cast<const host::HostError*>(&error)) {
+        return *sentence;
+    }
+    return readError(path, reasonOf(error));
 }
 
 void checkReadable(const std::string& path) {

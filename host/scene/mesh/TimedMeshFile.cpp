@@ -1,7 +1,5 @@
-// Files of several times that one of VTK's readers reads.
 #include "host/scene/mesh/TimedMeshFile.h"
 
-#include "host/scene/mesh/MeshCheck.h"
 #include "host/scene/mesh/MeshParts.h"
 #include "host/scene/mesh/ReadError.h"
 #include "host/scene/vtk/VtkMessages.h"
@@ -10,9 +8,7 @@
 #include <vtkStreamingDemandDrivenPipeline.h>
 
 #include <algorithm>
-#include <new>
 #include <sstream>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -26,17 +22,15 @@ std::string text(double time) {
 
 } // namespace
 
-std::vector<double> TimedMeshFile::times() const {
-    std::call_once(m_timesRead, [this] {
-        withReader([this](vtkAlgorithm& reader, const VtkMessages& /*messages*/) {
-            m_times = timesOf(reader);
-        });
-    });
-    return m_times;
+std::vector<double> TimedMeshFile::readTimes() const {
+    std::vector<double> times;
+    withReader(
+        [&](vtkAlgorithm& reader, const VtkMessages& /*messages*/) { times = timesOf(reader); });
+    return times;
 }
 
-std::vector<MeshPart> TimedMeshFile::read(int step) const {
-    const std::vector<double> known = times();
+std::vector<MeshPart> TimedMeshFile::readParts(int step) const {
+    const std::vector<double>& known = times();
     const bool isLenient =
         !known.empty() && mayMissVariables(known.at(static_cast<std::size_t>(step)));
     std::vector<MeshPart> parts;
@@ -44,17 +38,9 @@ std::vector<MeshPart> TimedMeshFile::read(int step) const {
         goTo(reader, step);
         parts = partsOf(reader);
         if (messages.hasErrors() && (parts.empty() || !isLenient)) {
-            throw readError(path(), messages.reason());
+            throw ReadFailure(messages.reason());
         }
     });
-    if (parts.empty()) {
-        throw readError(path(), "it holds no mesh");
-    }
-    for (const MeshPart& part : parts) {
-        if (!isSound(*part.mesh)) {
-            throw readError(path(), "its mesh \"" + part.name + "\" is damaged");
-        }
-    }
     return parts;
 }
 
@@ -68,29 +54,23 @@ void TimedMeshFile::withReader(const Work& work) const {
         lock = std::unique_lock(*mutex);
     }
     const VtkMessages messages;
-    try {
-        const auto reader = openReader();
-        if (messages.hasErrors()) {
-            throw readError(path(), messages.reason());
-        }
-        work(*reader, messages);
-    } catch (const std::bad_alloc&) {
-        throw readError(path(), tooLargeReason);
-    } catch (const std::length_error&) {
-        throw readError(path(), tooLargeReason);
+    const auto reader = openReader();
+    if (messages.hasErrors()) {
+        throw ReadFailure(messages.reason());
     }
+    work(*reader, messages);
 }
 
 void TimedMeshFile::goTo(vtkAlgorithm& reader, int step) const {
-    if (m_times.empty()) {
+    if (times().empty()) {
         reader.Update();
         return;
     }
-    const double time = m_times[static_cast<std::size_t>(step)];
+    const double time = times()[static_cast<std::size_t>(step)];
     // Readers take the nearest time, which is wrong when a step was deleted meanwhile.
     const std::vector<double> now = timesOf(reader);
     if (!std::binary_search(now.begin(), now.end(), time)) {
-        throw readError(path(), "the time " + text(time) + " is not there any more");
+        throw ReadFailure("the time " + text(time) + " is not there any more");
     }
     reader.UpdateTimeStep(time);
 }

@@ -14,15 +14,11 @@ namespace corvane::scene {
 
 class VtkMessages;
 
-/// What all these readers have in common: the times, the exact choice of one of them, and errors
-/// that become host::HostError. Each call has a reader of its own; kept are only the times.
+/// What all these readers have in common: the times, the exact choice of one of them, and errors of
+/// VTK that become ReadFailure. Each call has a reader of its own.
 class TimedMeshFile : public MeshFile {
 public:
     using MeshFile::MeshFile;
-
-    /// Read once, when they are asked for first. Throws host::HostError.
-    std::vector<double> times() const final;
-    std::vector<MeshPart> read(int step) const final;
 
 protected:
     /// A reader that knows what the file holds, and is set to read all of it. Errors that it
@@ -35,13 +31,13 @@ protected:
     virtual std::mutex* libraryMutex() const { return nullptr; }
 
 private:
+    std::vector<double> readTimes() const final;
+    std::vector<MeshPart> readParts(int step) const final;
+
     using Work = std::function<void(vtkAlgorithm& reader, const VtkMessages& messages)>;
     void withReader(const Work& work) const;
     void goTo(vtkAlgorithm& reader, int step) const;
     std::vector<double> timesOf(vtkAlgorithm& reader) const;
-
-    mutable std::once_flag m_timesRead;
-    mutable std::vector<double> m_times;
 };
 
 } // namespace corvane::scene

@@ -7,12 +7,11 @@
 
 namespace corvane::scene {
 
-/// What all these readers have in common: errors become host::HostError, composite data become
-/// parts.
+/// What all these readers have in common: errors that VTK reports become ReadFailure, composite
+/// data become parts.
 class VtkMeshFile : public MeshFile {
 public:
     using MeshFile::MeshFile;
-    std::vector<MeshPart> read(int step) const final;
 
 protected:
     /// Runs the reader; errors that it reports to VTK are collected by the caller.
@@ -20,7 +19,7 @@ protected:
     virtual bool areWarningsErrors() const { return false; }
 
 private:
-    vtkSmartPointer<vtkDataObject> readOrRefuse() const;
+    std::vector<MeshPart> readParts(int step) const final;
 };
 
 } // namespace corvane::scene

@@ -1,4 +1,3 @@
-// What the text of an EnSight Gold case says.
 #include "host/scene/formats/ensight/EnSightCase.h"
 
 #include "host/core/base/Text.h"
@@ -12,7 +11,6 @@
 #include <optional>
 #include <set>
 #include <sstream>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -64,10 +62,10 @@ public:
             }
         }
         if (!m_isGold) {
-            throw std::runtime_error("it is no EnSight Gold case");
+            throw ReadFailure("it is no EnSight Gold case");
         }
         if (geometry.pattern.empty()) {
-            throw std::runtime_error("it names no geometry");
+            throw ReadFailure("it names no geometry");
         }
     }
 
@@ -204,7 +202,7 @@ private:
     }
 
     [[noreturn]] void fail(const std::string& what) const {
-        throw std::runtime_error("its line " + std::to_string(m_line) + " " + what);
+        throw ReadFailure("its line " + std::to_string(m_line) + " " + what);
     }
 
     int m_line = 0;
@@ -220,8 +218,8 @@ EnSightTimeSet timeSetOf(int name, const RawTimeSet& raw) {
     if (steps == 0 || raw.times.size() != steps ||
         !std::all_of(raw.times.begin(), raw.times.end(), isFinite) ||
         (!raw.numbers.empty() && raw.numbers.size() != steps)) {
-        throw std::runtime_error("its time set " + std::to_string(name) +
-                                 " does not have as many times as steps");
+        throw ReadFailure("its time set " + std::to_string(name) +
+                          " does not have as many times as steps");
     }
     EnSightTimeSet set{raw.times, raw.numbers};
     for (long long step = 0; set.numbers.size() < steps; ++step) {
@@ -246,13 +244,9 @@ std::string withNumber(const std::string& pattern, int number) {
 EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
     CaseParser parser;
     std::ifstream stream(path);
-    try {
-        parser.parse(stream);
-        for (const auto& [name, raw] : parser.timeSets) {
-            m_timeSets[name] = timeSetOf(name, raw);
-        }
-    } catch (const std::runtime_error& error) {
-        throw readError(path, error.what());
+    parser.parse(stream);
+    for (const auto& [name, raw] : parser.timeSets) {
+        m_timeSets[name] = timeSetOf(name, raw);
     }
     m_geometry = parser.geometry;
     m_variables = parser.variables;
@@ -272,7 +266,7 @@ EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
         }
         const auto set = m_timeSets.find(files->timeSet);
         if (set == m_timeSets.end()) {
-            throw readError(path, "it has no time set " + std::to_string(files->timeSet));
+            throw ReadFailure("it has no time set " + std::to_string(files->timeSet));
         }
         times.insert(set->second.times.begin(), set->second.times.end());
     }

@@ -29,7 +29,7 @@ struct EnSightTimeSet {
 
 class EnSightCase {
 public:
-    /// Throws a readError.
+    /// Throws ReadFailure.
     explicit EnSightCase(const std::string& path);
 
     const std::vector<double>& times() const { return m_times; } ///< ascending

@@ -1,15 +1,12 @@
-// EnSight Gold cases (.case).
 #include "host/scene/formats/ensight/EnSightFile.h"
 
 #include "host/scene/formats/ensight/EnSightCase.h"
 #include "host/scene/formats/ensight/EnSightGeometry.h"
 #include "host/scene/formats/ensight/EnSightValues.h"
-#include "host/scene/mesh/MeshCheck.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <filesystem>
 #include <set>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -17,15 +14,15 @@ namespace {
 
 /// Says which of the files that a case names is meant.
 template <class Work>
-auto aboutFile(const std::string& casePath, const std::string& path, Work work) {
+auto aboutFile(const std::string& path, const Work& work) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        throw readError(casePath, "it names " + path + ", which is no file");
+        throw ReadFailure("it names " + path + ", which is no file");
     }
     try {
         return work();
-    } catch (const std::runtime_error& failure) {
-        throw readError(casePath, "its file " + path + " " + failure.what());
+    } catch (const ReadFailure& failure) {
+        throw ReadFailure("its file " + path + " " + failure.what());
     }
 }
 
@@ -49,38 +46,29 @@ EnSightFile::EnSightFile(const std::string& path) : MeshFile(path) {}
 
 EnSightFile::~EnSightFile() = default;
 
-std::vector<double> EnSightFile::times() const {
+std::vector<double> EnSightFile::readTimes() const {
     return caseText().times();
 }
 
-std::vector<MeshPart> EnSightFile::read(int step) const {
+std::vector<MeshPart> EnSightFile::readParts(int step) const {
     const EnSightCase& text = caseText();
     const double time =
         text.times().empty() ? 0.0 : text.times().at(static_cast<std::size_t>(step));
     const auto place = text.placeOf(text.geometry(), time);
     EnSightInput::Kind kind = EnSightInput::Kind::Text;
-    EnSightParts read = aboutFile(path(), place.path, [&] {
+    EnSightParts read = aboutFile(place.path, [&] {
         kind = EnSightInput::kindOf(place.path);
         EnSightInput input(place.path, kind);
         return readEnSightGeometry(input, place.index);
     });
     for (const EnSightVariable& variable : text.variables()) {
         const auto at = text.placeOf(variable.files, time);
-        aboutFile(path(), at.path, [&] {
+        aboutFile(at.path, [&] {
             EnSightInput input(at.path, kind);
             readEnSightValues(input, at.index, variable, read);
         });
     }
-    auto parts = partsOf(read);
-    if (parts.empty()) {
-        throw readError(path(), "it holds no mesh");
-    }
-    for (const MeshPart& part : parts) {
-        if (!isSound(*part.mesh)) {
-            throw readError(path(), "its part \"" + part.name + "\" is damaged");
-        }
-    }
-    return parts;
+    return partsOf(read);
 }
 
 const EnSightCase& EnSightFile::caseText() const {

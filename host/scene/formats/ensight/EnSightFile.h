@@ -18,10 +18,9 @@ public:
     explicit EnSightFile(const std::string& path);
     ~EnSightFile() override;
 
-    std::vector<double> times() const override;
-    std::vector<MeshPart> read(int step) const override;
-
 private:
+    std::vector<double> readTimes() const override;
+    std::vector<MeshPart> readParts(int step) const override;
     const EnSightCase& caseText() const;
 
     mutable std::once_flag m_caseRead;

@@ -1,5 +1,6 @@
-// The meshes of an EnSight Gold geometry.
 #include "host/scene/formats/ensight/EnSightGeometry.h"
+
+#include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellType.h>
 #include <vtkFloatArray.h>
@@ -16,7 +17,6 @@
 #include <numeric>
 #include <set>
 #include <sstream>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -60,7 +60,7 @@ const Shape* shapeOf(const std::string& kind) {
 
 std::size_t counted(int count) {
     if (count < 0) {
-        throw std::runtime_error("holds a negative count");
+        throw ReadFailure("holds a negative count");
     }
     return static_cast<std::size_t>(count);
 }
@@ -101,7 +101,7 @@ public:
             part.name = m_input.line();
             readMesh(part);
             if (!parts.emplace(number, std::move(part)).second) {
-                throw std::runtime_error("has two parts with the number " + std::to_string(number));
+                throw ReadFailure("has two parts with the number " + std::to_string(number));
             }
         }
         return parts;
@@ -111,7 +111,7 @@ private:
     bool hasIds(const std::string& what) {
         const std::string text = m_input.keyword();
         if (!text.starts_with(what)) {
-            throw std::runtime_error("does not say whether there is a \"" + what + "\"");
+            throw ReadFailure("does not say whether there is a \"" + what + "\"");
         }
         return text.ends_with("given") || text.ends_with("ignore");
     }
@@ -126,7 +126,7 @@ private:
             const std::set<std::string> options{std::istream_iterator<std::string>(words), {}};
             readBlock(part, options);
         } else {
-            throw std::runtime_error("has a part that begins with neither coordinates nor a block");
+            throw ReadFailure("has a part that begins with neither coordinates nor a block");
         }
     }
 
@@ -162,7 +162,7 @@ private:
             const int cells =
                 readCells(isGhost ? *elsewhere : *grid, isGhost ? kind.substr(2) : kind);
             if (!part.cells.emplace(kind, EnSightPart::Cells{first, cells, isGhost}).second) {
-                throw std::runtime_error("has the cells \"" + kind + "\" of a part twice");
+                throw ReadFailure("has the cells \"" + kind + "\" of a part twice");
             }
         }
         part.mesh = grid;
@@ -171,7 +171,7 @@ private:
     int readCells(vtkUnstructuredGrid& grid, const std::string& kind) {
         const Shape* const shape = shapeOf(kind);
         if (shape == nullptr && kind != "nsided" && kind != "nfaced") {
-            throw std::runtime_error("has cells of an unknown kind");
+            throw ReadFailure("has cells of an unknown kind");
         }
         const int count = m_input.integer();
         const std::size_t cells = counted(count);
@@ -238,7 +238,7 @@ private:
         nodes.reserve(count);
         for (const int number : numbers) {
             if (number < 1 || number > m_nodeCount) {
-                throw std::runtime_error("has cells with nodes that are not there");
+                throw ReadFailure("has cells with nodes that are not there");
             }
             nodes.push_back(number - 1);
         }
@@ -248,19 +248,19 @@ private:
     void readBlock(EnSightPart& part, const std::set<std::string>& options) {
         for (const char* const option : {"iblanked", "with_ghost", "range"}) {
             if (options.contains(option)) {
-                throw std::runtime_error(std::string("has a block that is \"") + option +
-                                         "\", which cannot be read");
+                throw ReadFailure(std::string("has a block that is \"") + option +
+                                  "\", which cannot be read");
             }
         }
         const auto counts = m_input.integers(3);
         std::size_t points = 1;
         for (const int count : counts) {
             if (count < 1) {
-                throw std::runtime_error("has a block without points");
+                throw ReadFailure("has a block without points");
             }
             points *= static_cast<std::size_t>(count);
             if (points > std::numeric_limits<int>::max()) {
-                throw std::runtime_error("has a block that is too large");
+                throw ReadFailure("has a block that is too large");
             }
         }
         if (options.contains("uniform")) {
@@ -317,7 +317,7 @@ bool hasEnSightPart(EnSightInput& input) {
         return false;
     }
     if (next != "part") {
-        throw std::runtime_error("has something else where a part should begin");
+        throw ReadFailure("has something else where a part should begin");
     }
     return true;
 }

@@ -27,8 +27,8 @@ struct EnSightPart {
 
 using EnSightParts = std::map<int, EnSightPart>; ///< by their numbers
 
-/// Reads one geometry; in a file of several, the one at the index. Throws std::runtime_error: what
-/// follows the file's name in a sentence.
+/// Reads one geometry; in a file of several, the one at the index. Throws ReadFailure: what follows
+/// the file's name in a sentence.
 EnSightParts readEnSightGeometry(EnSightInput& input, int index);
 
 /// Goes to the description of the data at the index in a file of one state (index 0) or of several,

@@ -1,7 +1,7 @@
-// The lines and numbers of an EnSight Gold file, one after the other.
 #include "host/scene/formats/ensight/EnSightInput.h"
 
 #include "host/core/base/Text.h"
+#include "host/scene/mesh/ReadError.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,6 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
-#include <stdexcept>
 #include <type_traits>
 
 namespace corvane::scene {
@@ -18,7 +17,7 @@ namespace corvane::scene {
 namespace {
 
 [[noreturn]] void failAtEnd() {
-    throw std::runtime_error("ends before its data do");
+    throw ReadFailure("ends before its data do");
 }
 
 std::string textOf(std::string_view line) {
@@ -40,7 +39,7 @@ EnSightInput::Kind EnSightInput::kindOf(const std::string& geometryPath) {
     stream.read(bytes.data(), bytes.size());
     const std::string_view start(bytes.data(), static_cast<std::size_t>(stream.gcount()));
     if (start.starts_with("Fortran Binary")) {
-        throw std::runtime_error("is in the binary form of Fortran; text and C Binary can be read");
+        throw ReadFailure("is in the binary form of Fortran; text and C Binary can be read");
     }
     return start.starts_with("C Binary") ? Kind::Binary : Kind::Text;
 }
@@ -125,7 +124,7 @@ Number EnSightInput::textValue() {
     const auto [end, error] = std::from_chars(*first == '+' ? first + 1 : first, last, value);
     if (error != std::errc{} ||
         (end != last && host::whitespace.find(*end) == std::string_view::npos)) {
-        throw std::runtime_error("holds what is no number where one should be");
+        throw ReadFailure("holds what is no number where one should be");
     }
     m_at += static_cast<std::size_t>(end - first);
     if constexpr (std::is_integral_v<Number>) {

@@ -8,8 +8,8 @@
 
 namespace corvane::scene {
 
-/// Where the file ends too early, or holds no number, std::runtime_error gives the reason: what
-/// follows the file's name in a sentence.
+/// Throws ReadFailure where the file ends too early or holds no number: what follows the file's
+/// name in a sentence.
 class EnSightInput {
 public:
     enum class Kind { Text, Binary };

@@ -1,12 +1,12 @@
-// The values of an EnSight Gold variable.
 #include "host/scene/formats/ensight/EnSightValues.h"
+
+#include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellData.h>
 #include <vtkFloatArray.h>
 #include <vtkPointData.h>
 
 #include <cmath>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -24,8 +24,8 @@ public:
             const int number = m_input.integer();
             const auto found = m_parts.find(number);
             if (found == m_parts.end()) {
-                throw std::runtime_error("has values for the part " + std::to_string(number) +
-                                         ", which the geometry does not have");
+                throw ReadFailure("has values for the part " + std::to_string(number) +
+                                  ", which the geometry does not have");
             }
             if (m_variable.isOfCells) {
                 readCells(found->second);
@@ -39,7 +39,7 @@ private:
     void readPoints(vtkDataSet& mesh) {
         const std::string kind = m_input.keyword();
         if (kind != "coordinates" && kind != "block") {
-            throw std::runtime_error("has values of an unknown kind");
+            throw ReadFailure("has values of an unknown kind");
         }
         const auto array = makeArray(mesh.GetNumberOfPoints());
         readInto(*array, 0, mesh.GetNumberOfPoints());
@@ -56,7 +56,7 @@ private:
             }
             const auto cells = part.cells.find(m_input.keyword());
             if (cells == part.cells.end()) {
-                throw std::runtime_error("has values for cells that the geometry does not have");
+                throw ReadFailure("has values for cells that the geometry does not have");
             }
             if (cells->second.isGhost) {
                 m_input.numbers(static_cast<std::size_t>(cells->second.count) *

@@ -1,8 +1,8 @@
-// Surfaces in PLY files.
 #include "host/scene/formats/ply/PlyFile.h"
 
 #include "host/scene/formats/ply/PlyHeader.h"
 #include "host/scene/formats/ply/PlyValues.h"
+#include "host/scene/mesh/MeshParts.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellArray.h>
@@ -11,11 +11,8 @@
 #include <vtkPoints.h>
 #include <vtkPolyData.h>
 
-#include <algorithm>
 #include <array>
 #include <fstream>
-#include <new>
-#include <stdexcept>
 
 namespace corvane::scene {
 
@@ -33,7 +30,6 @@ public:
         for (const Element& element : header.elements) {
             read(element);
         }
-        checkFaces();
     }
 
     vtkSmartPointer<vtkPolyData> surface() const { return m_surface; }
@@ -121,42 +117,17 @@ private:
         return list;
     }
 
-    void checkFaces() {
-        vtkCellArray& faces = *m_surface->GetPolys();
-        if (faces.GetNumberOfConnectivityIds() == 0) {
-            return;
-        }
-        std::array<double, 2> range{};
-        faces.GetConnectivityArray()->GetRange(range.data());
-        const auto points = static_cast<double>(m_surface->GetNumberOfPoints());
-        if (range[0] < 0.0 || range[1] >= points) {
-            throw std::runtime_error("a face has a point that does not exist");
-        }
-    }
-
     PlyValues m_values;
     vtkSmartPointer<vtkPolyData> m_surface = vtkSmartPointer<vtkPolyData>::New();
 };
 
 } // namespace
 
-std::vector<MeshPart> PlyFile::read(int /*step*/) const {
+std::vector<MeshPart> PlyFile::readParts(int /*step*/) const {
     checkReadable(path());
     std::ifstream stream(path(), std::ios::binary);
-    try {
-        const PlyHeader header = readPlyHeader(stream);
-        const auto surface = PlySurface(stream, header).surface();
-        if (surface->GetNumberOfPoints() == 0) {
-            throw std::runtime_error("it holds no mesh");
-        }
-        return {{"", surface}};
-    } catch (const std::runtime_error& error) {
-        throw readError(path(), error.what());
-    } catch (const std::bad_alloc&) {
-        throw readError(path(), tooLargeReason);
-    } catch (const std::length_error&) {
-        throw readError(path(), tooLargeReason);
-    }
+    const PlyHeader header = readPlyHeader(stream);
+    return meshParts(PlySurface(stream, header).surface());
 }
 
 } // namespace corvane::scene

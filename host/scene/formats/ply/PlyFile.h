@@ -7,10 +7,12 @@ namespace corvane::scene {
 
 /// Reads points, faces, and the other numbers of the points as arrays. VTK's own reader corrupts
 /// memory when such a file ends too early, and knows one of the two usual names of the faces' list.
-class PlyFile : public MeshFile {
+class PlyFile final : public MeshFile {
 public:
     using MeshFile::MeshFile;
-    std::vector<MeshPart> read(int step) const override;
+
+private:
+    std::vector<MeshPart> readParts(int step) const override;
 };
 
 } // namespace corvane::scene

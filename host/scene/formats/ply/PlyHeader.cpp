@@ -1,9 +1,9 @@
-// The header of a PLY file: what values follow, and how they are written.
 #include "host/scene/formats/ply/PlyHeader.h"
+
+#include "host/scene/mesh/ReadError.h"
 
 #include <map>
 #include <sstream>
-#include <stdexcept>
 #include <string_view>
 
 namespace corvane::scene {
@@ -14,7 +14,7 @@ using Format = PlyHeader::Format;
 using Type = PlyHeader::Type;
 
 [[noreturn]] void fail(const std::string& line) {
-    throw std::runtime_error("its header has a line that cannot be understood: \"" + line + "\"");
+    throw ReadFailure("its header has a line that cannot be understood: \"" + line + "\"");
 }
 
 template <class Value>
@@ -76,7 +76,7 @@ PlyHeader::Element elementOf(std::istringstream& words, const std::string& line)
 std::string nextLine(std::istream& stream) {
     std::string line;
     if (!std::getline(stream, line)) {
-        throw std::runtime_error("its header has no end");
+        throw ReadFailure("its header has no end");
     }
     if (line.ends_with('\r')) {
         line.pop_back();
@@ -88,7 +88,7 @@ std::string nextLine(std::istream& stream) {
 
 PlyHeader readPlyHeader(std::istream& stream) {
     if (nextLine(stream) != "ply") {
-        throw std::runtime_error("it is no PLY file");
+        throw ReadFailure("it is no PLY file");
     }
     PlyHeader header;
     for (std::string line = nextLine(stream); line != "end_header"; line = nextLine(stream)) {

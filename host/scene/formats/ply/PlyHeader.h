@@ -27,8 +27,7 @@ struct PlyHeader {
     std::vector<Element> elements;
 };
 
-/// Leaves the stream at the first value. Throws std::runtime_error: the reason, as it is used in
-/// readError().
+/// Leaves the stream at the first value. Throws ReadFailure.
 PlyHeader readPlyHeader(std::istream& stream);
 
 } // namespace corvane::scene

@@ -1,18 +1,18 @@
-// The values of a PLY file, one after the other.
 #include "host/scene/formats/ply/PlyValues.h"
+
+#include "host/scene/mesh/ReadError.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
-#include <stdexcept>
 
 namespace corvane::scene {
 
 namespace {
 
 [[noreturn]] void fail() {
-    throw std::runtime_error("the file ends before its data do, or holds what is no number");
+    throw ReadFailure("the file ends before its data do, or holds what is no number");
 }
 
 } // namespace

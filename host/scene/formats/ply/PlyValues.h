@@ -7,7 +7,7 @@
 
 namespace corvane::scene {
 
-/// Where the stream ends too early, or holds no number, std::runtime_error gives the reason.
+/// Throws ReadFailure where the stream ends too early or holds no number.
 class PlyValues {
 public:
     PlyValues(std::istream& stream, PlyHeader::Format format)

@@ -1,0 +1,54 @@
+#include "host/scene/formats/VtkFiles.h"
+
+#include "host/scene/formats/ParallelXmlCheck.h"
+
+#include <vtkDataSetAttributes.h>
+#include <vtkGenericDataObjectReader.h>
+#include <vtkNew.h>
+#include <vtkOBJReader.h>
+#include <vtkPolyData.h>
+#include <vtkSTLReader.h>
+#include <vtkXMLGenericDataObjectReader.h>
+
+namespace corvane::scene {
+
+namespace {
+
+template <class Reader>
+vtkSmartPointer<vtkDataObject> outputOf(Reader& reader, const std::string& path) {
+    reader.SetFileName(path.c_str());
+    reader.Update();
+    return reader.GetOutputDataObject(0);
+}
+
+} // namespace
+
+vtkSmartPointer<vtkDataObject> VtkXmlFile::readObject() const {
+    checkParallelXml(path());
+    const vtkNew<vtkXMLGenericDataObjectReader> reader;
+    return outputOf(*reader, path());
+}
+
+vtkSmartPointer<vtkDataObject> LegacyVtkFile::readObject() const {
+    const vtkNew<vtkGenericDataObjectReader> reader;
+    // Otherwise it keeps the first array of each kind alone.
+    reader->ReadAllScalarsOn();
+    reader->ReadAllVectorsOn();
+    reader->ReadAllFieldsOn();
+    return outputOf(*reader, path());
+}
+
+vtkSmartPointer<vtkDataObject> StlFile::readObject() const {
+    const vtkNew<vtkSTLReader> reader;
+    return outputOf(*reader, path());
+}
+
+vtkSmartPointer<vtkDataObject> ObjFile::readObject() const {
+    const vtkNew<vtkOBJReader> reader;
+    auto surface = outputOf(*reader, path());
+    // The reader numbers groups and materials, which are no quantities.
+    surface->GetAttributes(vtkDataObject::CELL)->Initialize();
+    return surface;
+}
+
+} // namespace corvane::scene
