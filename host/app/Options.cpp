@@ -78,9 +78,20 @@ void checkCombination(const Options& options) {
     }
 }
 
+std::string extensionsOf(const std::vector<host::DataFormat>& formats) {
+    std::string text;
+    for (const host::DataFormat& format : formats) {
+        for (const std::string& extension : format.extensions) {
+            text += (text.empty() ? "" : " ") + extension;
+        }
+    }
+    return text;
+}
+
 } // namespace
 
-Options parseCommandLine(int argc, const char* const* argv) {
+Options parseCommandLine(int argc, const char* const* argv,
+                         const std::vector<host::DataFormat>& dataFormats) {
     Options options;
     std::string size;
     std::vector<std::string> settings;
@@ -88,8 +99,7 @@ Options parseCommandLine(int argc, const char* const* argv) {
                  "corvane"};
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
-                   "data files: one data set together (.pvd .vtu .vtp .vti .vtr .vts .vtm .pvtu "
-                   ".pvtp .pvti .pvtr .pvts .vtk .foam .case .e .exo .ex2 .cgns .stl .ply .obj)");
+                   "data files: one data set together (" + extensionsOf(dataFormats) + ")");
     app.add_option("--macro", options.macro, "play this macro first");
     app.add_option("--set", settings, "give a variable of macros a value, ${NAME} there")
         ->type_name("NAME=VALUE")

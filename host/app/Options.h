@@ -1,6 +1,8 @@
 // The command line as values.
 #pragma once
 
+#include "host/core/ports/DataFormat.h"
+
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
@@ -44,7 +46,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Throws PrintAndExit or UsageError.
-Options parseCommandLine(int argc, const char* const* argv);
+/// dataFormats are those that the help lists. Throws PrintAndExit or UsageError.
+Options parseCommandLine(int argc, const char* const* argv,
+                         const std::vector<host::DataFormat>& dataFormats);
 
 } // namespace corvane::app

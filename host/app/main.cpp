@@ -5,15 +5,17 @@
 #include "host/app/Signals.h"
 #include "host/app/StandardStreams.h"
 #include "host/app/WindowRun.h"
+#include "host/scene/DataReaders.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
+    using namespace corvane;
     using namespace corvane::app;
     holdStandardStreams();
     surviveFailedWrites();
     try {
-        const Options options = parseCommandLine(argc, argv);
+        const Options options = parseCommandLine(argc, argv, scene::DataReaders().formats());
         return options.needsWindow() ? runWindow(options) : runBatch(options);
     } catch (const PrintAndExit& text) {
         std::cout << text.what() << std::flush;

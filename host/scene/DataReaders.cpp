@@ -1,4 +1,3 @@
-// Reads simulation results from files.
 #include "host/scene/DataReaders.h"
 
 #include "host/core/base/HostError.h"
@@ -6,6 +5,7 @@
 #include "host/scene/data/SceneDataSet.h"
 #include "host/scene/data/SceneStatistics.h"
 #include "host/scene/data/VariableRanges.h"
+#include "host/scene/formats/MeshFormats.h"
 #include "host/scene/mesh/MeshParts.h"
 
 #include <algorithm>
@@ -72,6 +72,14 @@ std::vector<VariableRange> rangesOf(const std::vector<MeshSeries>& allSeries, Me
 DataReaders::DataReaders(std::size_t memoryBudget, std::shared_ptr<SceneStatistics> statistics)
     : m_memoryBudget(memoryBudget),
       m_statistics(statistics ? std::move(statistics) : std::make_shared<SceneStatistics>()) {}
+
+std::vector<host::DataFormat> DataReaders::formats() const {
+    std::vector<host::DataFormat> formats;
+    for (const MeshFormat& row : meshFormats()) {
+        formats.push_back(row.format);
+    }
+    return formats;
+}
 
 std::shared_ptr<const host::DataSet> DataReaders::read(const std::vector<std::string>& files) {
     if (files.empty()) {

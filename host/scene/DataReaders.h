@@ -13,13 +13,8 @@ namespace corvane::scene {
 
 struct SceneStatistics;
 
-/// Reads VTK's XML files (.vtu .vtp .vti .vtr .vts, .vtm of several blocks, and the parallel .pvtu
-/// .pvtp .pvti .pvtr .pvts) and legacy files (.vtk), lists of files through time (.pvd), OpenFOAM
-/// cases (.foam), EnSight Gold cases (.case; text and C Binary), Exodus II files (.e .exo .ex2),
-/// CGNS files (.cgns), and surfaces in .stl, .ply and .obj files. Files of other names are tried by
-/// their content where that tells: VTK's two kinds and PLY.
-///
-/// Several files make one data set of several blocks. Only the first, the middle and the last
+/// Reads the formats in the table of MeshFormats.cpp. Several files make one data set of several
+/// blocks. Only the first, the middle and the last
 /// solution time are read at once, to know the ranges of values; others when they are drawn.
 class DataReaders : public host::DataReader {
 public:
@@ -27,6 +22,7 @@ public:
     explicit DataReaders(std::size_t memoryBudget = defaultMemoryBudget(),
                          std::shared_ptr<SceneStatistics> statistics = nullptr);
 
+    std::vector<host::DataFormat> formats() const override;
     std::shared_ptr<const host::DataSet> read(const std::vector<std::string>& files) override;
 
 private:

@@ -12,6 +12,7 @@ namespace corvane::test {
 /// Any file holds the transient data of makeTransientData, unless a test said otherwise.
 class MemoryReader : public host::DataReader {
 public:
+    std::vector<host::DataFormat> formats() const override { return {{{".mem"}, "Data of tests"}}; }
     std::shared_ptr<const host::DataSet> read(const std::vector<std::string>& files) override;
 
     /// What the next reads give.

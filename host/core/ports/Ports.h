@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/core/page/DataSet.h"
+#include "host/core/ports/DataFormat.h"
 #include "host/core/ports/Picture.h"
 #include "hostapi/CorEnums.h"
 
@@ -36,6 +37,8 @@ public:
 class DataReader {
 public:
     virtual ~DataReader() = default;
+    /// What can be read, as the user is told of it.
+    virtual std::vector<DataFormat> formats() const = 0;
     /// Reads one data set from one or more files. Throws HostError: a sentence with the file's name
     /// and the reason.
     virtual std::shared_ptr<const DataSet> read(const std::vector<std::string>& files) = 0;

@@ -66,6 +66,7 @@ public:
     AddOnCommands& addOnCommands() { return m_addOnCommands; }
     CallTrace& trace() { return m_trace; }
     UserPrompts& prompts() { return m_ports.prompts; }
+    std::vector<DataFormat> dataFormats() const { return m_ports.reader.formats(); }
     Controls& controls() { return m_controls; }
     ControlActions& controlActions() { return m_controlActions; }
     MenuOptions& menuOptions() { return m_menuOptions; }

@@ -6,6 +6,7 @@
 #include "host/gui/base/QtText.h"
 #include "host/gui/base/WaitCursor.h"
 #include "host/gui/commands/MenuActions.h"
+#include "host/gui/menus/DataFilter.h"
 #include "host/gui/menus/ExportPictureDialog.h"
 #include "host/gui/menus/RecentFiles.h"
 #include "host/gui/view/DrawingArea.h"
@@ -18,17 +19,6 @@
 #include <QSettings>
 
 namespace corvane::gui {
-
-namespace {
-
-QString dataFilter() {
-    return QObject::tr(
-        "Simulation results (*.pvd *.vtu *.vtp *.vti *.vtr *.vts *.vtm *.pvtu *.pvtp "
-        "*.pvti *.pvtr *.pvts *.vtk *.foam *.case *.e *.exo *.ex2 *.cgns *.stl "
-        "*.ply *.obj);;All files (*)");
-}
-
-} // namespace
 
 FileActions::FileActions(const Commands& commands, MainWindow& window)
     : m_commands(commands), m_window(window), m_recent(new RecentFiles(&window)) {
@@ -57,8 +47,9 @@ FileActions::FileActions(const Commands& commands, MainWindow& window)
 void FileActions::askAndOpen() {
     QSettings settings;
     const QString key = QStringLiteral("dataFolder");
-    const QStringList files = QFileDialog::getOpenFileNames(
-        &m_window, tr("Open Data"), settings.value(key).toString(), dataFilter());
+    const QStringList files =
+        QFileDialog::getOpenFileNames(&m_window, tr("Open Data"), settings.value(key).toString(),
+                                      dataFilter(m_commands.session().dataFormats()));
     if (!files.isEmpty()) {
         settings.setValue(key, QFileInfo(files.first()).absolutePath());
         openData(files);

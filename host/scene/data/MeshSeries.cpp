@@ -1,8 +1,6 @@
-// What a file given by the user holds: meshes through time, still unread.
 #include "host/scene/data/MeshSeries.h"
 
 #include "host/scene/formats/MeshFormats.h"
-#include "host/scene/formats/PvdFile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -26,16 +24,17 @@ void mergeIfStatic(MeshSeries& series) {
 } // namespace
 
 void MeshSeriesList::open(const std::string& path) {
-    if (isSeriesFile(path)) {
-        openList(path);
+    const MeshFormat& format = formatOf(path);
+    if (format.readList != nullptr) {
+        addList(format.readList(path));
     } else {
-        openFile(path);
+        addFile(format.open(path));
     }
 }
 
-void MeshSeriesList::openList(const std::string& path) {
+void MeshSeriesList::addList(const std::vector<PvdPart>& parts) {
     std::map<std::string, int> sourceOfPath;
-    for (const PvdPart& part : readPvd(path)) {
+    for (const PvdPart& part : parts) {
         MeshSeries series{part.name, {}, {}};
         for (const auto& step : part.steps) {
             const auto [found, isNew] =
@@ -51,9 +50,8 @@ void MeshSeriesList::openList(const std::string& path) {
     }
 }
 
-void MeshSeriesList::openFile(const std::string& path) {
-    const std::shared_ptr<const MeshFile> file = openMeshFile(path);
-    MeshSeries series{std::filesystem::path(path).stem().string(), file->times(), {}};
+void MeshSeriesList::addFile(const std::shared_ptr<const MeshFile>& file) {
+    MeshSeries series{std::filesystem::path(file->path()).stem().string(), file->times(), {}};
     if (series.times.empty()) {
         series.times.push_back(0.0);
     }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "host/scene/data/MeshCache.h"
+#include "host/scene/formats/PvdFile.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,8 +29,8 @@ public:
     const std::vector<MeshSource>& sources() const { return m_sources; }
 
 private:
-    void openList(const std::string& path);
-    void openFile(const std::string& path);
+    void addList(const std::vector<PvdPart>& parts);
+    void addFile(const std::shared_ptr<const MeshFile>& file);
 
     std::vector<MeshSeries> m_series;
     std::vector<MeshSource> m_sources;

@@ -50,6 +50,7 @@ public:
     std::vector<std::vector<std::string>> calls;
     std::string failure;
 
+    std::vector<DataFormat> formats() const override { return {}; }
     std::shared_ptr<const DataSet> read(const std::vector<std::string>& files) override {
         calls.push_back(files);
         if (!failure.empty()) {

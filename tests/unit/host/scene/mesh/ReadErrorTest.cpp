@@ -155,6 +155,15 @@ TEST(ReadError, listsThatAreNone) {
     EXPECT_THAT(errorOf(cut), isSentenceAbout(cut));
 }
 
+TEST(ReadError, aListInAList) {
+    const TempFolder folder;
+    writeMesh(folder, "a0.vtu", sampleGrid());
+    const std::string inner = writePvd(folder, "inner.pvd", {{0.0, 0, "a0.vtu"}});
+    const std::string outer = writePvd(folder, "outer.pvd", {{0.0, 0, "inner.pvd"}});
+    EXPECT_EQ(errorOf(outer), inner + " cannot be read: it is a list of files, which cannot be "
+                                      "part of another list.");
+}
+
 TEST(ReadError, aFileOfAListThatCannotBeRead) {
     const TempFolder folder;
     folder.write("a0.vtu", "no mesh");
