@@ -1,4 +1,3 @@
-// What VTK needs to draw one frame, kept from picture to picture.
 #include "host/scene/FrameScene.h"
 
 #include "host/core/base/HostError.h"

@@ -1,4 +1,3 @@
-// How much memory data may take.
 #include "host/scene/MemoryBudget.h"
 
 #include <unistd.h>

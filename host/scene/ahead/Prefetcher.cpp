@@ -1,4 +1,3 @@
-// In which direction solution time moves, and what comes next.
 #include "host/scene/ahead/Prefetcher.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// The polygons of plots: built once, kept while there is room, and built ahead.
 #include "host/scene/ahead/PreparedGeometry.h"
 
 #include "host/scene/geometry/StreamTubes.h"

@@ -1,4 +1,3 @@
-// Prepares what will be needed next, while the picture of now is drawn.
 #include "host/scene/ahead/ReadAhead.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// The background of a frame, and the colours that can be read on it.
 #include "host/scene/annotations/Background.h"
 
 namespace corvane::scene {

@@ -1,4 +1,3 @@
-// The legend: a strip of the contour's colours with its scale.
 #include "host/scene/annotations/ColorBar.h"
 
 #include "host/scene/annotations/Ticks.h"

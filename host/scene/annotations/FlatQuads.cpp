@@ -1,4 +1,3 @@
-// Coloured rectangles over a picture.
 #include "host/scene/annotations/FlatQuads.h"
 
 #include <vtkPointData.h>

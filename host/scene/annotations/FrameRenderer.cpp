@@ -1,4 +1,3 @@
-// VTK's renderer, with see-through surfaces in the right order, and lights of its own.
 #include "host/scene/annotations/FrameRenderer.h"
 
 #include <vtkDepthPeelingPass.h>

@@ -1,4 +1,3 @@
-// The little axis cross in the corner of a frame.
 #include "host/scene/annotations/OrientationAxis.h"
 
 #include "host/scene/layout/CameraSetup.h"

@@ -1,4 +1,3 @@
-// The box around the data of a frame.
 #include "host/scene/annotations/Outline.h"
 
 #include "host/scene/style/Material.h"

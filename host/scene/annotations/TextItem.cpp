@@ -1,4 +1,3 @@
-// A line of text over a picture.
 #include "host/scene/annotations/TextItem.h"
 
 #include <vtkStdString.h>

@@ -1,4 +1,3 @@
-// Round numbers for scales.
 #include "host/scene/annotations/Ticks.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// The solution time as text.
 #include "host/scene/annotations/TimeText.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Meshes that are read when they are needed, and kept while there is room.
 #include "host/scene/data/MeshCache.h"
 
 namespace corvane::scene {

@@ -1,4 +1,3 @@
-// A data set whose meshes are read when they are needed.
 #include "host/scene/data/SceneDataSet.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// The variables of meshes and the ranges of their values.
 #include "host/scene/data/VariableRanges.h"
 
 #include <vtkCellData.h>

@@ -1,4 +1,3 @@
-// What a style's variable name means in a mesh.
 #include "host/scene/data/VariableRef.h"
 
 #include <array>

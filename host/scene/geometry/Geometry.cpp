@@ -1,4 +1,3 @@
-// The polygons of plots, made from meshes.
 #include "host/scene/geometry/Geometry.h"
 
 #include "host/scene/data/SceneStatistics.h"

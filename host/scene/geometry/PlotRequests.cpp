@@ -1,4 +1,3 @@
-// What a frame asks to be drawn of its data.
 #include "host/scene/geometry/PlotRequests.h"
 
 namespace corvane::scene {

@@ -1,4 +1,3 @@
-// Where streamtraces start.
 #include "host/scene/geometry/StreamSeeds.h"
 
 #include "host/core/page/PointList.h"

@@ -1,4 +1,3 @@
-// Lines along a vector variable.
 #include "host/scene/geometry/StreamTraces.h"
 
 #include "host/scene/mesh/PointValues.h"

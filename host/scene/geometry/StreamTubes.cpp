@@ -1,4 +1,3 @@
-// Tubes around streamtraces.
 #include "host/scene/geometry/StreamTubes.h"
 
 #include <vtkNew.h>

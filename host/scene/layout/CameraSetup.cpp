@@ -1,4 +1,3 @@
-// From the view of a frame to VTK's camera.
 #include "host/scene/layout/CameraSetup.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// From the pixels as they were drawn to the finished picture.
 #include "host/scene/layout/Downsample.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Where the frames of a page lie in a picture.
 #include "host/scene/layout/PageLayout.h"
 
 #include <cmath>

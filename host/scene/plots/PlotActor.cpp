@@ -1,4 +1,3 @@
-// One plot in one block: polygons and the actor that draws them.
 #include "host/scene/plots/PlotActor.h"
 
 namespace corvane::scene {

@@ -1,4 +1,3 @@
-// Dashes that travel along traces.
 #include "host/scene/plots/StreamDashes.h"
 
 #include "host/scene/geometry/StreamTraces.h"

@@ -1,4 +1,3 @@
-// Points that travel along traces.
 #include "host/scene/plots/StreamMarkers.h"
 
 #include "host/scene/geometry/StreamTraces.h"

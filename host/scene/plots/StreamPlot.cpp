@@ -1,4 +1,3 @@
-// The streamtraces of one frame: tubes or lines, dashes and markers.
 #include "host/scene/plots/StreamPlot.h"
 
 #include "host/scene/plots/StreamDashes.h"

@@ -1,4 +1,3 @@
-// From values to colours.
 #include "host/scene/style/ColorMaps.h"
 
 #include "host/core/base/Text.h"

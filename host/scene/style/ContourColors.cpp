@@ -1,4 +1,3 @@
-// The colours of one frame's contour variable.
 #include "host/scene/style/ContourColors.h"
 
 #include "host/scene/style/ColorMaps.h"

@@ -1,4 +1,3 @@
-// How surfaces and lines answer to the light of a frame.
 #include "host/scene/style/Material.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// How the polygons of a plot look.
 #include "host/scene/style/PlotAppearance.h"
 
 #include "host/scene/style/Material.h"

@@ -1,4 +1,3 @@
-// An OpenGL context that needs no display server and no window.
 #include "host/scene/vtk/EglContext.h"
 
 #include "host/core/base/HostError.h"

@@ -1,4 +1,3 @@
-// VTK's drawing target on an OpenGL context of its own, without any display server.
 #include "host/scene/vtk/EglRenderWindow.h"
 
 #include "host/core/base/HostError.h"

@@ -1,4 +1,3 @@
-// Collects what VTK would print.
 #include "host/scene/vtk/VtkMessages.h"
 
 #include "host/core/base/Text.h"
