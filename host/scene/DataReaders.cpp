@@ -23,8 +23,8 @@ void addBounds(host::Bounds& bounds, vtkDataSet& mesh) {
     bounds.add({box[1], box[3], box[5]});
 }
 
-/// What stands for the whole series when it is opened, since reading all of it may take minutes:
-/// the first, the middle and the last time. One source stands for all times that it holds.
+/// The sources of the first, the middle and the last time. They represent the whole series, since
+/// reading all of it may take minutes.
 std::vector<int> samplesOf(const MeshSeries& series) {
     const auto& sources = series.sourceOfTime;
     std::vector<int> samples{sources.front()};
@@ -36,7 +36,7 @@ std::vector<int> samplesOf(const MeshSeries& series) {
     return samples;
 }
 
-/// Blocks may come late: particles, say, that enter the flow.
+/// A block may appear after the first time, such as particles that enter the flow.
 void addSeries(SceneDataSet& data, MeshCache& cache, const MeshSeries& series) {
     std::set<std::string> known;
     for (const int source : samplesOf(series)) {

@@ -14,8 +14,8 @@ namespace corvane::scene {
 struct SceneStatistics;
 
 /// Reads the formats in the table of MeshFormats.cpp. Several files make one data set of several
-/// blocks. Only the first, the middle and the last
-/// solution time are read at once, to know the ranges of values; others when they are drawn.
+/// blocks. Only the first, the middle and the last solution time are read at once, for the ranges
+/// of values; the others are read when they are drawn.
 class DataReaders : public host::DataReader {
 public:
     /// memoryBudget: bytes of meshes that each data set may keep. Statistics may be null.

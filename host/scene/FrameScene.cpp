@@ -55,7 +55,7 @@ FrameScene::FrameScene(std::shared_ptr<PreparedGeometry> geometry)
     : m_geometry(std::move(geometry)),
       m_light(makeLight()),
       m_colorBar(*m_renderer),
-      m_travel(*m_geometry),
+      m_prefetcher(*m_geometry),
       m_streams(*m_renderer) {
     m_renderer->SetAutomaticLightCreation(0);
     m_renderer->AddLight(m_light);
@@ -65,7 +65,7 @@ FrameScene::FrameScene(std::shared_ptr<PreparedGeometry> geometry)
 }
 
 FrameScene::~FrameScene() {
-    m_travel.leave();
+    m_prefetcher.reset();
 }
 
 void FrameScene::hide() {
@@ -111,7 +111,7 @@ void FrameScene::attach(const Frame& frame) {
     if (data == m_data) {
         return;
     }
-    m_travel.leave();
+    m_prefetcher.reset();
     for (const auto& [key, plot] : m_plots) {
         m_renderer->RemoveActor(plot->actor());
     }
@@ -134,14 +134,14 @@ void FrameScene::hidePlots() {
 void FrameScene::showContent(const Frame& frame, const FrameArea& area) {
     m_colors.update(frame.style.contour, *m_data);
     const PictureContent content = contentAt(frame.style, *m_data, frame.solutionTime);
-    m_travel.arrive(content);
+    m_prefetcher.beforeShowing(content);
     for (const PlotRequest& request : content.plots) {
         showPlot(request, frame.style.light);
     }
     if (content.streams) {
         showStreams(*content.streams, frame.style, area);
     }
-    m_travel.lookAhead(frame.style, m_data, frame.solutionTime, content);
+    m_prefetcher.prefetch(frame.style, m_data, frame.solutionTime, content);
 }
 
 void FrameScene::showPlot(const PlotRequest& request, const host::LightStyle& light) {

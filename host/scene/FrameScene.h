@@ -1,4 +1,4 @@
-// What VTK needs to draw one frame, kept from picture to picture.
+// The VTK objects that draw one frame, kept between pictures.
 #pragma once
 
 #include "host/core/page/Frame.h"
@@ -28,8 +28,8 @@
 
 namespace corvane::scene {
 
-/// Everything is set again from the frame for each picture; what is costly is rebuilt only when
-/// what it was built from has changed. So a picture never depends on the ones before.
+/// Everything is set from the frame again for each picture; what is expensive is rebuilt only when
+/// its input has changed. So a picture never depends on the previous ones.
 class FrameScene {
 public:
     explicit FrameScene(std::shared_ptr<PreparedGeometry> geometry);
@@ -39,15 +39,15 @@ public:
 
     void update(const host::Frame& frame, const FrameArea& area, int pictureWidth,
                 int pictureHeight);
-    /// What begins to be missing with the last update, as a sentence; empty: nothing.
+    /// What has been missing since the last update, as a sentence; empty when that is nothing new.
     const std::string& warning() const { return m_warning; }
-    void hide(); ///< leaves the next picture without this frame
+    void hide(); ///< leaves this frame out of the next picture
 
     /// In the order of drawing.
     std::vector<vtkRenderer*> renderers() const { return {m_renderer, m_axis.renderer()}; }
 
 private:
-    /// Kind of plot, its number in the style, block.
+    /// Kind of plot, number in the style, block.
     using PlotKey = std::tuple<Recipe::Kind, int, int>;
 
     void updatePlots(const host::Frame& frame, const FrameArea& area);
@@ -72,7 +72,7 @@ private:
     TextItem m_time;
 
     std::shared_ptr<const SceneDataSet> m_data; ///< whose plots are kept
-    Prefetcher m_travel;
+    Prefetcher m_prefetcher;
     std::map<PlotKey, std::unique_ptr<PlotActor>> m_plots;
     StreamPlot m_streams;
     std::string m_warning;

@@ -1,4 +1,4 @@
-// How much memory data may take.
+// The default limit for cached data.
 #pragma once
 
 #include <cstddef>

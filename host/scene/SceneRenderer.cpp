@@ -32,7 +32,7 @@ host::Picture emptyPicture(const host::PictureRequest& request) {
     return {request.width, request.height, std::vector<std::uint8_t>(pixels * 4)};
 }
 
-/// x and y of the left upper corner, from the left upper corner.
+/// x, y: the upper left corner of the piece in the picture, whose top row is 0.
 void paste(host::Picture& picture, const host::Picture& piece, int x, int y) {
     for (int row = 0; row < piece.height; ++row) {
         const std::size_t target =
@@ -46,7 +46,7 @@ void paste(host::Picture& picture, const host::Picture& piece, int x, int y) {
 
 } // namespace
 
-/// The window, and what is kept of each frame.
+/// The render window, and the scene of each frame.
 class SceneRenderer::Canvas {
 public:
     Canvas(std::shared_ptr<SceneStatistics> statistics, std::size_t budget,
@@ -84,7 +84,7 @@ private:
 
 host::Picture SceneRenderer::Canvas::draw(const host::Page& page,
                                           const host::PictureRequest& request) {
-    // Odd data must neither stop a movie nor write to the terminal.
+    // VTK's complaints about odd data must neither stop a movie nor reach the terminal.
     const VtkMessages silenced;
     m_window->MakeCurrent();
     prepareFrames(page);
@@ -157,7 +157,7 @@ void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     if (order == m_order) {
         return;
     }
-    // Taking a renderer out of the window frees what it has uploaded: only when it must be.
+    // Removing a renderer from the window frees what it has uploaded, so avoid it.
     for (vtkRenderer* const renderer : m_order) {
         m_window->RemoveRenderer(renderer);
     }

@@ -12,29 +12,28 @@ namespace corvane::scene {
 
 struct SceneStatistics;
 
-/// Draws frames whose data were read by DataReaders. The context of OpenGL is made with the first
-/// use; all calls must come from one thread.
+/// Draws frames whose data were read by DataReaders. The OpenGL context is created on first use;
+/// all calls must come from one thread.
 class SceneRenderer : public host::Renderer {
 public:
-    /// Is told, in a sentence, when something that was asked for begins to be missing in pictures.
+    /// Receives a sentence when something that was asked for starts to be missing in pictures.
     using WarningCallback = std::function<void(const std::string&)>;
 
-    /// Statistics may be null, and onWarning empty. memoryBudget: bytes of polygons that are kept
-    /// for times and plots that come back.
+    /// Statistics may be null, and onWarning empty. memoryBudget: the size of the cache of polygons
+    /// in bytes.
     explicit SceneRenderer(std::shared_ptr<SceneStatistics> statistics = nullptr,
                            std::size_t memoryBudget = defaultMemoryBudget() / 4,
                            WarningCallback onWarning = {});
     ~SceneRenderer() override;
 
     host::Picture draw(const host::Page& page, const host::PictureRequest& request) override;
-    /// What is larger than the GPU can draw at once is drawn in parts.
+    /// Pictures that are larger than what the GPU can draw at once are drawn in tiles.
     int largestSize() const override;
 
-    /// Draws in parts no larger than this, instead of what the GPU can draw at once. At least 16.
+    /// Draws in tiles no larger than this, even if the GPU can draw larger ones. At least 16.
     void limitTarget(int pixels);
 
-    /// Returns when what comes next has been read and built. Nobody needs to wait; those who count
-    /// do.
+    /// Waits until all prefetching is done. Only those who count what was done need this.
     void waitForReadAhead();
 
 private:

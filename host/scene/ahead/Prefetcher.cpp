@@ -4,18 +4,18 @@
 
 namespace corvane::scene {
 
-void Prefetcher::arrive(const PictureContent& content) {
+void Prefetcher::beforeShowing(const PictureContent& content) {
     if (content.zones == m_zones) {
         return;
     }
-    m_geometry.makeWay(this);
+    m_geometry.cancel(this);
     m_zones = content.zones;
     m_wanted.reset();
 }
 
-void Prefetcher::lookAhead(const host::FrameStyle& style, std::shared_ptr<const SceneDataSet> data,
-                           double solutionTime, const PictureContent& shown) {
-    move(*data, solutionTime);
+void Prefetcher::prefetch(const host::FrameStyle& style, std::shared_ptr<const SceneDataSet> data,
+                          double solutionTime, const PictureContent& shown) {
+    followTime(*data, solutionTime);
     if (!m_next) {
         return;
     }
@@ -31,15 +31,15 @@ void Prefetcher::lookAhead(const host::FrameStyle& style, std::shared_ptr<const 
     m_wanted = std::move(wanted);
 }
 
-void Prefetcher::leave() {
-    m_geometry.makeWay(this);
+void Prefetcher::reset() {
+    m_geometry.cancel(this);
     m_zones.clear();
     m_time.reset();
     m_next.reset();
     m_wanted.reset();
 }
 
-void Prefetcher::move(const SceneDataSet& data, double solutionTime) {
+void Prefetcher::followTime(const SceneDataSet& data, double solutionTime) {
     const std::optional<double> before = std::exchange(m_time, solutionTime);
     if (before && *before != solutionTime) {
         m_next =

@@ -1,4 +1,4 @@
-// In which direction solution time moves, and what comes next.
+// Prefetches the geometry of the next solution time of a frame.
 #pragma once
 
 #include "host/scene/ahead/PreparedGeometry.h"
@@ -9,24 +9,25 @@
 
 namespace corvane::scene {
 
-/// Follows what one frame shows, and has what comes next built ahead.
+/// Follows the solution times that one frame shows, and has the geometry of the next one built in
+/// the background.
 class Prefetcher {
 public:
     explicit Prefetcher(PreparedGeometry& geometry) : m_geometry(geometry) {}
 
-    /// To be called before content is shown: what is built ahead must not use the same meshes.
-    void arrive(const PictureContent& content);
-    /// To be called when content is shown: has built what is next in the direction of the last
-    /// move of time. Nothing before the first move.
-    void lookAhead(const host::FrameStyle& style, std::shared_ptr<const SceneDataSet> data,
-                   double solutionTime, const PictureContent& shown);
-    /// Forgets all.
-    void leave();
+    /// To be called before content is shown: stops background work that uses the same meshes.
+    void beforeShowing(const PictureContent& content);
+    /// To be called after content was shown: prefetches the next time in the direction in which
+    /// time last moved. Does nothing before time has moved.
+    void prefetch(const host::FrameStyle& style, std::shared_ptr<const SceneDataSet> data,
+                  double solutionTime, const PictureContent& shown);
+    /// Stops, and forgets everything. To be called before other data are shown.
+    void reset();
 
 private:
-    void move(const SceneDataSet& data, double solutionTime);
+    void followTime(const SceneDataSet& data, double solutionTime);
 
-    /// What the content that was asked for depends on.
+    /// What the prefetched geometry depends on.
     struct Wanted {
         std::vector<Recipe> plots;
         std::optional<StreamRequest> streams;
@@ -35,10 +36,10 @@ private:
     };
 
     PreparedGeometry& m_geometry;
-    std::vector<int> m_zones;     ///< that are shown
-    std::optional<double> m_time; ///< that is shown
-    std::optional<double> m_next;
-    std::optional<Wanted> m_wanted;
+    std::vector<int> m_zones;       ///< currently shown
+    std::optional<double> m_time;   ///< currently shown
+    std::optional<double> m_next;   ///< the time to prefetch
+    std::optional<Wanted> m_wanted; ///< already requested
 };
 
 } // namespace corvane::scene

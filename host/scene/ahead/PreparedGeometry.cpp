@@ -29,7 +29,7 @@ bool hasAnyOf(const std::vector<MeshId>& meshes, const std::vector<MeshId>& othe
 
 } // namespace
 
-// Plots, traces and tubes share the budget evenly enough for each to hold many steps.
+// Each of the three caches gets enough of the budget to hold many time steps.
 PreparedGeometry::PreparedGeometry(std::size_t budget, std::shared_ptr<SceneStatistics> statistics)
     : m_statistics(std::move(statistics)),
       m_plots(budget / 2, bytesOf),
@@ -69,7 +69,7 @@ void PreparedGeometry::prepare(const void* owner, std::shared_ptr<const SceneDat
     m_ahead.start(owner, std::move(steps));
 }
 
-void PreparedGeometry::makeWay(const void* owner) {
+void PreparedGeometry::cancel(const void* owner) {
     m_ahead.start(owner, {});
     const std::lock_guard wait(m_ahead.meshMutex());
 }

@@ -1,4 +1,4 @@
-// The polygons of plots: built once, kept while there is room, and built ahead.
+// The cached polygons of plots, which can be built ahead of time.
 #pragma once
 
 #include "host/scene/ahead/ReadAhead.h"
@@ -14,8 +14,8 @@
 
 namespace corvane::scene {
 
-/// Belongs to the thread that draws. What it builds ahead is built on a thread of its own, from
-/// meshes that nothing else uses meanwhile.
+/// Used by the drawing thread only. Prefetched geometry is built on a worker thread, from meshes
+/// that nothing else uses at that moment.
 class PreparedGeometry {
 public:
     using Polygons = vtkSmartPointer<vtkPolyData>;
@@ -24,25 +24,25 @@ public:
         Polygons tubes; ///< null where lines are wanted
     };
 
-    /// budget: bytes of polygons that are kept.
+    /// budget: the size of the caches in bytes.
     PreparedGeometry(std::size_t budget, std::shared_ptr<SceneStatistics> statistics);
 
-    /// What is not at hand is built from the data's meshes, which are read where they must be.
-    /// Throws host::HostError.
+    /// From the cache, or else built from the data's meshes, which are read if necessary. Throws
+    /// host::HostError.
     Polygons plot(const PlotRequest& request, const SceneDataSet& data);
     Streams streams(const StreamRequest& request, const SceneDataSet& data);
 
-    /// Builds ahead, in place of what the same owner had wanted before, all but what needs meshes
-    /// of the content that is shown.
+    /// Builds the geometry of next in the background, except for what needs a mesh of the content
+    /// that is shown. Replaces what the same owner requested before.
     void prepare(const void* owner, std::shared_ptr<const SceneDataSet> data,
                  const PictureContent& next, const PictureContent& shown);
-    /// Returns when nothing is being built for this owner; what waits is dropped. Needed before
-    /// other content is shown.
-    void makeWay(const void* owner);
-    /// Returns when all has been built that was wanted.
+    /// Drops what is queued for this owner, and waits for the step that is running. To be called
+    /// before other content is shown.
+    void cancel(const void* owner);
+    /// Waits until everything requested has been built.
     void wait() { m_ahead.wait(); }
 
-    void forget(long dataSet); ///< its id: MeshId::dataSet
+    void forget(long dataSet); ///< removes its geometry from the caches; see MeshId::dataSet
 
 private:
     Polygons build(const PlotRequest& request, const SceneDataSet& data);
@@ -56,7 +56,7 @@ private:
     SharedCache<Recipe, Polygons> m_plots;
     SharedCache<StreamRecipe, Polygons> m_traces;
     SharedCache<TubeKey, Polygons> m_tubes;
-    ReadAhead m_ahead; ///< last, since its thread uses the others
+    ReadAhead m_ahead; ///< declared last: its thread uses the members above
 };
 
 } // namespace corvane::scene

@@ -1,4 +1,4 @@
-// Prepares what will be needed next, while the picture of now is drawn.
+// A worker thread that prepares the next pictures while the current one is drawn.
 #pragma once
 
 #include <condition_variable>
@@ -10,22 +10,22 @@
 
 namespace corvane::scene {
 
-/// One worker thread. Meshes and the filters over them are used by one thread at a time: who does
-/// so holds meshMutex(), as the worker does for each step of its work.
+/// Meshes and the filters that read them may be used by one thread at a time only: whoever uses
+/// them holds meshMutex(), as the worker does during each step.
 class ReadAhead {
 public:
     using Steps = std::vector<std::function<void()>>;
 
     ReadAhead() = default;
-    ~ReadAhead(); ///< waits for the step that runs, and drops the others
+    ~ReadAhead(); ///< waits for the running step, and drops the others
     ReadAhead(const ReadAhead&) = delete;
     ReadAhead& operator=(const ReadAhead&) = delete;
 
-    /// Runs the steps in order on the worker, in place of those of the same owner that still wait.
-    /// What a step throws ends the work of its owner and is dropped: whoever needs the thing later
-    /// meets the failure again.
+    /// Runs the steps in order on the worker, in place of queued steps of the same owner. When a
+    /// step throws, the exception is ignored and the owner's remaining steps are dropped: whoever
+    /// needs the result later runs into the failure again, and reports it.
     void start(const void* owner, Steps steps);
-    /// Returns when nothing runs and nothing waits.
+    /// Waits until no step is running or queued.
     void wait();
 
     std::mutex& meshMutex() { return m_meshes; }
@@ -38,7 +38,7 @@ private:
     };
 
     void work();
-    /// Takes the next step; empty when the worker must end.
+    /// Waits for the next step; empty when the worker is to end.
     std::function<void()> nextStep();
     void giveUp(const void* owner);
 
@@ -46,10 +46,10 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::list<Work> m_waiting;
-    const void* m_owner = nullptr; ///< of the step that runs
+    const void* m_owner = nullptr; ///< of the running step
     bool m_isRunning = false;
     bool m_mustEnd = false;
-    std::thread m_thread; ///< started by the first work
+    std::thread m_thread; ///< started on first use
 };
 
 } // namespace corvane::scene

@@ -1,4 +1,4 @@
-// The background of a frame, and the colours that can be read on it.
+// The background of a frame, and colours that are readable on it.
 #pragma once
 
 #include "host/core/page/FrameStyle.h"
@@ -8,10 +8,10 @@
 
 namespace corvane::scene {
 
-/// The colour itself at the bottom of the frame, and a little deeper toward its top.
+/// A gradient from the colour at the bottom of the frame to a slightly hazy one at the top.
 void setBackground(vtkRenderer& renderer, const host::Color& color, const FrameArea& area);
 
 host::Color textColorOn(const host::Color& background); ///< nearly black, or white
-host::Color lineColorOn(const host::Color& background); ///< less strong than text
+host::Color lineColorOn(const host::Color& background); ///< of less contrast than text
 
 } // namespace corvane::scene

@@ -1,4 +1,4 @@
-// Coloured rectangles over a picture.
+// Coloured rectangles on top of a picture.
 #pragma once
 
 #include "host/core/page/FrameStyle.h"
@@ -13,13 +13,13 @@
 
 namespace corvane::scene {
 
-/// They must not overlap, since they all lie at one depth. Their edges are not blended.
+/// They must not overlap, since all have the same depth. Their edges are not antialiased.
 class FlatQuads {
 public:
     FlatQuads();
 
     void clear();
-    /// Pixels in the visible part of the frame.
+    /// In pixels of the visible part of the frame.
     void add(double left, double bottom, double right, double top, const host::Color& color);
     void finish(); ///< after the last add()
 

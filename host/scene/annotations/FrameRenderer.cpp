@@ -11,7 +11,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Each layer costs one more drawing of what can be seen through; peeling ends when none is left.
+/// Each layer draws the translucent geometry once more; peeling ends early when no layer is left.
 constexpr int mostLayers = 16;
 
 } // namespace
@@ -26,14 +26,14 @@ FrameRenderer::FrameRenderer() {
 
 void FrameRenderer::ReleaseGraphicsResources(vtkWindow* window) {
     vtkOpenGLRenderer::ReleaseGraphicsResources(window);
-    // VTK's pass would draw on into the textures that it has just freed.
+    // VTK's pass would go on drawing into the textures that it has just freed.
     DepthPeelingPass->Delete();
     makePeelingPass();
 }
 
 int FrameRenderer::UpdateLights() {
-    // Frames share the programs of the graphics card, which get lights only when these are younger
-    // than those of the frame before.
+    // Frames share shader programs, and VTK uploads lights to a program only when they were
+    // modified after those uploaded last.
     vtkLightCollection* const lights = GetLights();
     lights->InitTraversal();
     while (vtkLight* const light = lights->GetNextItem()) {

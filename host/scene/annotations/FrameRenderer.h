@@ -1,12 +1,12 @@
-// VTK's renderer, with see-through surfaces in the right order, and lights of its own.
+// VTK's renderer with correctly ordered translucent surfaces, and with lights of its own.
 #pragma once
 
 #include <vtkOpenGLRenderer.h>
 
 namespace corvane::scene {
 
-/// Peels see-through surfaces layer by layer, from the viewer on. VTK would peel from both sides
-/// at once, which loses the layers from the far side on Mesa's software rasteriser.
+/// Peels translucent surfaces layer by layer from front to back. VTK's dual depth peeling works
+/// from both sides at once, and loses the layers of the far side on Mesa's software rasterizer.
 class FrameRenderer : public vtkOpenGLRenderer {
 public:
     static FrameRenderer* New();

@@ -1,4 +1,4 @@
-// The little axis cross in the corner of a frame.
+// The small orientation axis in the corner of a frame.
 #pragma once
 
 #include "host/core/page/View3D.h"
@@ -13,8 +13,8 @@
 
 namespace corvane::scene {
 
-/// Drawn over the frame by a renderer of its own, with its own light: it turns with the view and
-/// never fades.
+/// Drawn on top of the frame by a renderer and with a light of its own: it turns with the view, and
+/// stays bright when the light of the frame is dimmed.
 class OrientationAxis {
 public:
     OrientationAxis();

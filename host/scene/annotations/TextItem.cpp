@@ -10,7 +10,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// One pixel a point: see EglRenderWindow.
+/// One point is one pixel: see EglRenderWindow.
 constexpr int dotsPerInch = 72;
 
 void setAppearance(vtkTextProperty& property, const TextAppearance& appearance) {

@@ -1,4 +1,4 @@
-// A line of text over a picture.
+// A line of text on top of a picture.
 #pragma once
 
 #include "host/core/page/FrameStyle.h"

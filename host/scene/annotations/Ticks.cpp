@@ -9,7 +9,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// The smallest of 1, 2, 5 times a power of ten that needs no more than the given count of steps.
+/// The smallest 1, 2 or 5 times a power of ten that divides the range into at most that many steps.
 double roundStep(double extent, int steps) {
     const double rough = extent / steps;
     const double power = std::pow(10.0, std::floor(std::log10(rough)));

@@ -12,7 +12,7 @@ struct Tick {
 };
 
 /// At most maximumCount (>= 2) round numbers, evenly spaced, from minimum to maximum, labelled with
-/// as many digits as tell them apart. A range without extent has its one number.
+/// as many digits as distinguish them. A range without extent has one number.
 std::vector<Tick> roundTicks(double minimum, double maximum, int maximumCount);
 
 } // namespace corvane::scene

@@ -7,8 +7,8 @@
 
 namespace corvane::scene {
 
-/// "t = 3.6", with as many decimals as the times of the data need, so that the text keeps its
-/// width while time passes.
+/// "t = 3.6", with as many decimals as the times of the data need, so that the width of the text
+/// does not change with time.
 std::string timeText(double time, const host::DataSet& data);
 
 } // namespace corvane::scene

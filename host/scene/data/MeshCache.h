@@ -1,4 +1,4 @@
-// Meshes that are read when they are needed, and kept while there is room.
+// The meshes of a data set: read on demand, and cached.
 #pragma once
 
 #include "host/scene/data/SceneStatistics.h"
@@ -11,14 +11,14 @@
 
 namespace corvane::scene {
 
-/// One readable state: a file, and which of its times.
+/// A file and one of its time steps.
 struct MeshSource {
     std::shared_ptr<const MeshFile> file;
     int step = 0;
 };
 
-/// Keeps the sources used last, up to a number of bytes; the one used last is kept however large
-/// it is. May be used from several threads.
+/// Keeps the most recently used meshes, up to a number of bytes; the latest is kept whatever its
+/// size. Thread-safe.
 class MeshCache {
 public:
     using Parts = std::shared_ptr<const std::vector<MeshPart>>;

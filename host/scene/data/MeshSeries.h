@@ -1,4 +1,4 @@
-// What a file given by the user holds: meshes through time, still unread.
+// The time series of meshes in files, before any mesh is read.
 #pragma once
 
 #include "host/scene/data/MeshCache.h"
@@ -10,16 +10,15 @@
 
 namespace corvane::scene {
 
-/// Meshes that belong together through time.
+/// One mesh, or group of meshes, over time.
 struct MeshSeries {
     std::string name;
     std::vector<double> times; ///< ascending, at least one
-    /// For each time an index into the sources; the same one where the same file is meant.
+    /// For each time an index into the sources; times that share a file and step share the index.
     std::vector<int> sourceOfTime;
 };
 
-/// Opens files and lists of files. Reads the lists, and of the files only what tells their kind
-/// and times.
+/// Opens files and lists of files. Of a file with meshes, only its format and times are read.
 class MeshSeriesList {
 public:
     /// Throws host::HostError.

@@ -1,4 +1,4 @@
-// A data set whose meshes are read when they are needed.
+// A data set whose meshes are read on demand.
 #pragma once
 
 #include "host/core/page/DataSet.h"
@@ -16,8 +16,8 @@
 
 namespace corvane::scene {
 
-/// Tells meshes apart without holding them: the same id means the same mesh, for the life of the
-/// program, even when it was read twice.
+/// Identifies a mesh without holding it: the same id means the same mesh, for the lifetime of the
+/// program, even if it is read again.
 struct MeshId {
     long dataSet = 0;
     int source = 0;
@@ -29,11 +29,11 @@ struct MeshId {
 
 class SceneDataSet : public host::DataSet {
 public:
-    /// Where a block's meshes come from: the index into the sources of the cache for each of its
-    /// zones, and the name of the part in them.
+    /// Where the meshes of a block come from: the part of this name, in a source of the cache for
+    /// each of its zones.
     struct BlockSource {
         std::string part;
-        std::vector<int> sourceOfZone; ///< in the order of the block's zones
+        std::vector<int> sourceOfZone; ///< indices, in the order of the block's zones
     };
 
     explicit SceneDataSet(std::shared_ptr<MeshCache> cache);
@@ -41,14 +41,14 @@ public:
     /// Adds a block and its zones, one for each of the times; a single time makes it static.
     void addBlock(host::Block block, const std::vector<double>& times, BlockSource source);
 
-    /// Sets the variables. Those without any finite value have the range 0..0.
+    /// Sets the variables. Those without any finite value get the range 0..0.
     void setVariables(std::vector<VariableRange> ranges);
-    /// The values that plots by this variable meet; 0..0 when there is no such variable.
+    /// The range of values of the variable; 0..0 when there is no such variable.
     ValueRange rangeOf(const VariableRef& variable) const;
 
     long id() const { return m_id; } ///< MeshId::dataSet of its meshes
     MeshId meshId(int zone) const;   ///< zone: index into zones
-    /// Reads the mesh if it is not at hand. Null when the file holds no such part at that time.
+    /// Reads the mesh if it is not cached. Null when the file has no such part at that time.
     /// Throws host::HostError.
     vtkSmartPointer<vtkDataSet> mesh(int zone) const;
 

@@ -1,4 +1,4 @@
-// Things that are costly to make: made once, shared, and kept while there is room.
+// A thread-safe cache of values that are expensive to make.
 #pragma once
 
 #include <condition_variable>
@@ -12,20 +12,20 @@
 
 namespace corvane::scene {
 
-/// Keeps the values used last, up to a number of bytes; the one used last is kept however large it
-/// is. Keys are ordered by <. May be used from several threads.
+/// Keeps the most recently used values, up to a number of bytes; the latest is kept whatever its
+/// size. Keys are ordered by <.
 template <class Key, class Value>
 class SharedCache {
 public:
     using Maker = std::function<Value()>;
     using Measure = std::function<std::size_t(const Value&)>;
 
-    /// budget in bytes; bytesOf measures a value once, when it is made.
+    /// budget: in bytes. bytesOf measures a value once, when it is made.
     SharedCache(std::size_t budget, Measure bytesOf)
         : m_budget(budget), m_bytesOf(std::move(bytesOf)) {}
 
-    /// The value of the key, made when it is not at hand: by one thread, while others that ask for
-    /// the same wait. What make() throws is passed on, and the next one to ask tries again.
+    /// The value of the key, made if it is not cached: by one thread, while others that ask for the
+    /// same key wait. What make() throws is passed on, and the next to ask tries again.
     Value get(const Key& key, const Maker& make) {
         std::unique_lock lock(m_mutex);
         m_made.wait(lock, [&] { return m_making.count(key) == 0; });
@@ -47,7 +47,7 @@ public:
         return m_entries.count(key) > 0;
     }
 
-    /// Forgets the values whose keys are like this.
+    /// Removes the values whose keys satisfy the predicate.
     template <class IsLikeThis>
     void forget(const IsLikeThis& isLikeThis) {
         const std::lock_guard lock(m_mutex);
@@ -66,7 +66,7 @@ private:
         typename std::list<Key>::iterator use;
     };
 
-    /// Marks a key as being made, until it is made or cannot be.
+    /// Marks a key as being made, until that has succeeded or failed.
     class Making {
     public:
         Making(SharedCache& cache, std::unique_lock<std::mutex>& lock, const Key& key)
@@ -103,7 +103,7 @@ private:
         const auto use = found->second.use;
         m_bytes -= found->second.bytes;
         m_entries.erase(found);
-        m_uses.erase(use); // last, since the key may be the one that stands here
+        m_uses.erase(use); // last, since key may refer to this element
     }
 
     const std::size_t m_budget;
@@ -113,7 +113,7 @@ private:
     std::condition_variable m_made;
     std::set<Key> m_making;
     std::map<Key, Entry> m_entries;
-    std::list<Key> m_uses; ///< the one used last comes first
+    std::list<Key> m_uses; ///< the most recent one first
     std::size_t m_bytes = 0;
 };
 

@@ -15,7 +15,7 @@ namespace {
 bool isVariable(const vtkDataArray& array, const char* name) {
     const int components = array.GetNumberOfComponents();
     const bool hasName = name != nullptr && *name != '\0';
-    // Names like "vtkGhostType" mark VTK's bookkeeping.
+    // Arrays such as "vtkGhostType" are VTK's own bookkeeping.
     return hasName && (components == 1 || components == 3) && !std::string(name).starts_with("vtk");
 }
 
@@ -27,7 +27,7 @@ void addValues(ValueRange& range, vtkDataArray& array, int component) {
         return;
     }
     array.GetFiniteRange(values.data(), component);
-    // Without a finite value VTK gives an inverted range.
+    // VTK returns an inverted range when there is no finite value.
     if (values[0] > values[1]) {
         return;
     }

@@ -11,7 +11,7 @@
 
 namespace corvane::scene {
 
-/// Smallest and largest of some values; the smallest is above the largest before any was added.
+/// The smallest and the largest value; inverted while empty.
 struct ValueRange {
     double minimum = std::numeric_limits<double>::infinity();
     double maximum = -std::numeric_limits<double>::infinity();
@@ -20,7 +20,7 @@ struct ValueRange {
     friend bool operator==(const ValueRange&, const ValueRange&) = default;
 };
 
-/// Of a variable: of the scalar itself or the length of the vector, and of a vector's components.
+/// The ranges of a variable: of a scalar or the magnitude of a vector, and of its components.
 struct VariableRange {
     std::string name;
     int components = 1;
@@ -28,9 +28,8 @@ struct VariableRange {
     std::array<ValueRange, 3> ofComponents;
 };
 
-/// Scalars and vectors of the points and the cells, in the order in which they are met first,
-/// without the normals of surfaces. Of arrays with the same name but another number of components
-/// the first one counts.
+/// Collects the scalars and vectors of points and cells in order of first appearance, except for
+/// surface normals. When arrays of one name differ in the number of components, the first counts.
 class VariableRanges {
 public:
     void add(vtkDataSet& mesh);

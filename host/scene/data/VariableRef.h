@@ -1,4 +1,4 @@
-// What a style's variable name means in a mesh.
+// The array and component that a variable name of a style refers to.
 #pragma once
 
 #include "host/core/page/DataSet.h"
@@ -10,7 +10,7 @@ namespace corvane::scene {
 /// An array, or one component of a vector ("U:X").
 struct VariableRef {
     std::string array;
-    int component = -1; ///< 0..2, or -1: the scalar itself, the length of a vector
+    int component = -1; ///< 0..2, or -1: the scalar, or the magnitude of a vector
 
     friend bool operator==(const VariableRef&, const VariableRef&) = default;
 };

@@ -20,8 +20,8 @@ namespace {
 
 using Name = std::array<char, 33>;
 
-/// A look into the file with the CGNS library itself. VTK's reader ends the program when it meets
-/// something odd in a file, so that this has to find it first; and it offers only the variables of
+/// Inspects the file with the CGNS library itself: VTK's reader ends the program when it meets
+/// something unexpected, so this has to find it first; and that reader lists only the variables of
 /// the first zone.
 class CgnsContents {
 public:
@@ -36,7 +36,7 @@ public:
     CgnsContents(const CgnsContents&) = delete;
     CgnsContents& operator=(const CgnsContents&) = delete;
 
-    /// Of all solutions, and of the vectors that VTK makes of three of them.
+    /// Of all solutions, and the vectors that VTK combines from three of them.
     std::set<std::string> variables() const {
         std::set<std::string> names;
         for (int base = 1; base <= count(cg_nbases); ++base) {

@@ -24,7 +24,7 @@ vtkSmartPointer<vtkAlgorithm> ExodusFile::openReader() const {
 
 std::vector<MeshPart> ExodusFile::partsOf(vtkAlgorithm& reader) const {
     auto* const kinds = vtkMultiBlockDataSet::SafeDownCast(reader.GetOutputDataObject(0));
-    // Element blocks come first; the others are faces, edges and sets of them, which are not read.
+    // Element blocks come first, then faces, edges and sets, which are not read.
     const bool hasBlocks = kinds != nullptr && kinds->GetNumberOfBlocks() > 0;
     return hasBlocks ? meshParts(kinds->GetBlock(0)) : std::vector<MeshPart>{};
 }

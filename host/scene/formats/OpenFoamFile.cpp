@@ -30,7 +30,7 @@ std::ptrdiff_t countTimes(const fs::path& folder) {
     return std::count_if(begin(entries), end(entries), isTimeFolder);
 }
 
-/// Groups of patches are left out, since all their patches are parts already.
+/// Leaves out groups of patches, since each of their patches is a part of its own.
 void selectPatches(vtkOpenFOAMReader& reader) {
     for (int i = 0; i < reader.GetNumberOfPatchArrays(); ++i) {
         const std::string name = reader.GetPatchArrayName(i);
@@ -40,7 +40,7 @@ void selectPatches(vtkOpenFOAMReader& reader) {
     }
 }
 
-/// VTK puts patches into a block of their own.
+/// VTK puts patches into a block named "boundary".
 std::string withoutBoundary(std::string name) {
     constexpr std::string_view boundary = "boundary/";
     const auto at = name.find(boundary);
@@ -50,7 +50,7 @@ std::string withoutBoundary(std::string name) {
     return name;
 }
 
-/// What the points have too is not needed twice.
+/// Arrays that the points have are not needed on the cells.
 void dropCellCopies(vtkDataSet& mesh) {
     vtkCellData& cells = *mesh.GetCellData();
     for (int i = cells.GetNumberOfArrays() - 1; i >= 0; --i) {
@@ -79,7 +79,7 @@ vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
                                   : vtkPOpenFOAMReader::RECONSTRUCTED_CASE);
     reader->SkipZeroTimeOff();
     reader->CreateCellToPointOn();
-    // VTK cuts whole polyhedra better than the pieces, whose extra points bend isosurfaces.
+    // The extra points of decomposed polyhedra would bend isosurfaces.
     reader->DecomposePolyhedraOff();
     reader->UpdateInformation();
     selectPatches(*reader);
@@ -95,7 +95,7 @@ std::vector<MeshPart> OpenFoamFile::partsOf(vtkAlgorithm& reader) const {
     return parts;
 }
 
-/// The fields of time 0 are written by hand, with directives that only OpenFOAM understands.
+/// The fields of time 0 are often written by hand, with directives that only OpenFOAM understands.
 bool OpenFoamFile::mayMissVariables(double time) const {
     return time == 0.0;
 }

@@ -5,12 +5,13 @@
 
 namespace corvane::scene {
 
-/// The folder around the named file is the case; the file itself marks it and is empty as a rule.
+/// The folder that contains the file is the case; the file itself only marks it, and is usually
+/// empty.
 /// Parts are "internalMesh" and the patches under their names, with the region before them
-/// ("solid/wall") in cases of several regions. Values of cells are carried to the points.
+/// ("solid/wall") in cases of several regions. Values of cells are converted to points.
 ///
-/// A case that was divided for a parallel run is read from its processor folders when there are
-/// more times in them.
+/// A case that was decomposed for a parallel run is read from its processor folders if they contain
+/// more times.
 class OpenFoamFile final : public TimedMeshFile {
 public:
     using TimedMeshFile::TimedMeshFile;

@@ -15,7 +15,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Those of images have no points, and whole files may be large.
+/// Looks at the start only, since files that are not parallel may be large.
 bool isParallelWithPoints(const std::string& path) {
     std::array<char, 1024> bytes{};
     std::ifstream stream(path, std::ios::binary);

@@ -83,7 +83,7 @@ void checkFilesExist(const std::vector<PvdPart>& parts) {
     throw ReadFailure("it names " + firstMissing + ", which does not exist" + others);
 }
 
-/// By time; a time that is listed twice counts as it was listed last.
+/// By time; of several entries for one time, the last counts.
 void sortSteps(std::vector<PvdPart::Step>& steps) {
     std::stable_sort(steps.begin(), steps.end(),
                      [](const auto& a, const auto& b) { return a.time < b.time; });

@@ -1,4 +1,4 @@
-// Lists of files through time (.pvd).
+// Lists of files over time (.pvd).
 #pragma once
 
 #include <string>
@@ -6,18 +6,18 @@
 
 namespace corvane::scene {
 
-/// One part of the data through time.
+/// One part of the data over time.
 struct PvdPart {
     struct Step {
         double time = 0.0;
-        std::string path; ///< exists; relative names were taken from the list's folder
+        std::string path; ///< of an existing file; resolved relative to the list
     };
     std::string name;
-    std::vector<Step> steps; ///< by ascending time, one for each time
+    std::vector<Step> steps; ///< ascending, one for each time
 };
 
-/// Reads the list, not the files in it. Throws host::HostError when it cannot be read, is empty, or
-/// names a file that does not exist.
+/// Reads the list, not the files in it. Throws host::HostError, also when the list is empty or a
+/// file in it does not exist.
 std::vector<PvdPart> readPvd(const std::string& path);
 
 } // namespace corvane::scene

@@ -10,7 +10,7 @@ vtkSmartPointer<vtkPolyData> buildGeometry(const Recipe& recipe, vtkDataSet* mes
     if (mesh == nullptr) {
         return vtkSmartPointer<vtkPolyData>::New();
     }
-    // What a filter makes of odd cells is drawn as it is; it must not reach the terminal.
+    // Filters may complain about odd cells: what they produce is drawn, and nothing is printed.
     const VtkMessages silenced;
     switch (recipe.kind) {
     case Recipe::Kind::Surface:

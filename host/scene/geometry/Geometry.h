@@ -14,7 +14,7 @@ namespace corvane::scene {
 
 struct SceneStatistics;
 
-/// All that the polygons of one plot in one block depend on: equal recipes give equal polygons.
+/// Everything that the polygons of one plot of one block depend on: equal recipes, equal polygons.
 struct Recipe {
     enum class Kind { Surface, Slice, IsoSurface };
 
@@ -28,8 +28,8 @@ struct Recipe {
     friend auto operator<=>(const Recipe&, const Recipe&) = default;
 };
 
-/// With normals, and with the arrays of the mesh. Empty when the plot meets nothing. Null is a
-/// mesh that is not there.
+/// With normals, and with the arrays of the mesh. Empty when the plot does not meet the mesh, and
+/// when the mesh is null.
 vtkSmartPointer<vtkPolyData> buildGeometry(const Recipe& recipe, vtkDataSet* mesh,
                                            SceneStatistics& statistics);
 

@@ -101,7 +101,7 @@ vtkSmartPointer<vtkPolyData> isoSurfaceOf(vtkDataSet& mesh, const std::string& v
         return vtkSmartPointer<vtkPolyData>::New();
     }
 
-    // The fast ways do not carry cell arrays along, which plots may be coloured by.
+    // The fast algorithms drop cell arrays, which plots may be coloured by.
     const bool hasCellArrays = copy->GetCellData()->GetNumberOfArrays() > 0;
     vtkSmartPointer<vtkPolyData> surface;
     if (!hasCellArrays && vtkContour3DLinearGrid::CanFullyProcessDataObject(copy, isoArrayName)) {

@@ -4,7 +4,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Radius of streamtubes that the style leaves open, as a part of the diagonal of the data.
+/// Default radius of streamtubes, relative to the diagonal of the data.
 constexpr double tubeRadiusPart = 0.0025;
 
 void addSurface(PictureContent& content, const host::FrameStyle& style, const MeshId& mesh,

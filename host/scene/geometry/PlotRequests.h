@@ -1,4 +1,4 @@
-// What a frame asks to be drawn of its data.
+// What is to be drawn of the data of a frame.
 #pragma once
 
 #include "host/core/page/Frame.h"
@@ -12,7 +12,7 @@
 
 namespace corvane::scene {
 
-/// One plot in one block.
+/// One plot of one block.
 struct PlotRequest {
     int zone = 0;   ///< index into the zones of the data
     int number = 0; ///< of the slice or isosurface, from 0
@@ -30,7 +30,7 @@ struct StreamRequest {
     friend bool operator==(const StreamRequest&, const StreamRequest&) = default;
 };
 
-/// All that is shown at one solution time.
+/// Everything that is shown at one solution time.
 struct PictureContent {
     std::vector<int> zones;
     std::vector<PlotRequest> plots;

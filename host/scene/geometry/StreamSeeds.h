@@ -21,7 +21,7 @@ struct StreamSeeds {
     int count = 0;
 
     friend bool operator==(const StreamSeeds&, const StreamSeeds&) = default;
-    /// Some order, for maps.
+    /// Any order, for maps.
     auto key() const {
         return std::tie(kind, start.x, start.y, start.z, end.x, end.y, end.z, corner.x, corner.y,
                         corner.z, points, count);
@@ -31,7 +31,7 @@ struct StreamSeeds {
 
 StreamSeeds streamSeeds(const host::StreamtraceStyle& style);
 
-/// Points without cells. None for a list of points that cannot be understood.
+/// Points without cells. None when the list of points cannot be parsed.
 vtkSmartPointer<vtkPolyData> placeSeeds(const StreamSeeds& seeds);
 
 } // namespace corvane::scene

@@ -23,9 +23,9 @@ namespace {
 
 using Meshes = std::vector<vtkSmartPointer<vtkDataSet>>;
 
-/// A trace ends after this many times the diagonal of the data: vortices would keep it for ever.
+/// Maximum length of a trace, in diagonals of the data: a trace in a vortex would never end.
 constexpr double longestTrace = 4.0;
-/// Steps are parts of a cell. A trace ends less than one of them before the boundary of the data.
+/// Step size, in cells. A trace ends less than one step before the boundary of the data.
 constexpr double step = 0.1;
 constexpr int mostSteps = 20000;
 
@@ -52,7 +52,7 @@ bool haveAll(const Meshes& meshes, vtkDataArray& array) {
     });
 }
 
-/// The tracer keeps arrays on its way only where all blocks have the same ones.
+/// The tracer interpolates only arrays that all blocks have.
 vtkSmartPointer<vtkMultiBlockDataSet> blocksWithCommonArrays(const Meshes& meshes) {
     const auto blocks = vtkSmartPointer<vtkMultiBlockDataSet>::New();
     vtkPointData& first = *meshes.front()->GetPointData();
@@ -85,7 +85,7 @@ bool isFinite(const std::array<double, 3>& point) {
     return std::all_of(point.begin(), point.end(), [](double x) { return std::isfinite(x); });
 }
 
-/// Where the flow stands still the tracer may stay at one point, which no tube can follow.
+/// Where the flow stagnates the tracer may repeat a point, which breaks tubes.
 vtkSmartPointer<vtkPolyData> withoutRepeatedPoints(vtkPolyData& traces) {
     const vtkNew<vtkCellArray> lines;
     const auto line = vtk::TakeSmartPointer(traces.GetLines()->NewIterator());
@@ -109,7 +109,7 @@ vtkSmartPointer<vtkPolyData> withoutRepeatedPoints(vtkPolyData& traces) {
             lines->InsertNextCell(static_cast<vtkIdType>(kept.size()), kept.data());
         }
     }
-    // Values of whole lines, such as the reason of their end, no longer fit.
+    // Cell arrays, such as the reason for termination, no longer match the lines.
     traces.GetCellData()->Initialize();
     traces.SetLines(lines);
     const vtkNew<vtkCleanPolyData> unused;
@@ -137,7 +137,7 @@ vtkSmartPointer<vtkPolyData> traceStreams(const StreamRecipe& recipe,
     tracer->SetSourceData(seeds);
     tracer->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_POINTS,
                                    recipe.variable.c_str());
-    // The style counts from 1 in the order of VTK, which counts from 0.
+    // The style has the same order as VTK, but counts from 1.
     tracer->SetIntegrationDirection(recipe.direction - 1);
     tracer->SetIntegratorTypeToRungeKutta45();
     tracer->SetIntegrationStepUnit(vtkStreamTracer::CELL_LENGTH_UNIT);

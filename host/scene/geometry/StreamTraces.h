@@ -14,10 +14,10 @@
 
 namespace corvane::scene {
 
-/// The point array of traces that holds the time of travel from the seed, negative upstream.
+/// The point array of traces with the integration time from the seed; negative upstream.
 inline constexpr const char* integrationTimeName = "IntegrationTime";
 
-/// All that traces depend on: equal recipes give equal lines.
+/// Everything that traces depend on: equal recipes give equal lines.
 struct StreamRecipe {
     std::vector<MeshId> meshes;
     std::string variable;
@@ -25,7 +25,7 @@ struct StreamRecipe {
     int direction = 3;
 
     friend bool operator==(const StreamRecipe&, const StreamRecipe&) = default;
-    /// Some order, for maps.
+    /// Any order, for maps.
     friend bool operator<(const StreamRecipe& a, const StreamRecipe& b) {
         return std::tie(a.meshes, a.variable, a.seeds, a.direction) <
                std::tie(b.meshes, b.variable, b.seeds, b.direction);

@@ -14,10 +14,10 @@ using host::ViewBasis;
 
 namespace {
 
-/// The nearest thing drawn, as a part of the farthest, when the viewer is among the data: nearer
-/// planes would leave the depth buffer no precision.
+/// The smallest ratio of the near to the far clipping distance, for a viewer within the data: with
+/// less, the depth buffer would lose its precision.
 constexpr double nearestPart = 1e-3;
-/// Room on both sides, so that nothing lies in a clipping plane itself.
+/// Margin on both sides, so that nothing lies exactly in a clipping plane.
 constexpr double margin = 1e-3;
 
 struct DepthRange {
@@ -56,8 +56,8 @@ void setPerspective(vtkCamera& camera, const View3D& view, const ViewBasis& basi
     camera.SetClippingRange(nearest, farthest);
 }
 
-/// Without perspective everything along the line of sight is shown wherever the viewer stands, so
-/// that the camera may step back until all lies in front of it.
+/// In a parallel projection the position of the viewer along the line of sight does not matter, so
+/// the camera may step back until everything lies in front of it.
 void setOrthographic(vtkCamera& camera, const View3D& view, const ViewBasis& basis,
                      const Bounds& shown) {
     const DepthRange depths = depthRange(shown, view.position, basis.toViewer);
@@ -68,7 +68,7 @@ void setOrthographic(vtkCamera& camera, const View3D& view, const ViewBasis& bas
     camera.SetClippingRange(depth, 2.0 * depth);
 }
 
-/// The part of the frame that lies in the picture is a window into the frame's own picture.
+/// Shifts the projection so that the visible part of the frame fills the viewport.
 void setWindow(vtkCamera& camera, const View3D& view, const FrameArea& area) {
     const PixelRect& full = area.full;
     const PixelRect& visible = area.visible;

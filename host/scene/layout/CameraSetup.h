@@ -1,4 +1,4 @@
-// From the view of a frame to VTK's camera.
+// Sets up VTK's camera for the view of a frame.
 #pragma once
 
 #include "host/core/page/View3D.h"
@@ -8,8 +8,8 @@
 
 namespace corvane::scene {
 
-/// Shows exactly what the view says. The clipping planes enclose the box of what is shown; a viewer
-/// inside of it sees what is in front of him.
+/// The clipping planes enclose the bounding box of what is shown; a viewer inside it sees what lies
+/// ahead.
 void setCamera(vtkCamera& camera, const host::View3D& view, const FrameArea& area,
                const host::Bounds& shown);
 

@@ -15,7 +15,7 @@ void makeOpaque(std::vector<std::uint8_t>& rgba) {
     }
 }
 
-/// Adds up factor pixels of a drawn row for each pixel of the result.
+/// Adds factor pixels of a drawn row to each pixel of the result.
 void addRow(std::vector<std::uint32_t>& sums, const std::uint8_t* row, std::size_t factor) {
     for (std::size_t x = 0; x < sums.size() / channels; ++x) {
         for (std::size_t k = 0; k < factor; ++k, row += channels) {

@@ -1,4 +1,4 @@
-// From the pixels as they were drawn to the finished picture.
+// Averages supersampled pixels into the finished picture.
 #pragma once
 
 #include "host/core/ports/Picture.h"
@@ -7,8 +7,8 @@
 
 namespace corvane::scene {
 
-/// rgba: rows from the bottom, width * factor by height * factor pixels. Each pixel of the result
-/// is the mean of factor by factor pixels, opaque; rows from the top.
+/// rgba: width * factor by height * factor pixels, bottom row first. Each pixel of the result is
+/// the mean of factor by factor pixels, and opaque; the top row comes first.
 host::Picture finishPicture(const std::uint8_t* rgba, int width, int height, int factor);
 
 } // namespace corvane::scene

@@ -14,17 +14,17 @@ struct FrameInPicture {
     FrameArea area;
 };
 
-/// The frames that the picture shows, from the bottom of the stack up. The region of the current
-/// frame shows that frame alone, whatever lies over it.
+/// The frames in the picture, from the bottom of the stack up. The region of the current frame
+/// shows that frame only, even where others cover it.
 std::vector<FrameInPicture> framesInPicture(const host::Page& page,
                                             const host::PictureRequest& request);
 
-/// The frames that a part of the picture shows, with areas from the corner of that part.
+/// The frames in a tile of the picture, with areas relative to the corner of the tile.
 std::vector<FrameInPicture> framesInTile(const std::vector<FrameInPicture>& frames,
                                          const PixelRect& tile);
 
-/// Parts that make up the picture, none larger than the limit in either direction. Edges lie on
-/// whole pixels of the finished picture.
+/// Tiles that make up the picture, none larger than the limit in either direction. Their edges lie
+/// on whole pixels of the finished picture.
 std::vector<PixelRect> tilesOf(const host::PictureRequest& request, int largestSize);
 
 } // namespace corvane::scene

@@ -5,7 +5,7 @@
 
 namespace corvane::scene {
 
-/// Pixels of the picture as it is drawn, supersampling included; from the lower left corner up.
+/// In pixels as drawn, supersampling included; the origin is the lower left corner.
 struct PixelRect {
     int x = 0;
     int y = 0;
@@ -24,12 +24,12 @@ inline PixelRect intersection(const PixelRect& a, const PixelRect& b) {
             std::min(a.y + a.height, b.y + b.height) - y};
 }
 
-/// A frame may reach beyond the picture.
+/// A frame may extend beyond the picture.
 struct FrameArea {
     PixelRect full;    ///< the whole frame
-    PixelRect visible; ///< what of it lies in the picture, not empty
+    PixelRect visible; ///< the part of it inside the picture, not empty
 
-    /// From the visible part's corner to the frame's: what positions in the frame need.
+    /// From the corner of the visible part to that of the frame: added to positions in the frame.
     int offsetX() const { return full.x - visible.x; }
     int offsetY() const { return full.y - visible.y; }
 };

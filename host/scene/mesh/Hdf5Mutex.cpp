@@ -10,8 +10,8 @@ std::mutex& hdf5Mutex() {
 }
 
 void silenceHdf5() {
-    // What the library does at the end of the program serves files that were written, and writes to
-    // the terminal when a damaged one was read.
+    // The exit handler of the library flushes written files, which there are none of, and prints
+    // errors after a damaged file was read.
     static const bool isQuietAtExit = H5dont_atexit() >= 0;
     static_cast<void>(isQuietAtExit);
     H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);

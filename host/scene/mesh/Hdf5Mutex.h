@@ -1,15 +1,15 @@
-// The HDF5 library is used by one thread at a time.
+// Serializes the use of the HDF5 library.
 #pragma once
 
 #include <mutex>
 
 namespace corvane::scene {
 
-/// One for the whole program. HDF5, and netCDF above it, keep unguarded global state.
+/// To be held while HDF5 or netCDF, which builds on it, is used: both have unguarded global state.
 std::mutex& hdf5Mutex();
 
-/// Keeps HDF5 from writing about damaged files on the terminal, which has to be said on each
-/// thread. The caller holds hdf5Mutex().
+/// Stops HDF5 from printing errors about damaged files, for the calling thread only. The caller
+/// holds hdf5Mutex().
 void silenceHdf5();
 
 } // namespace corvane::scene

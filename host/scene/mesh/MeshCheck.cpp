@@ -18,7 +18,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// The points of each cell begin where those of the last one end, and the last ones are there.
+/// The offsets of the cells ascend from 0 and stay within the connectivity.
 bool hasOrder(vtkCellArray& cells) {
     vtkDataArray& offsets = *cells.GetOffsetsArray();
     const vtkIdType count = offsets.GetNumberOfTuples();
@@ -32,7 +32,7 @@ bool hasOrder(vtkCellArray& cells) {
                               static_cast<double>(cells.GetNumberOfConnectivityIds()));
 }
 
-/// Of kinds of cells with a certain number of points.
+/// Each cell is of a known type, and has the number of points of that type.
 bool hasSoundKinds(vtkUnstructuredGrid& grid) {
     const vtkIdType count = grid.GetNumberOfCells();
     if (count == 0) {
@@ -79,7 +79,7 @@ bool hasPoints(vtkCellArray* cells, vtkIdType pointCount) {
     return range[0] >= 0.0 && range[1] < static_cast<double>(pointCount);
 }
 
-/// Of a polyhedron, as VTK stores it: the number of faces, then for each face the number of its
+/// For a polyhedron as VTK stores it: the number of faces, then for each face the number of its
 /// points and their ids.
 bool hasPoints(const vtkIdTypeArray& faces, vtkIdType start, vtkIdType pointCount) {
     const vtkIdType size = faces.GetNumberOfValues();

@@ -1,4 +1,4 @@
-// Whether a mesh can be worked with.
+// Validates meshes.
 #pragma once
 
 #include <vtkDataSet.h>
@@ -6,7 +6,7 @@
 namespace corvane::scene {
 
 /// False when cells refer to points that the mesh does not have, or when an array has another
-/// number of values than the mesh has points or cells. Filters believe both without looking.
+/// number of values than the mesh has points or cells. Filters do not check either.
 bool isSound(vtkDataSet& mesh);
 
 } // namespace corvane::scene

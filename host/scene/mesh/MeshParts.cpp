@@ -15,7 +15,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Gathers the leaves of a tree of blocks under names that are unique.
+/// Collects the leaves of a tree of blocks under unique names.
 class PartCollector {
 public:
     void add(vtkDataObject* object, const std::string& name) {

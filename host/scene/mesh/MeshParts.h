@@ -7,8 +7,8 @@
 
 namespace corvane::scene {
 
-/// The object itself when it is a mesh, or the meshes in a tree of blocks, named after their
-/// branches ("engine/inlet"). What is no mesh, and meshes without points, are left out.
+/// The object itself if it is a mesh, or the meshes in a tree of blocks, named by their paths
+/// ("engine/inlet"). Meshes without points, and everything that is no mesh, are left out.
 std::vector<MeshPart> meshParts(vtkDataObject* object);
 
 /// The largest dimension of the cells: 3, 2, 1 or 0.

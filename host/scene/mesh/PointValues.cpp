@@ -12,7 +12,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Marks of single cells mean nothing between cells.
+/// Ghost marks of cells cannot be averaged.
 bool isCarried(vtkDataSet& mesh, const std::string& array) {
     return array != vtkDataSetAttributes::GhostArrayName() &&
            mesh.GetPointData()->HasArray(array.c_str()) == 0 &&

@@ -1,4 +1,4 @@
-// Values at the points of a mesh, wherever the file has them.
+// Converts values of cells to values of points.
 #pragma once
 
 #include <vtkDataSet.h>
@@ -8,10 +8,10 @@
 
 namespace corvane::scene {
 
-/// The mesh itself, or, when only its cells have the array, withAllPointValues().
+/// withAllPointValues() if only the cells have the array, else the mesh itself.
 vtkSmartPointer<vtkDataSet> withPointValues(vtkDataSet& mesh, const std::string& array);
 
-/// With each array that only the cells have carried to the points as well.
+/// The mesh with each array that only the cells have converted to the points, too.
 vtkSmartPointer<vtkDataSet> withAllPointValues(vtkDataSet& mesh);
 
 } // namespace corvane::scene

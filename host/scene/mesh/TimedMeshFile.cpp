@@ -67,7 +67,7 @@ void TimedMeshFile::goTo(vtkAlgorithm& reader, int step) const {
         return;
     }
     const double time = times()[static_cast<std::size_t>(step)];
-    // Readers take the nearest time, which is wrong when a step was deleted meanwhile.
+    // Readers take the nearest time, which is wrong if a step has been deleted since.
     const std::vector<double> now = timesOf(reader);
     if (!std::binary_search(now.begin(), now.end(), time)) {
         throw ReadFailure("the time " + text(time) + " is not there any more");

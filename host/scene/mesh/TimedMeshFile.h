@@ -1,4 +1,4 @@
-// Files of several times that one of VTK's readers reads.
+// Files of several times that are read with a reader of VTK.
 #pragma once
 
 #include "host/scene/mesh/MeshFile.h"
@@ -14,20 +14,20 @@ namespace corvane::scene {
 
 class VtkMessages;
 
-/// What all these readers have in common: the times, the exact choice of one of them, and errors of
-/// VTK that become ReadFailure. Each call has a reader of its own.
+/// Selects exact times, and turns errors that VTK reports into ReadFailure. Each call has a reader
+/// of its own.
 class TimedMeshFile : public MeshFile {
 public:
     using MeshFile::MeshFile;
 
 protected:
-    /// A reader that knows what the file holds, and is set to read all of it. Errors that it
-    /// reports to VTK are collected by the caller.
+    /// A reader that has read the file's information and is set to read all of it. The caller
+    /// collects the errors that it reports to VTK.
     virtual vtkSmartPointer<vtkAlgorithm> openReader() const = 0;
     virtual std::vector<MeshPart> partsOf(vtkAlgorithm& reader) const;
-    /// Whether variables that cannot be read at this time are simply missing there.
+    /// Whether variables that cannot be read at this time are left out.
     virtual bool mayMissVariables(double /*time*/) const { return false; }
-    /// Held while a reader lives. Null: readers can work side by side.
+    /// Held while a reader exists. Null: several readers can work at the same time.
     virtual std::mutex* libraryMutex() const { return nullptr; }
 
 private:

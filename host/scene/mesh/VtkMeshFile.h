@@ -1,4 +1,4 @@
-// Files that one of VTK's readers reads whole.
+// Files without times that are read with a reader of VTK.
 #pragma once
 
 #include "host/scene/mesh/MeshFile.h"
@@ -7,14 +7,13 @@
 
 namespace corvane::scene {
 
-/// What all these readers have in common: errors that VTK reports become ReadFailure, composite
-/// data become parts.
+/// Turns errors that VTK reports into ReadFailure, and composite data into parts.
 class VtkMeshFile : public MeshFile {
 public:
     using MeshFile::MeshFile;
 
 protected:
-    /// Runs the reader; errors that it reports to VTK are collected by the caller.
+    /// Runs the reader. The caller collects the errors that it reports to VTK.
     virtual vtkSmartPointer<vtkDataObject> readObject() const = 0;
     virtual bool areWarningsErrors() const { return false; }
 

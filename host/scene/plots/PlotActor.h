@@ -1,4 +1,4 @@
-// One plot in one block: polygons and the actor that draws them.
+// One plot of one block: polygons and the actor that draws them.
 #pragma once
 
 #include "host/scene/style/PlotAppearance.h"
@@ -15,7 +15,7 @@ class PlotActor {
 public:
     PlotActor();
 
-    /// Costs nothing for the polygons that it has.
+    /// Costs nothing when the polygons are the same as before.
     void setGeometry(const vtkSmartPointer<vtkPolyData>& geometry);
     /// Lines and points are never shaded.
     void setAppearance(PlotAppearance appearance, const ContourColors& colors,

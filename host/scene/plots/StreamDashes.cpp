@@ -27,7 +27,8 @@ void setUniforms(vtkActor& actor, double anchor, double frequency) {
 void prepareDashes(vtkActor& actor, vtkPolyDataMapper& mapper) {
     mapper.MapDataArrayToVertexAttribute(attributeName, integrationTimeName,
                                          vtkDataObject::FIELD_ASSOCIATION_POINTS, -1);
-    // Wide lines pass a geometry shader, for which VTK renames "VSOutput" in the fragment shader.
+    // Wide lines go through a geometry shader, for which VTK renames "VSOutput" in the fragment
+    // shader.
     vtkShaderProperty& shaders = *actor.GetShaderProperty();
     shaders.AddVertexShaderReplacement("//VTK::PositionVC::Dec", true,
                                        "//VTK::PositionVC::Dec\n"
@@ -61,7 +62,7 @@ void prepareDashes(vtkActor& actor, vtkPolyDataMapper& mapper) {
 }
 
 void setDashes(vtkActor& actor, double anchor, double interval) {
-    // Single precision on the graphics side: the anchor moves on without end, its phase does not.
+    // Shaders work in single precision: the anchor grows without limit, its phase does not.
     setUniforms(actor, std::fmod(anchor, interval), 1.0 / interval);
 }
 

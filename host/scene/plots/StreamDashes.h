@@ -6,8 +6,8 @@
 
 namespace corvane::scene {
 
-/// Readies the actor for dashes; once, before it is drawn first. The dashes are cut out while the
-/// traces are drawn, so that moving them costs a number and no geometry.
+/// Prepares the actor for dashes; to be called once, before it is first drawn. A shader cuts out
+/// the dashes, so that moving them changes a uniform and no geometry.
 void prepareDashes(vtkActor& actor, vtkPolyDataMapper& mapper);
 
 /// Shows the parts where the fraction of (t - anchor) / interval is below one half, with the

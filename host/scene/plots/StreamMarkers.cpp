@@ -29,7 +29,7 @@ void forEachLine(vtkPolyData& traces, const Function& function) {
     }
 }
 
-/// The interval between the markers that are set: a multiple of the one asked for.
+/// The interval that is used: a multiple of the one requested.
 double thinned(vtkPolyData& traces, vtkDataArray& times, double interval) {
     double total = 0.0;
     forEachLine(traces, [&](const vtkIdType* points, vtkIdType count) {
@@ -59,7 +59,7 @@ public:
     }
 
 private:
-    /// The later end is left to the next piece of the line.
+    /// The later end belongs to the next segment of the line.
     void addBetween(vtkIdType a, vtkIdType b) {
         const double timeA = m_times.GetTuple1(a);
         const double timeB = m_times.GetTuple1(b);
@@ -92,7 +92,7 @@ private:
     vtkPolyData& m_traces;
     vtkDataArray& m_times;
     double m_interval;
-    double m_anchor; ///< less than one interval from 0, where numbers are exact
+    double m_anchor; ///< less than one interval from 0, for precision
     vtkSmartPointer<vtkPolyData> m_markers = vtkSmartPointer<vtkPolyData>::New();
 };
 

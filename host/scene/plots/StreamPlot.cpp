@@ -32,7 +32,7 @@ void StreamPlot::hide() {
 
 void StreamPlot::setGeometry(const PreparedGeometry::Streams& streams) {
     const auto& drawn = streams.tubes ? streams.tubes : streams.traces;
-    if (m_drawn != drawn) { // VTK uploads anew whatever it is handed
+    if (m_drawn != drawn) { // VTK uploads whatever is set, even the same
         m_drawn = drawn;
         m_mapper->SetInputData(drawn);
     }
@@ -60,7 +60,7 @@ void StreamPlot::show(const host::FrameStyle& style, const ContourColors& colors
         return;
     }
     showMarkers(style.streamTiming, radius);
-    // In the plain colour they stand out against traces that are coloured by values.
+    // A plain colour stands out against traces that are coloured by a variable.
     appearance.isShaded = true;
     appearance.useContour = false;
     applyAppearance(*m_markerActor, *m_markerMapper, *m_markers, appearance, colors, style.light);

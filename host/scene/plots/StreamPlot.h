@@ -15,14 +15,14 @@
 
 namespace corvane::scene {
 
-/// Keeps what it was built from: a new anchor moves dashes and markers and builds nothing else.
+/// A new time anchor moves dashes and markers and rebuilds nothing else.
 class StreamPlot {
 public:
     explicit StreamPlot(vtkRenderer& renderer);
 
     void setGeometry(const PreparedGeometry::Streams& streams);
-    /// radius: that of tubes, > 0, data coordinates, which markers go by. lineWidth: pixels as
-    /// drawn.
+    /// radius: of tubes, > 0, in data coordinates; markers are sized relative to it. lineWidth: in
+    /// pixels as drawn.
     void show(const host::FrameStyle& style, const ContourColors& colors, double radius,
               double lineWidth);
     void hide();

@@ -23,8 +23,8 @@ struct ColorMap {
 };
 
 const std::vector<ColorMap>& colorMaps() {
-    // Viridis and Plasma rise evenly in lightness, so that grey prints and people who see fewer
-    // colours read them as well. Between their samples Lab keeps that property.
+    // The lightness of Viridis and Plasma rises uniformly, so that they are readable in greyscale
+    // and for colour-blind people. Interpolating in Lab preserves that.
     const static std::vector<ColorMap> maps{
         {"viridis",
          Blend::Lab,

@@ -18,7 +18,7 @@ public:
 
     const VariableRef& variable() const { return m_variable; }
     const ValueRange& range() const { return m_range; }
-    /// Knows range and component, stays the same object. Null before update().
+    /// With range and component set; always the same object. Null before update().
     vtkLookupTable* table() const { return m_table; }
 
 private:

@@ -15,11 +15,11 @@ struct PlotAppearance {
     host::Color color;
     double opacity = 1.0;
     bool showMesh = false;
-    bool isShaded = true;   ///< otherwise colours are those of the legend from wherever one looks
+    bool isShaded = true;   ///< unshaded colours equal those of the legend from any angle
     double lineWidth = 1.0; ///< pixels as drawn
 };
 
-/// Sets colours, material and light answer of an actor. Geometry tells which arrays there are.
+/// Sets colours and material of an actor. The geometry says which arrays there are.
 void applyAppearance(vtkActor& actor, vtkMapper& mapper, vtkPolyData& geometry,
                      const PlotAppearance& appearance, const ContourColors& colors,
                      const host::LightStyle& light);

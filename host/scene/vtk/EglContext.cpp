@@ -55,7 +55,7 @@ EGLConfig chooseConfig(EGLDisplay display) {
 } // namespace
 
 EglContext::EglContext() : m_display(openDisplay()) {
-    // The display is shared by the whole process, so it is never terminated.
+    // The whole process shares the display, so it is never terminated.
     if (eglBindAPI(EGL_OPENGL_API) != EGL_TRUE) {
         fail("eglBindAPI");
     }

@@ -18,15 +18,15 @@ EglRenderWindow::EglRenderWindow() {
     SetReadyForRendering(true);
     SetFrameBlitModeToNoBlit();
     SetMapped(1);
-    // Fonts then have the size in pixels that they are asked for.
+    // At this resolution a font of n points is n pixels high.
     SetDPI(72);
-    // Several samples a pixel cost more in software than drawing larger, and see-through surfaces
-    // are lost with them.
+    // With a software rasterizer multisampling costs more than supersampling, and it breaks
+    // translucent surfaces.
     SetMultiSamples(0);
 }
 
 EglRenderWindow::~EglRenderWindow() {
-    // The base classes release what VTK made in the context, but cannot make it current any more.
+    // The base classes release OpenGL resources, but can no longer make the context current.
     if (m_context != nullptr) {
         m_context->makeCurrent();
     }

@@ -1,4 +1,4 @@
-// VTK's drawing target on an OpenGL context of its own, without any display server.
+// VTK's render window on an offscreen OpenGL context, without any display server.
 #pragma once
 
 #include "host/scene/vtk/EglContext.h"
@@ -12,7 +12,7 @@ class EglRenderWindow : public vtkGenericOpenGLRenderWindow {
 public:
     static EglRenderWindow* New();
 
-    /// Readies VTK for the context, which must outlive the window. Call it first. Throws
+    /// Makes VTK use the context, which must outlive the window. To be called first. Throws
     /// host::HostError.
     void open(EglContext& context);
     /// The largest width or height, in pixels. After open().

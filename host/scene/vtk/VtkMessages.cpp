@@ -36,8 +36,8 @@ public:
 
 vtkStandardNewMacro(CollectingOutputWindow);
 
-/// "ERROR: In FILE, line N\nvtkClass (0x1234): the message\n\n", or without the class. Empty when
-/// the text tells of the failure alone and not of its reason.
+/// The message in "ERROR: In FILE, line N\nvtkClass (0x1234): the message\n\n", where the class may
+/// be missing. Empty when the text says that something failed, but not why.
 std::string withoutDecoration(std::string text) {
     if (text.find("returned failure for request") != std::string::npos) {
         return {};

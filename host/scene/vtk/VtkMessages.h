@@ -1,4 +1,4 @@
-// Collects what VTK would print.
+// Collects VTK's errors and warnings.
 #pragma once
 
 #include <string>
@@ -6,8 +6,9 @@
 
 namespace corvane::scene {
 
-/// While one lives, errors and warnings that VTK reports on its thread go here, to the innermost
-/// one. Without any they are dropped: VTK never writes to the terminal once one has been made.
+/// While an instance exists, it collects what VTK reports on the same thread; with several, the
+/// innermost one does. Without any, messages are dropped: once an instance has been created, VTK
+/// never writes to the terminal.
 class VtkMessages {
 public:
     VtkMessages();
@@ -18,8 +19,7 @@ public:
     bool hasErrors() const { return !m_errors.empty(); }
     bool hasWarnings() const { return !m_warnings.empty(); }
     /// The first error, else the first warning, without VTK's decoration (source file, line, class,
-    /// address), on one line and without a full stop. Without any that says something, a general
-    /// sentence.
+    /// address), on one line and without a full stop. A general reason when none is informative.
     std::string reason() const;
 
     void addError(const char* text) { m_errors.emplace_back(text); }

@@ -18,7 +18,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// Words with spaces are in double quotes.
+/// Words that contain spaces are in double quotes.
 Words wordsOf(const std::string& text) {
     std::istringstream stream(text);
     Words words;
@@ -36,7 +36,7 @@ bool parse(const std::string& word, Number& value) {
     return number.has_value();
 }
 
-/// A time set as it is written.
+/// A time set as it is in the file.
 struct RawTimeSet {
     int steps = 0;
     int start = 0;
@@ -207,7 +207,7 @@ private:
 
     int m_line = 0;
     std::string m_section;
-    Words m_key; ///< of lists that go on
+    Words m_key; ///< of the previous line, for lists that continue
     int m_timeSet = 0;
     bool m_isGold = false;
 };
@@ -257,7 +257,7 @@ EnSightCase::EnSightCase(const std::string& path) : m_path(path) {
     }
     std::set<double> times;
     for (EnSightFiles* const files : all) {
-        // Some leave out the only time set.
+        // Some programs leave out the time set if it is the only one.
         if (files->timeSet == 0 && files->pattern.find('*') != std::string::npos) {
             files->timeSet = 1;
         }

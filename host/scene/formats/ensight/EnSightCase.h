@@ -1,4 +1,4 @@
-// What the text of an EnSight Gold case says.
+// The case file of EnSight Gold.
 #pragma once
 
 #include <map>
@@ -8,7 +8,7 @@
 
 namespace corvane::scene {
 
-/// A file, or one for each time: its name with "*" for the number.
+/// A file, or a file for each time: its name with "*" for the number.
 struct EnSightFiles {
     std::string pattern;
     int timeSet = 0;        ///< 0: the same at all times
@@ -34,15 +34,15 @@ public:
 
     const std::vector<double>& times() const { return m_times; } ///< ascending
     const EnSightFiles& geometry() const { return m_geometry; }
-    /// The scalars and vectors of points and cells; others are left out.
+    /// Only the scalars and vectors of points and cells.
     const std::vector<EnSightVariable>& variables() const { return m_variables; }
 
     struct Place {
         std::string path;
         int index = 0; ///< of the state in the file
     };
-    /// Where the data of a time are: those of the last time of their set not above it, or of its
-    /// first time.
+    /// Where the data of a time are: those of the latest time of their set that is not after it, or
+    /// of the first time of the set.
     Place placeOf(const EnSightFiles& files, double time) const;
 
 private:

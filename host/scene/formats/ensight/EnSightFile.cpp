@@ -12,7 +12,7 @@ namespace corvane::scene {
 
 namespace {
 
-/// Says which of the files that a case names is meant.
+/// Adds the name of the file to the reason, since a case consists of several.
 template <class Work>
 auto aboutFile(const std::string& path, const Work& work) {
     std::error_code error;

@@ -10,9 +10,8 @@ namespace corvane::scene {
 
 class EnSightCase;
 
-/// Text and C Binary. The parts of the geometry become parts, with the scalars and vectors of nodes
-/// and elements. Read without VTK's reader of this format, which falls over damaged files or reads
-/// them without an end.
+/// Reads text and C Binary: the parts of the geometry, with the scalars and vectors of nodes and
+/// elements. VTK's own reader crashes on damaged files, or never returns.
 class EnSightFile final : public MeshFile {
 public:
     explicit EnSightFile(const std::string& path);

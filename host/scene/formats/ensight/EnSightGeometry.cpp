@@ -26,7 +26,7 @@ using Ids = std::vector<vtkIdType>;
 
 struct Shape {
     int cellType = VTK_EMPTY_CELL;
-    std::vector<std::size_t> nodes; ///< VTK's order: for each of its nodes that of EnSight
+    std::vector<std::size_t> nodes; ///< for each node in VTK's order, its index in EnSight's
 };
 
 Shape shape(int cellType, std::size_t nodeCount) {
@@ -36,7 +36,7 @@ Shape shape(int cellType, std::size_t nodeCount) {
 }
 
 const Shape* shapeOf(const std::string& kind) {
-    // The first triangle of VTK's wedges looks outwards.
+    // The first triangle of a wedge faces outwards in VTK.
     const static std::map<std::string, Shape> shapes{
         {"point", shape(VTK_VERTEX, 1)},
         {"bar2", shape(VTK_LINE, 2)},
@@ -216,7 +216,7 @@ private:
         auto node = nodes.begin();
         auto side = sides.begin();
         for (const int faceCount : faceCounts) {
-            Ids faces; // for each the number of its nodes, and they
+            Ids faces; // for each the number of its nodes, and the nodes
             std::set<vtkIdType> corners;
             for (int face = 0; face < faceCount; ++face) {
                 const auto end = node + *side;

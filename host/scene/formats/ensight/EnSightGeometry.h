@@ -13,11 +13,11 @@
 namespace corvane::scene {
 
 struct EnSightPart {
-    /// The cells of one kind, which follow each other in the mesh.
+    /// The cells of one kind, which are consecutive in the mesh.
     struct Cells {
         vtkIdType first = 0;
         vtkIdType count = 0;
-        bool isGhost = false; ///< of a neighbouring piece: not in the mesh
+        bool isGhost = false; ///< belong to a neighbouring piece: not in the mesh
     };
 
     std::string name;
@@ -31,8 +31,8 @@ using EnSightParts = std::map<int, EnSightPart>; ///< by their numbers
 /// the file's name in a sentence.
 EnSightParts readEnSightGeometry(EnSightInput& input, int index);
 
-/// Goes to the description of the data at the index in a file of one state (index 0) or of several,
-/// where skip reads the data of one.
+/// Advances to the state at the index, in a file of one state (index 0) or of several. skip reads
+/// one state.
 template <class Skip>
 void goToEnSightStep(EnSightInput& input, int index, Skip skip) {
     const std::string begin = "BEGIN TIME STEP";
@@ -46,7 +46,7 @@ void goToEnSightStep(EnSightInput& input, int index, Skip skip) {
     }
 }
 
-/// Whether there is another part, and not the end of a state or of the file.
+/// Whether a part follows, and not the end of the state or of the file.
 bool hasEnSightPart(EnSightInput& input);
 
 } // namespace corvane::scene

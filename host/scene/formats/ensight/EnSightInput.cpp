@@ -24,7 +24,7 @@ std::string textOf(std::string_view line) {
     return std::string(host::trimmed(line.substr(0, line.find('\0'))));
 }
 
-/// What goes beyond single precision is written by none that means it.
+/// Clamps numbers beyond single precision, which no program writes on purpose.
 template <class Number>
 Number narrowed(double value) {
     constexpr double largest = std::numeric_limits<Number>::max();
@@ -97,7 +97,7 @@ std::vector<float> EnSightInput::numbers(std::size_t count) {
 
 template <class Number>
 std::vector<Number> EnSightInput::values(std::size_t count) {
-    // A text has a digit and a space at least for each, but for the last.
+    // In text each number takes at least a digit and a space, except for the last.
     const std::size_t left = m_content.size() - m_at;
     if (count > (m_kind == Kind::Text ? left / 2 + 1 : left / sizeof(Number))) {
         failAtEnd();
@@ -140,7 +140,7 @@ Number EnSightInput::binaryValue() {
     const std::string_view taken = take(bytes.size());
     std::copy(taken.begin(), taken.end(), bytes.begin());
     if constexpr (std::is_integral_v<Number>) {
-        // The number of a part comes first, and is small.
+        // The first integer is the number of a part, which is small.
         const auto asItIs = std::bit_cast<Number>(bytes);
         constexpr Number manyParts = 65536;
         if (!m_isOrderKnown) {

@@ -1,4 +1,4 @@
-// The lines and numbers of an EnSight Gold file, one after the other.
+// Reads the lines and numbers of an EnSight Gold file one by one.
 #pragma once
 
 #include <cstddef>
@@ -14,18 +14,18 @@ class EnSightInput {
 public:
     enum class Kind { Text, Binary };
 
-    /// The kind of a geometry, which tells it; the files of its variables are of the same kind.
+    /// The kind of a geometry file. The files of its variables are of the same kind.
     static Kind kindOf(const std::string& geometryPath);
 
     EnSightInput(const std::string& path, Kind kind);
 
     Kind kind() const { return m_kind; }
     bool isAtEnd();
-    /// The next line, which may be empty, without spaces around it.
+    /// The next line, which may be empty, trimmed.
     std::string line();
-    /// The next line that says something.
+    /// The next line that is not blank.
     std::string keyword();
-    /// The next keyword, which stays the next.
+    /// The next keyword, without consuming it.
     std::string peekKeyword();
     int integer();
     std::vector<int> integers(std::size_t count);

@@ -21,7 +21,7 @@ namespace {
 using Element = PlyHeader::Element;
 using Property = PlyHeader::Property;
 
-/// Builds the surface while the values go by.
+/// Builds the surface while reading the values.
 class PlySurface {
 public:
     PlySurface(std::istream& stream, const PlyHeader& header) : m_values(stream, header.format) {
@@ -57,7 +57,7 @@ private:
         }
     }
 
-    /// Where a number of a point goes.
+    /// Where a property of a point is stored.
     struct Target {
         double* coordinate = nullptr;
         vtkSmartPointer<vtkFloatArray> array;

@@ -5,8 +5,9 @@
 
 namespace corvane::scene {
 
-/// Reads points, faces, and the other numbers of the points as arrays. VTK's own reader corrupts
-/// memory when such a file ends too early, and knows one of the two usual names of the faces' list.
+/// Reads points and faces, and the other properties of the points as arrays. VTK's own reader
+/// corrupts memory when a file ends too early, and knows only one of the two usual names of the
+/// list of a face.
 class PlyFile final : public MeshFile {
 public:
     using MeshFile::MeshFile;

@@ -1,4 +1,4 @@
-// The header of a PLY file: what values follow, and how they are written.
+// The header of a PLY file.
 #pragma once
 
 #include <istream>
@@ -27,7 +27,7 @@ struct PlyHeader {
     std::vector<Element> elements;
 };
 
-/// Leaves the stream at the first value. Throws ReadFailure.
+/// Afterwards the stream is at the first value. Throws ReadFailure.
 PlyHeader readPlyHeader(std::istream& stream);
 
 } // namespace corvane::scene

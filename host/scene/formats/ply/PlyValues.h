@@ -1,4 +1,4 @@
-// The values of a PLY file, one after the other.
+// Reads the values of a PLY file one by one.
 #pragma once
 
 #include "host/scene/formats/ply/PlyHeader.h"
