@@ -25,8 +25,7 @@ class QuietHost {
 public:
     QuietHost() {
         m_host.frame().view.rotationOrigin = {};
-        m_host.session().trace().onCall = nullptr;
-        m_host.session().trace().onEnter = nullptr;
+        m_host.session().trace().disconnect();
     }
 
     void forgetProgress() { m_host.status().clear(); }

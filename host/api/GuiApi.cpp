@@ -70,11 +70,11 @@ int createDialog(const Call& call, int parent, Dialog dialog) {
     });
 }
 
-OnPress callback(CorGUIVoidCB callback) {
+OnPress onPress(CorGUIVoidCB callback) {
     return callback ? OnPress(callback) : OnPress();
 }
 
-OnText callback(CorGUITextCB callback) {
+OnText onText(CorGUITextCB callback) {
     if (!callback) {
         return {};
     }
@@ -82,7 +82,7 @@ OnText callback(CorGUITextCB callback) {
 }
 
 /// Of lists, option menus and radio boxes.
-OnPosition callback(CorGUIIndexCB callback) {
+OnPosition onPosition(CorGUIIndexCB callback) {
     if (!callback) {
         return {};
     }
@@ -118,9 +118,9 @@ int CorGUIDialogCreateModeless(int parent, int width, int height, const char* ti
     dialog.owner = call.callingLibrary();
     dialog.width = width;
     dialog.height = height;
-    dialog.init = callback(init);
-    dialog.dismiss = callback(close);
-    dialog.help = callback(help);
+    dialog.onInit = onPress(init);
+    dialog.onDismiss = onPress(close);
+    dialog.onHelp = onPress(help);
     return createDialog(call, parent, std::move(dialog));
 }
 
@@ -135,11 +135,11 @@ int CorGUIDialogCreateModal(int parent, int width, int height, const char* title
     dialog.width = width;
     dialog.height = height;
     dialog.isModal = true;
-    dialog.init = callback(init);
-    dialog.ok = callback(ok);
-    dialog.apply = callback(apply);
-    dialog.dismiss = callback(cancel);
-    dialog.help = callback(help);
+    dialog.onInit = onPress(init);
+    dialog.onOk = onPress(ok);
+    dialog.onApply = onPress(apply);
+    dialog.onDismiss = onPress(cancel);
+    dialog.onHelp = onPress(help);
     return createDialog(call, parent, std::move(dialog));
 }
 
@@ -161,7 +161,7 @@ CorBool CorGUIDialogIsUp(int dialog) {
 int CorGUIButtonAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIVoidCB cb) {
     Button button;
     button.label = textOf(label);
-    button.pressed = callback(cb);
+    button.onPress = onPress(cb);
     return addControl(TracedCall("CorGUIButtonAdd", parent, x, y, w, h, label, cb), parent,
                       {x, y, w, h}, std::move(button));
 }
@@ -188,7 +188,7 @@ int CorGUIFrameAdd(int parent, int x, int y, int w, int h, const char* label) {
 
 int CorGUITextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB cb) {
     TextField field;
-    field.callback = callback(cb);
+    field.onText = onText(cb);
     return addControl(TracedCall("CorGUITextFieldAdd", parent, x, y, w, h, cb), parent,
                       {x, y, w, h}, std::move(field));
 }
@@ -202,9 +202,9 @@ void CorGUITextFieldSetString(int field, const char* text) {
 int CorGUISpinTextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB valueChanged,
                            CorGUIVoidCB up, CorGUIVoidCB down) {
     SpinField field;
-    field.callback = callback(valueChanged);
-    field.up = callback(up);
-    field.down = callback(down);
+    field.onText = onText(valueChanged);
+    field.onUp = onPress(up);
+    field.onDown = onPress(down);
     return addControl(
         TracedCall("CorGUISpinTextFieldAdd", parent, x, y, w, h, valueChanged, up, down), parent,
         {x, y, w, h}, std::move(field));
@@ -213,7 +213,7 @@ int CorGUISpinTextFieldAdd(int parent, int x, int y, int w, int h, CorGUITextCB 
 int CorGUIToggleAdd(int parent, int x, int y, int w, int h, const char* label, CorGUIToggleCB cb) {
     Toggle toggle;
     toggle.label = textOf(label);
-    toggle.callback = onState(cb);
+    toggle.onState = onState(cb);
     return addControl(TracedCall("CorGUIToggleAdd", parent, x, y, w, h, label, cb), parent,
                       {x, y, w, h}, std::move(toggle));
 }
@@ -232,7 +232,7 @@ void CorGUIToggleSet(int toggle, CorBool on) {
 int CorGUIListAdd(int parent, int x, int y, int w, int h, CorBool multiSelect, CorGUIListCB cb) {
     List list;
     list.isMulti = multiSelect != FALSE;
-    list.callback = callback(cb);
+    list.onPosition = onPosition(cb);
     return addControl(TracedCall("CorGUIListAdd", parent, x, y, w, h, multiSelect != FALSE, cb),
                       parent, {x, y, w, h}, std::move(list));
 }
@@ -311,7 +311,7 @@ int CorGUIOptionMenuAdd(int parent, int x, int y, int w, int h, const char* cons
                         int itemCount, CorGUIIndexCB cb) {
     OptionMenu menu;
     menu.items = texts(items, itemCount);
-    menu.callback = callback(cb);
+    menu.onPosition = onPosition(cb);
     return addControl(TracedCall("CorGUIOptionMenuAdd", parent, x, y, w, h, items, itemCount, cb),
                       parent, {x, y, w, h}, std::move(menu));
 }
@@ -344,7 +344,7 @@ int CorGUIRadioBoxAdd(int parent, int x, int y, int w, int h, const char* const*
     RadioBox box;
     box.items = texts(labels, labelCount);
     box.chosen = box.items.empty() ? 0 : 1;
-    box.callback = callback(cb);
+    box.onPosition = onPosition(cb);
     return addControl(TracedCall("CorGUIRadioBoxAdd", parent, x, y, w, h, labels, labelCount, cb),
                       parent, {x, y, w, h}, std::move(box));
 }
@@ -380,7 +380,7 @@ int CorGUIMenuAddItem(int menu, const char* label, const char* help, CorGUIVoidC
     MenuItem item;
     item.label = textOf(label);
     item.help = textOf(help);
-    item.callback = callback(cb);
+    item.onPress = onPress(cb);
     return addEntry(TracedCall("CorGUIMenuAddItem", menu, label, help, cb), menu, std::move(item));
 }
 
@@ -388,7 +388,7 @@ int CorGUIMenuAddToggle(int menu, const char* label, const char* help, CorGUITog
     MenuToggle toggle;
     toggle.label = textOf(label);
     toggle.help = textOf(help);
-    toggle.callback = onState(cb);
+    toggle.onState = onState(cb);
     return addEntry(TracedCall("CorGUIMenuAddToggle", menu, label, help, cb), menu,
                     std::move(toggle));
 }

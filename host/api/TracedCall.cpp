@@ -11,7 +11,7 @@ bool mayProceedUntraced(const Operation& operation, bool hasResult) {
         return false;
     }
     Host* const host = Host::current();
-    return !host || mayProceed(host->session().trace(), operation.name, hasResult);
+    return !host || host->session().trace().mayProceed(operation.name, hasResult);
 }
 
 void reportMisuse(const Operation& operation, const std::string& what) {
@@ -37,10 +37,7 @@ void reportException(const Operation& operation) {
 }
 
 void record(Session& session, std::string call, std::string result) {
-    const CallTrace& trace = session.trace();
-    if (trace.isOn()) {
-        trace.onCall({std::move(call), std::move(result), session.locks().depth()});
-    }
+    session.trace().record({std::move(call), std::move(result), session.locks().depth()});
 }
 
 } // namespace corvane::host

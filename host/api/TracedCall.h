@@ -47,11 +47,6 @@ private:
     std::tuple<Arguments...> m_arguments;
 };
 
-/// Whether the call may do its work: false when the trace was told to let it fail.
-inline bool mayProceed(const CallTrace& trace, const char* operation, bool hasResult) {
-    return !trace.onEnter || trace.onEnter(operation, hasResult);
-}
-
 /// For the operations that build lists and strings: they are needed with or without a
 /// host, and would drown all others in the trace.
 bool mayProceedUntraced(const Operation& operation, bool hasResult);
@@ -106,8 +101,9 @@ void TracedCall<Arguments...>::run(bool hasResult, const Work& work,
     if (!host) {
         return;
     }
-    const bool proceeds = mayProceed(host->session().trace(), m_operation.name, hasResult);
-    const bool isTraced = host->session().trace().isOn();
+    const CallTrace& trace = host->session().trace();
+    const bool proceeds = trace.mayProceed(m_operation.name, hasResult);
+    const bool isTraced = trace.isRecording();
     std::string call;
     guarded([&] {
         if (isTraced) {

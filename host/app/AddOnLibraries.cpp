@@ -2,6 +2,7 @@
 #include "host/app/AddOnLibraries.h"
 
 #include "host/app/Options.h"
+#include "host/core/base/HostError.h"
 #include "host/core/session/AddOnLoader.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ void loadAddOns(host::Session& session, const Options& options,
         try {
             host::loadAddOn(session, ownLibrary());
         } catch (const std::exception& error) {
-            tell(error.what());
+            tell(host::messageOf(error));
         }
     }
     for (const std::string& library : options.addOns) {

@@ -1,4 +1,3 @@
-// Writes what an add-on calls of its host into a file, a line a call.
 #include "host/app/TraceFile.h"
 
 #include "host/core/addons/CallTrace.h"
@@ -14,9 +13,10 @@ TraceFile::TraceFile(const std::string& fileName) : m_file(fileName) {
 }
 
 void TraceFile::attachTo(host::CallTrace& trace) {
-    trace.onCall = [this](const host::TraceRecord& record) { writeLine(toString(record)); };
-    trace.onMisuse = [this](const std::string& what) { writeLine("misuse: " + what); };
-    trace.onException = [this](const std::string& what) { writeLine("exception: " + what); };
+    trace.connect(
+        {.onCall = [this](const host::TraceRecord& record) { writeLine(toString(record)); },
+         .onMisuse = [this](const std::string& what) { writeLine("misuse: " + what); },
+         .onException = [this](const std::string& what) { writeLine("exception: " + what); }});
 }
 
 // Flushed at once, since the trace is looked at when an add-on has brought the process down.

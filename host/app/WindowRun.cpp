@@ -1,4 +1,3 @@
-// A run with a window, from the options to the exit code.
 #include "host/app/WindowRun.h"
 
 #include "host/app/AddOnLibraries.h"
@@ -30,7 +29,7 @@ namespace {
 constexpr const char* withoutDisplay =
     "; to work without one, give --batch with --macro FILE, or --keyframes FILE --output MOVIE.";
 
-/// The first of these settings that there is, else empty.
+/// The first of these settings that is made, as NAME=value; else empty.
 std::string displayName() {
     for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
         const char* const value = std::getenv(name);
@@ -41,13 +40,14 @@ std::string displayName() {
     return {};
 }
 
-/// Qt aborts the process when it cannot reach the display, after several lines about its plugins.
-/// While one lives, that becomes one sentence and an exit code; what Qt says otherwise is kept.
+/// Qt aborts the process when it cannot connect to the display, after several lines about its
+/// plugins. During the lifetime of this object that becomes one sentence and an exit code; other
+/// messages of Qt are printed at its end.
 class QtStart {
 public:
     QtStart() {
         s_texts.clear();
-        qInstallMessageHandler(&QtStart::hear);
+        qInstallMessageHandler(&QtStart::handle);
     }
     ~QtStart() {
         qInstallMessageHandler(nullptr);
@@ -59,7 +59,7 @@ public:
     QtStart& operator=(const QtStart&) = delete;
 
 private:
-    static void hear(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
+    static void handle(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
         if (type == QtFatalMsg) {
             say("The display for a window (" + displayName() + ") cannot be used" + withoutDisplay);
             std::_Exit(ExitUsage);
@@ -70,7 +70,7 @@ private:
     static inline std::vector<std::string> s_texts;
 };
 
-// Beside the program where it is installed, else where it was built from.
+/// Relative to the program if it is installed, else in the source tree.
 QString helpFolder() {
     const QDir installed(QApplication::applicationDirPath() +
                          QStringLiteral("/../share/corvane/help"));
@@ -83,7 +83,7 @@ void nameProgram() {
     QApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("corvane"));
     QApplication::setWindowIcon(gui::programIcon());
-    // Qt takes over the numbers of the user's language; readers of data files need a plain point.
+    // Qt adopts the number format of the user's locale; readers of data files need a decimal point.
     std::setlocale(LC_NUMERIC, "C");
 }
 
@@ -101,7 +101,7 @@ public:
                           .helpFolder = helpFolder()}) {}
 
     void start();
-    /// To be called when the event loop has ended.
+    /// To be called after the event loop.
     ExitCode end();
 
 private:
@@ -134,12 +134,12 @@ void WindowRun::start() {
     if (m_options.isSizeGiven) {
         m_windowedHost.window().resizePicture({m_options.width, m_options.height});
     }
-    // Once the event loop runs, so that messages have somebody to read them.
+    // Once the event loop runs, so that message boxes can be shown.
     QMetaObject::invokeMethod(
         &m_windowedHost.window(), [this] { openWhatWasAsked(); }, Qt::QueuedConnection);
 }
 
-/// A signal ends the run without questions, since nobody may be there to answer.
+/// A signal ends the run without asking, since there may be no user to answer.
 void WindowRun::watchSignals() {
     m_stopSignal = std::make_unique<QSocketNotifier>(stopSignalDescriptor(), QSocketNotifier::Read);
     QObject::connect(m_stopSignal.get(), &QSocketNotifier::activated, &m_windowedHost.window(),
@@ -190,7 +190,7 @@ void WindowRun::openWhatWasAsked() {
 
 void WindowRun::warn(const std::string& warning) {
     say(warning);
-    m_windowedHost.tell(warning);
+    m_windowedHost.showNotice(warning);
 }
 
 } // namespace

@@ -32,9 +32,8 @@ const std::string noFlight =
 class MacroCommands : public testing::Test {
 protected:
     MacroCommands() {
-        host.program.session().trace().onCall = [this](const host::TraceRecord& record) {
-            calls.push_back(record.call);
-        };
+        host.program.session().trace().connect(
+            {.onCall = [this](const host::TraceRecord& record) { calls.push_back(record.call); }});
     }
 
     static std::string lineFor(const std::string& command) {

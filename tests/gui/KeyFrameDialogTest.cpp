@@ -152,10 +152,10 @@ TEST_F(KeyFrameDialog, tenChangesAreShownByOneUpdate) {
     dialog.clickRow(0);
     ASSERT_TRUE(isEnabledSoon(dialog, QStringLiteral("Delete")));
     int updates = 0;
-    session().trace().onCall = [&updates](const host::TraceRecord& record) {
-        // Every update chooses the destination in the menu, and nothing else does.
+    // Every update chooses the destination in the menu, and nothing else does.
+    session().trace().connect({.onCall = [&updates](const host::TraceRecord& record) {
         updates += record.call.starts_with("CorGUIOptionMenuSet(") ? 1 : 0;
-    };
+    }});
     for (int change = 0; change < 10; ++change) {
         runCommand("OpenSettingsFile FileName=\"" + folder.file("flight.keyframe") + "\"");
     }
@@ -163,7 +163,7 @@ TEST_F(KeyFrameDialog, tenChangesAreShownByOneUpdate) {
     EXPECT_TRUE(waitUntil([&] { return updates > 0; }));
     settle();
     EXPECT_EQ(updates, 1);
-    session().trace().onCall = nullptr;
+    session().trace().disconnect();
 }
 
 TEST_F(KeyFrameDialog, tabGoesDownTheDialog) {

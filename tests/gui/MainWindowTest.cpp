@@ -264,7 +264,7 @@ TEST_F(MainWindow, aRecordingThatCannotBeWrittenIsNotLostUnasked) {
 TEST_F(MainWindow, aNoticeStaysInTheStatusLineWhenOtherThingsChange) {
     auto& text = part<QLabel>("statusText");
     const QString before = text.text();
-    windowedHost().tell("There are no streamtraces to show.");
+    windowedHost().showNotice("There are no streamtraces to show.");
     EXPECT_EQ(text.text(), QStringLiteral("There are no streamtraces to show."));
     part<QCheckBox>("Contour/ShowLegend").click();
     settle();

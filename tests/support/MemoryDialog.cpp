@@ -188,7 +188,7 @@ void MemoryDialog::ok() const {
 }
 
 void MemoryDialog::apply() const {
-    if (!control().apply) {
+    if (!control().onApply) {
         throw std::logic_error("The dialog \"" + control().label + "\" has no Apply.");
     }
     act().apply(handle());
@@ -199,7 +199,7 @@ void MemoryDialog::cancel() const {
 }
 
 void MemoryDialog::help() const {
-    if (!control().help) {
+    if (!control().onHelp) {
         throw std::logic_error("The dialog \"" + control().label + "\" has no Help.");
     }
     act().help(handle());

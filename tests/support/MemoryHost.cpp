@@ -19,12 +19,20 @@ MemoryHost::MemoryHost(bool hasWindows)
                       .idleTimer = &m_idleTimer,
                       .widgets = hasWindows ? &m_widgets : nullptr,
                       .mainMenu = hasWindows ? &m_mainMenu : nullptr})) {
-    host::CallTrace& trace = m_program->session().trace();
-    trace.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
-    trace.onMisuse = [this](const std::string& what) { m_misuse.push_back(what); };
-    trace.onEnter = [this](const char* operation, bool hasResult) {
-        return m_script.mayProceed(operation, hasResult);
-    };
+    host::TraceSinks sinks = misuseAndScript();
+    sinks.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
+    m_program->session().trace().connect(std::move(sinks));
+}
+
+host::TraceSinks MemoryHost::misuseAndScript() {
+    return {
+        .onMisuse = [this](const std::string& what) { m_misuse.push_back(what); },
+        .onEnter = [this](const char* operation,
+                          bool hasResult) { return m_script.mayProceed(operation, hasResult); }};
+}
+
+void MemoryHost::stopRemembering() {
+    m_program->session().trace().connect(misuseAndScript());
 }
 
 MemoryHost::MemoryHost(Empty) : MemoryHost(true) {}

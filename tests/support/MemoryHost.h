@@ -76,6 +76,13 @@ public:
     /// Of this very operation.
     std::size_t count(std::string_view operation) const;
     void clearCalls() { m_records.clear(); }
+    /// For work whose calls would fill the memory: from now on calls() stays as it is.
+    void stopRemembering();
+    /// How often the operation was entered so far, whether it is one that calls() leaves out or
+    /// not.
+    std::size_t timesEntered(const std::string& operation) const {
+        return m_script.timesEntered(operation);
+    }
 
     /// The next n calls of the operation answer their failure and do nothing. An operation without
     /// a result does nothing then.
@@ -115,6 +122,7 @@ private:
         void requestIdle() override { ++requests; }
         std::size_t requests = 0;
     };
+    host::TraceSinks misuseAndScript();
     bool isExpected(const std::string& misuse) const;
 
     MemoryRenderer m_renderer;

@@ -1,4 +1,3 @@
-// Which calls of the host are to fail.
 #include "tests/support/ScriptedCalls.h"
 
 #include <algorithm>
@@ -33,7 +32,22 @@ void ScriptedCalls::failAt(std::size_t k) {
     m_hasFailedAt = false;
 }
 
+std::size_t ScriptedCalls::timesEntered(const std::string& operation) const {
+    const auto found = m_timesEntered.find(operation);
+    return found != m_timesEntered.end() ? found->second : 0;
+}
+
+void ScriptedCalls::countEntry(std::string_view operation) {
+    const auto found = m_timesEntered.find(operation);
+    if (found != m_timesEntered.end()) {
+        ++found->second;
+    } else {
+        m_timesEntered.emplace(operation, 1);
+    }
+}
+
 bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
+    countEntry(operation);
     if (hasResult && !cannotFail(operation) && m_failAt > 0 && --m_failAt == 0) {
         m_hasFailedAt = true;
         return false;

@@ -1,7 +1,9 @@
-// Which calls of the host are to fail.
+// Which calls of the host are to fail, and how many there were.
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,9 +16,11 @@ public:
     void throwAt(std::string operation, std::size_t k);
     void failAt(std::size_t k);
 
-    /// For CallTrace::onEnter. Throws std::runtime_error where the script says so.
+    /// For TraceSinks::onEnter. Throws std::runtime_error where the script says so.
     bool mayProceed(std::string_view operation, bool hasResult);
 
+    /// How often mayProceed() was asked about the operation.
+    std::size_t timesEntered(const std::string& operation) const;
     /// Whether the call that failAt() chose has come.
     bool hasFailedAt() const { return m_hasFailedAt; }
     /// Entries that no call ever met, as sentences: a name may be misspelt.
@@ -31,9 +35,11 @@ private:
         bool wasMet;
     };
     static bool apply(Entry& entry);
+    void countEntry(std::string_view operation);
 
     std::vector<Entry> m_entries;
-    std::size_t m_failAt = 0; ///< 0: none
+    std::map<std::string, std::size_t, std::less<>> m_timesEntered; ///< by operation
+    std::size_t m_failAt = 0;                                       ///< 0: none
     bool m_hasFailedAt = false;
 };
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace corvane::host {
 
@@ -16,31 +17,36 @@ struct TraceRecord {
 /// "CorUtilExportStart() = TRUE [1]": result when there is one, lock depth in brackets.
 std::string toString(const TraceRecord& record);
 
-class CallTrace {
-public:
-    /// Either may be empty; records are made only while there is somebody to take them.
-    std::function<void(const TraceRecord&)> onCall;
+/// Where a trace goes. Any of them may be empty.
+struct TraceSinks {
+    /// Records are made only where this is not empty.
+    std::function<void(const TraceRecord&)> onCall = {};
     /// What an add-on did wrong and the host put right or ignored: the library, the operation, the
     /// rule. Called on whatever thread the add-on chose.
-    std::function<void(const std::string&)> onMisuse;
+    std::function<void(const std::string&)> onMisuse = {};
     /// Which callback let an exception out, and its text. The host has caught it.
-    std::function<void(const std::string&)> onException;
+    std::function<void(const std::string&)> onException = {};
     /// Asked before each call, for tests of what an add-on does when its host fails. False: the
     /// call answers its failure and does nothing else. An exception of it leaves the operation,
     /// which no other one does. hasResult: the operation can answer a failure at all.
-    std::function<bool(const char* operation, bool hasResult)> onEnter;
+    std::function<bool(const char* operation, bool hasResult)> onEnter = {};
+};
 
-    bool isOn() const { return static_cast<bool>(onCall); }
-    void misuse(const std::string& what) const {
-        if (onMisuse) {
-            onMisuse(what);
-        }
-    }
-    void exception(const std::string& what) const {
-        if (onException) {
-            onException(what);
-        }
-    }
+class CallTrace {
+public:
+    /// Replaces the sinks that were connected before.
+    void connect(TraceSinks sinks) { m_sinks = std::move(sinks); }
+    void disconnect() { m_sinks = {}; }
+
+    bool isRecording() const { return static_cast<bool>(m_sinks.onCall); }
+    void record(const TraceRecord& record) const;
+    void misuse(const std::string& what) const;
+    void exception(const std::string& what) const;
+    /// Whether the call may do its work.
+    bool mayProceed(const char* operation, bool hasResult) const;
+
+private:
+    TraceSinks m_sinks;
 };
 
 } // namespace corvane::host

@@ -21,7 +21,7 @@ struct Box {
     int height = 0;
 };
 
-/// What an add-on wants to be told. Any of them may be empty.
+/// Callbacks of an add-on. Any of them may be empty.
 using OnPress = std::function<void()>;
 using OnText = std::function<bool(const std::string&)>; ///< false: the text is refused
 using OnPosition = std::function<void(long)>;           ///< from 1
@@ -52,15 +52,15 @@ struct Dialog : Control {
     int height = 0;
     bool isModal = false;
     bool isUp = false;
-    OnPress init;
-    OnPress ok;      ///< of modal dialogs
-    OnPress apply;   ///< empty: there is no Apply
-    OnPress dismiss; ///< cancel of a modal dialog, close of another
-    OnPress help;    ///< empty: there is no Help
+    OnPress onInit;
+    OnPress onOk;      ///< of modal dialogs
+    OnPress onApply;   ///< empty: there is no Apply
+    OnPress onDismiss; ///< cancel of a modal dialog, close of another
+    OnPress onHelp;    ///< empty: there is no Help
 };
 
 struct Button : PlacedControl {
-    OnPress pressed;
+    OnPress onPress;
 };
 
 struct Label : PlacedControl {};
@@ -70,33 +70,33 @@ struct GroupBox : PlacedControl {};
 struct TextField : PlacedControl {
     std::string shown;
     std::string committed; ///< what was committed or set last
-    OnText callback;
+    OnText onText;
 
     bool isPending() const { return shown != committed; }
 };
 
 struct SpinField : TextField {
-    OnPress up;
-    OnPress down;
+    OnPress onUp;
+    OnPress onDown;
 };
 
 struct Toggle : PlacedControl {
     bool isOn = false;
-    OnState callback;
+    OnState onState;
 };
 
 struct List : PlacedControl {
     bool isMulti = false;
     std::vector<std::string> rows;
     std::vector<long> selection; ///< positions, ascending
-    OnPosition callback;         ///< the first selected one, 0 for none
+    OnPosition onPosition;       ///< the first selected one, 0 for none
 };
 
 struct OptionMenu : PlacedControl {
     std::vector<std::string> items;
     /// Stays when the items go: it counts again when there are that many again.
     long wanted = 1;
-    OnPosition callback;
+    OnPosition onPosition;
 
     long chosen() const {
         const long count = static_cast<long>(items.size());
@@ -107,7 +107,7 @@ struct OptionMenu : PlacedControl {
 struct RadioBox : PlacedControl {
     std::vector<std::string> items;
     long chosen = 0; ///< 0: none is on
-    OnPosition callback;
+    OnPosition onPosition;
 };
 
 /// Menu bars and menus.
@@ -127,12 +127,12 @@ struct MenuEntry : Control {
 };
 
 struct MenuItem : MenuEntry {
-    OnPress callback;
+    OnPress onPress;
 };
 
 struct MenuToggle : MenuEntry {
     bool isOn = false;
-    OnState callback;
+    OnState onState;
 };
 
 /// Whether it, or what it is in, was made insensitive.

@@ -36,12 +36,12 @@ bool ControlActions::commit(TextField& field) {
     }
     // First, since an error box of the add-on takes the focus, which commits again.
     field.committed = field.shown;
-    if (!field.callback) {
+    if (!field.onText) {
         return true;
     }
     const std::string text = field.committed;
     bool isAccepted = false;
-    m_controls.callAddOn(nameInTrace(field), [&] { isAccepted = field.callback(text); });
+    m_controls.callAddOn(nameInTrace(field), [&] { isAccepted = field.onText(text); });
     return isAccepted;
 }
 
@@ -63,13 +63,13 @@ bool ControlActions::prepare(const Control& control) {
 
 void ControlActions::press(int handle) {
     if (const auto* button = reachable<Button>(handle); button != nullptr && prepare(*button)) {
-        tell(*button, button->pressed);
+        tell(*button, button->onPress);
     }
 }
 
 void ControlActions::trigger(int handle) {
     if (const auto* item = reachable<MenuItem>(handle); item != nullptr && prepare(*item)) {
-        tell(*item, item->callback);
+        tell(*item, item->onPress);
     }
 }
 
@@ -80,8 +80,8 @@ void ControlActions::switchOne(T& toggle, bool isOn) {
         return;
     }
     m_controls.setState(toggle, isOn);
-    if (toggle.callback) {
-        m_controls.callAddOn(nameInTrace(toggle), [&] { toggle.callback(isOn); });
+    if (toggle.onState) {
+        m_controls.callAddOn(nameInTrace(toggle), [&] { toggle.onState(isOn); });
     }
 }
 
@@ -105,7 +105,8 @@ void ControlActions::select(int handle, std::vector<long> positions) {
     const std::vector<long> before = list->selection;
     m_controls.select(*list, std::move(positions));
     if (list->selection != before) {
-        tellPosition(*list, list->callback, list->selection.empty() ? 0 : list->selection.front());
+        tellPosition(*list, list->onPosition,
+                     list->selection.empty() ? 0 : list->selection.front());
     }
 }
 
@@ -117,7 +118,7 @@ void ControlActions::chooseIn(T& control, long position) {
         return;
     }
     m_controls.choose(control, position);
-    tellPosition(control, control.callback, position);
+    tellPosition(control, control.onPosition, position);
 }
 
 void ControlActions::choose(int handle, long position) {
@@ -130,7 +131,7 @@ void ControlActions::choose(int handle, long position) {
 
 void ControlActions::step(int handle, bool isUp) {
     if (const auto* field = reachable<SpinField>(handle); field != nullptr && prepare(*field)) {
-        tell(*field, isUp ? field->up : field->down);
+        tell(*field, isUp ? field->onUp : field->onDown);
     }
 }
 
@@ -164,25 +165,25 @@ void ControlActions::enter(int handle) {
 void ControlActions::ok(int handle) {
     const auto* dialog = reachable<Dialog>(handle);
     if (dialog != nullptr && dialog->isModal && prepare(*dialog)) {
-        tell(*dialog, dialog->ok);
+        tell(*dialog, dialog->onOk);
     }
 }
 
 void ControlActions::apply(int handle) {
     if (const auto* dialog = reachable<Dialog>(handle); dialog != nullptr && prepare(*dialog)) {
-        tell(*dialog, dialog->apply);
+        tell(*dialog, dialog->onApply);
     }
 }
 
 void ControlActions::help(int handle) {
     if (const auto* dialog = reachable<Dialog>(handle); dialog != nullptr && prepare(*dialog)) {
-        tell(*dialog, dialog->help);
+        tell(*dialog, dialog->onHelp);
     }
 }
 
 void ControlActions::dismiss(int handle) {
     if (const auto* dialog = reachable<Dialog>(handle); dialog != nullptr && prepare(*dialog)) {
-        tell(*dialog, dialog->dismiss);
+        tell(*dialog, dialog->onDismiss);
     }
 }
 

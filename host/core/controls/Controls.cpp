@@ -93,8 +93,8 @@ void Controls::launch(Dialog& dialog) {
         ++m_modalLaunches;
     }
     m_toolkit->show(dialog);
-    if (dialog.init) {
-        callAddOn("launch of " + nameInTrace(dialog), dialog.init);
+    if (dialog.onInit) {
+        callAddOn("launch of " + nameInTrace(dialog), dialog.onInit);
     }
 }
 

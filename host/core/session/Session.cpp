@@ -300,8 +300,8 @@ void Session::onIdle() {
     m_idle.run();
     try {
         m_drawing.drawIfDue();
-    } catch (const HostError& error) {
-        m_ports.prompts.showError(error.what());
+    } catch (const std::exception& error) {
+        m_ports.prompts.showError(messageOf(error));
     }
 }
 

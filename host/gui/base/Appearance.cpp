@@ -1,4 +1,3 @@
-// Light and dark colours of the program's windows.
 #include "host/gui/base/Appearance.h"
 
 #include <QApplication>

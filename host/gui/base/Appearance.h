@@ -1,4 +1,4 @@
-// Light and dark colours of the program's windows.
+// Light and dark color schemes of the program's windows.
 #pragma once
 
 class QString;
@@ -7,10 +7,10 @@ namespace corvane::gui {
 
 enum class Appearance { System, Light, Dark };
 
-/// Changes all windows of the program at once. System is what the desktop says.
+/// Applies to all windows of the program. System follows the settings of the desktop.
 void applyAppearance(Appearance appearance);
 
-/// "system", "light", "dark", for keeping; an unknown word is the system's.
+/// "system", "light" or "dark", for the settings file; an unknown name means System.
 QString nameOf(Appearance appearance);
 Appearance appearanceNamed(const QString& name);
 

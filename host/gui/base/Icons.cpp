@@ -1,4 +1,3 @@
-// The program's icons, drawn in the colours of the palette.
 #include "host/gui/base/Icons.h"
 
 #include <QGuiApplication>
@@ -11,8 +10,8 @@ namespace corvane::gui {
 
 namespace {
 
-/// Icons are drawn on a field of 24 by 24 units.
-constexpr double field = 24.0;
+/// Icons are drawn on a canvas of 24 by 24 units.
+constexpr double canvas = 24.0;
 
 void drawTriangle(QPainter& painter, double tip, double base) {
     QPainterPath path;
@@ -90,7 +89,7 @@ void drawLetter(QPainter& painter, const char* letter, const QColor& color) {
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(painter.pen().color().alpha() < 255 ? painter.pen().color() : color);
-    painter.drawText(QRectF(0, 0, field, field), Qt::AlignCenter, QString::fromLatin1(letter));
+    painter.drawText(QRectF(0, 0, canvas, canvas), Qt::AlignCenter, QString::fromLatin1(letter));
 }
 
 void draw(QPainter& painter, Icon which) {
@@ -145,7 +144,7 @@ public:
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());
-        painter->scale(rect.width() / field, rect.height() / field);
+        painter->scale(rect.width() / canvas, rect.height() / canvas);
         painter->setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         draw(*painter, m_which);
         painter->restore();

@@ -1,4 +1,4 @@
-// The program's icons, drawn in the colours of the palette.
+// The program's icons, drawn in the colors of the palette.
 #pragma once
 
 #include <QIcon>
@@ -23,10 +23,10 @@ enum class Icon {
     AxisZ
 };
 
-/// Sharp at any scale, and right in a light and in a dark palette.
+/// Sharp at any scale, and legible with a light and a dark palette.
 QIcon icon(Icon which);
 
-/// The program itself, for the window's title bar.
+/// The program's own icon, for title bars.
 QIcon programIcon();
 
 } // namespace corvane::gui

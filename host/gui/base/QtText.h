@@ -1,4 +1,4 @@
-// Between the core's texts, which are UTF-8, and Qt's.
+// Converts between the core's UTF-8 strings and QString.
 #pragma once
 
 #include <QString>

@@ -1,4 +1,4 @@
-// The pointer of a program that works, for as long as the object lives.
+// Shows the busy cursor for the lifetime of the object.
 #pragma once
 
 #include <QCursor>

@@ -1,4 +1,3 @@
-// Carries out what the user does, and tells what went wrong.
 #include "host/gui/commands/Commands.h"
 
 #include "host/core/Host.h"
@@ -26,7 +25,7 @@ bool Commands::attempt(const std::function<void()>& work) const {
     } catch (const std::exception& error) {
         message = host::messageOf(error);
     }
-    // What failed has been told with this message; idle time shall not tell it again.
+    // This message covers a failed export, too; idle time must not report it again.
     session().exporter().forgetFailure();
     session().prompts().showError(message);
     return false;

@@ -1,4 +1,4 @@
-// Carries out what the user does, and tells what went wrong.
+// Carries out the user's commands, and reports failures to the user.
 #pragma once
 
 #include <functional>
@@ -20,13 +20,13 @@ public:
     host::Session& session() const; ///< of the host
 
     /// One command of the macro language: carried out, and recorded while a macro is recorded.
-    /// False after a failure, which the user was told.
+    /// False after a failure, which has been reported.
     bool perform(const std::string& command, const std::vector<std::string>& words) const;
     bool setStyle(const std::string& path, const std::string& value) const;
-    /// Anything that may throw, behind a message box.
+    /// Does work that may throw, and shows what it throws in a message box. False after that.
     bool attempt(const std::function<void()>& work) const;
 
-    /// Whether something runs that the user can do nothing to but stop it.
+    /// Whether an animation or a macro is running, which the user can only stop.
     bool isBusy() const;
 
 private:

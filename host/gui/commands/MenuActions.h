@@ -1,4 +1,4 @@
-// Small helpers for filling menus.
+// Helpers for filling menus.
 #pragma once
 
 #include <QAction>
@@ -16,8 +16,8 @@ QAction* addAction(QMenu& menu, const QString& text, Slot slot, const QKeySequen
     return action;
 }
 
-/// Makes the action's keys count in this widget alone, so that they do not get in the way of
-/// typing and of buttons elsewhere.
+/// Limits the action's shortcuts to this widget, so that they do not interfere with typing and with
+/// buttons elsewhere.
 inline void keepKeysTo(QWidget& widget, QAction& action) {
     action.setShortcutContext(Qt::WidgetShortcut);
     widget.addAction(&action);

@@ -1,4 +1,3 @@
-// Hears of the host's state changes for as long as it lives.
 #include "host/gui/commands/StateWatcher.h"
 
 #include "host/core/Host.h"
@@ -9,14 +8,14 @@ namespace corvane::gui {
 
 StateWatcher::StateWatcher(host::Session& session, std::function<void(StateChange_e)> onChange)
     : m_session(session), m_onChange(std::move(onChange)) {
-    m_session.stateChanges().addListener(&StateWatcher::hear, this);
+    m_session.stateChanges().addListener(&StateWatcher::notify, this);
 }
 
 StateWatcher::~StateWatcher() {
-    m_session.stateChanges().removeListener(&StateWatcher::hear, this);
+    m_session.stateChanges().removeListener(&StateWatcher::notify, this);
 }
 
-void StateWatcher::hear(StateChange_e change, void* watcher) {
+void StateWatcher::notify(StateChange_e change, void* watcher) {
     static_cast<StateWatcher*>(watcher)->m_onChange(change);
 }
 

@@ -1,4 +1,4 @@
-// Hears of the host's state changes for as long as it lives.
+// Listens to the host's state changes for the lifetime of the object.
 #pragma once
 
 #include "hostapi/CorEnums.h"
@@ -20,7 +20,7 @@ public:
     StateWatcher& operator=(const StateWatcher&) = delete;
 
 private:
-    static void hear(StateChange_e change, void* watcher);
+    static void notify(StateChange_e change, void* watcher);
 
     host::Session& m_session;
     std::function<void(StateChange_e)> m_onChange;

@@ -1,4 +1,3 @@
-// Views as commands of the macro language.
 #include "host/gui/commands/ViewCommand.h"
 
 #include "host/core/Host.h"

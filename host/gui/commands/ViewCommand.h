@@ -1,4 +1,4 @@
-// Views as commands of the macro language.
+// The view of the active frame, and the command that sets it.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -11,10 +11,10 @@ struct View3D;
 
 namespace corvane::gui {
 
-/// The active frame when it shows data in space; else null.
+/// The active frame if it has data and shows them in 3D, else null.
 const host::Frame* spatialFrameWithData(const host::Session& session);
 
-/// Sets the view as a whole.
+/// One VIEW command with all values of the view.
 void setView(const Commands& commands, const host::View3D& view);
 
 } // namespace corvane::gui

@@ -1,4 +1,3 @@
-// A titled part of the sidebar that can be folded away.
 #include "host/gui/controls/CollapsibleSection.h"
 
 #include "host/gui/controls/SectionHeader.h"

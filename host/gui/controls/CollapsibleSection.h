@@ -1,4 +1,4 @@
-// A titled part of the sidebar that can be folded away.
+// A section of the sidebar that can be collapsed.
 #pragma once
 
 #include <QWidget>
@@ -7,7 +7,7 @@ namespace corvane::gui {
 
 class SectionHeader;
 
-/// Whether it is open is kept from one run to the next.
+/// Remembers whether it is open from one run to the next.
 class CollapsibleSection : public QWidget {
     Q_OBJECT
 

@@ -1,4 +1,3 @@
-// A button that shows a colour and asks for another.
 #include "host/gui/controls/ColorButton.h"
 
 #include <QColorDialog>

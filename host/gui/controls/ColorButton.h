@@ -1,4 +1,4 @@
-// A button that shows a colour and asks for another.
+// A button that shows a color and lets the user choose another.
 #pragma once
 
 #include <QColor>
@@ -13,7 +13,7 @@ public:
     explicit ColorButton(QWidget* parent = nullptr);
 
     QColor color() const { return m_color; }
-    /// Fires nothing.
+    /// Emits no signal.
     void setColor(const QColor& color);
 
 Q_SIGNALS:

@@ -1,4 +1,3 @@
-// A field for one number of any size.
 #include "host/gui/controls/NumberEdit.h"
 
 #include "host/gui/controls/Numbers.h"
@@ -15,7 +14,7 @@ NumberEdit::NumberEdit(QWidget* parent) : QLineEdit(parent) {
 
 void NumberEdit::setValue(double value) {
     m_value = value;
-    // What is being typed is the user's.
+    // Must not overwrite what the user is typing.
     if (!hasFocus() || !isModified()) {
         setText(shortText(value));
         setCursorPosition(0);

@@ -1,12 +1,12 @@
-// A field for one number of any size.
+// A text field for a number of any magnitude.
 #pragma once
 
 #include <QLineEdit>
 
 namespace corvane::gui {
 
-/// Shows six digits and keeps all. An entry counts when it is committed, by Return or when the
-/// focus leaves; one that is no number is taken back.
+/// Shows six digits and keeps full precision. An entry is committed by Return or when the field
+/// loses the focus; one that is not a number is reverted.
 class NumberEdit : public QLineEdit {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     explicit NumberEdit(QWidget* parent = nullptr);
 
     double value() const { return m_value; }
-    /// Fires nothing.
+    /// Emits no signal, and leaves alone what the user is typing.
     void setValue(double value);
 
     QSize sizeHint() const override;

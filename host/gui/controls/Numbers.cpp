@@ -1,4 +1,3 @@
-// Numbers as people and macros read them.
 #include "host/gui/controls/Numbers.h"
 
 namespace corvane::gui {

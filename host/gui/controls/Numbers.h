@@ -1,4 +1,4 @@
-// Numbers as people and macros read them.
+// Numbers as text for the user.
 #pragma once
 
 #include <QString>

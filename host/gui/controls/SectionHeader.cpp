@@ -1,4 +1,3 @@
-// The title of a part of the sidebar, with an arrow that tells whether it is open.
 #include "host/gui/controls/SectionHeader.h"
 
 #include <QPainter>

@@ -1,4 +1,4 @@
-// The title of a part of the sidebar, with an arrow that tells whether it is open.
+// The clickable title of a section, with an arrow that shows whether it is open.
 #pragma once
 
 #include <QAbstractButton>

@@ -1,4 +1,3 @@
-// A slider and a number field for one value.
 #include "host/gui/controls/ValueSlider.h"
 
 #include "host/gui/controls/NumberEdit.h"
@@ -15,7 +14,7 @@ namespace {
 
 constexpr int positions = 1000;
 
-/// Sliders give values that people would type: three digits of the range are enough.
+/// Rounds to about three digits of the range, to values that a user would type.
 double rounded(double value, double range) {
     if (!(range > 0.0)) {
         return value;
@@ -49,7 +48,7 @@ ValueSlider::ValueSlider(QWidget* parent)
         Q_EMIT committed(valueAt(position));
     });
     connect(m_slider, &QSlider::sliderReleased, this, [this] {
-        // A slider that comes back to where it was tells of no change, but was seen to make one.
+        // No valueChanged when the slider is back where it started, although drags were previewed.
         const int position = m_slider->sliderPosition();
         if (m_isDragged && position == m_slider->value()) {
             Q_EMIT committed(valueAt(position));

@@ -1,4 +1,4 @@
-// A slider and a number field for one value.
+// A slider combined with a number field.
 #pragma once
 
 #include <QWidget>
@@ -15,16 +15,16 @@ class ValueSlider : public QWidget {
 public:
     explicit ValueSlider(QWidget* parent = nullptr);
 
-    /// Of the slider. Numbers outside can be typed.
+    /// The range of the slider. Numbers outside of it can be typed.
     void setRange(double minimum, double maximum);
-    /// Fires nothing.
+    /// Emits no signal.
     void setValue(double value);
 
     QSlider& slider() const { return *m_slider; }
     NumberEdit& edit() const { return *m_edit; }
 
 Q_SIGNALS:
-    void dragged(double value); ///< the slider is on its way
+    void dragged(double value); ///< while the slider is being moved
     void committed(double value);
 
 private:

@@ -1,8 +1,7 @@
-// Gives the host its idle time.
 #include "host/gui/desktop/IdleDriver.h"
 
 #include "host/core/Host.h"
-#include "host/core/base/HostError.h"
+#include "host/gui/desktop/IdleRequests.h"
 #include "host/gui/view/PictureScreen.h"
 
 #include <QThread>
@@ -20,45 +19,35 @@ bool isInnerLoop() {
 
 } // namespace
 
-IdleDriver::IdleDriver(const PictureScreen& screen) : m_screen(screen) {
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &IdleDriver::run);
-}
-
-void IdleDriver::setHost(host::Host* host) {
-    m_host = host;
-    m_timer.stop();
+IdleDriver::IdleDriver(host::Host& host, const PictureScreen& screen, IdleRequests& requests)
+    : m_host(host), m_screen(screen), m_requests(requests) {
+    connect(&m_requests, &QTimer::timeout, this, &IdleDriver::run);
 }
 
 void IdleDriver::requestIdle() {
-    m_timer.start(0);
+    m_requests.requestIdle();
 }
 
 bool IdleDriver::isInterrupting() const {
-    return m_screen.isDrawing() || m_host->session().isAnimating() || m_host->macros().isPlaying();
+    return m_screen.isDrawing() || m_host.session().isAnimating() || m_host.macros().isPlaying();
 }
 
 void IdleDriver::run() {
-    if (m_host == nullptr) {
-        return;
-    }
     if (isInterrupting()) {
-        m_timer.start(retryMs);
+        m_requests.start(retryMs);
         return;
     }
     if (isInnerLoop()) {
-        m_timer.start(retryMs);
+        m_requests.start(retryMs);
         try {
-            m_host->session().drawing().drawIfDue();
-        } catch (const host::HostError&) {
-            // A message box over a message box helps nobody; the next picture will fail again.
+            m_host.session().drawing().drawIfDue();
+        } catch (const std::exception&) {
+            // One message box on top of another helps no user, and the next picture fails again.
         }
         return;
     }
-    m_host->session().onIdle();
-    if (onIdle) {
-        onIdle();
-    }
+    m_host.session().onIdle();
+    Q_EMIT idle();
 }
 
 } // namespace corvane::gui

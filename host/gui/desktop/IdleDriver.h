@@ -1,11 +1,7 @@
-// Gives the host its idle time.
+// Runs the host's idle work when the event loop is idle.
 #pragma once
 
-#include "host/core/ports/Ports.h"
-
 #include <QObject>
-#include <QTimer>
-#include <functional>
 
 namespace corvane::host {
 class Host;
@@ -13,31 +9,31 @@ class Host;
 
 namespace corvane::gui {
 
+class IdleRequests;
 class PictureScreen;
 
-/// The host's idle work runs when the program's own event loop has nothing else to do: not while
-/// something runs that looks after events by the way, and not in the loop of a message box, which
-/// may be up in the middle of a call of an add-on. There, drawing that is due is done nevertheless.
-class IdleDriver : public QObject, public host::IdleTimer {
+/// Idle work waits for the program's own event loop: it does not run while an animation or a macro
+/// handles events in between, nor in the loop of a message box, which may be up in the middle of a
+/// call of an add-on. There, pictures that are due are drawn nevertheless.
+class IdleDriver : public QObject {
     Q_OBJECT
 
 public:
-    explicit IdleDriver(const PictureScreen& screen);
+    /// All must outlive the driver.
+    IdleDriver(host::Host& host, const PictureScreen& screen, IdleRequests& requests);
 
-    /// Without a host nothing runs. It must be taken away before it ends.
-    void setHost(host::Host* host);
-    void requestIdle() override;
+    void requestIdle();
 
-    /// Called after the host's own idle work, with nothing else going on.
-    std::function<void()> onIdle;
+Q_SIGNALS:
+    void idle(); ///< the host's own idle work is done, and nothing else is going on
 
 private:
     void run();
     bool isInterrupting() const;
 
+    host::Host& m_host;
     const PictureScreen& m_screen;
-    host::Host* m_host = nullptr;
-    QTimer m_timer;
+    IdleRequests& m_requests;
 };
 
 } // namespace corvane::gui

@@ -1,4 +1,3 @@
-// Ties the window to the host: what the user does there, and what the host shows there.
 #include "host/gui/desktop/WindowController.h"
 
 #include "host/core/Host.h"
@@ -19,7 +18,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// An animation changes the state for every picture; controls follow a few times a second.
+/// An animation changes the state with every picture; updating a few times a second is enough.
 constexpr int refreshWhileBusyMs = 200;
 
 PlotSidebar* addSidebar(const Commands& commands, MainWindow& window) {
@@ -57,37 +56,35 @@ WindowController::WindowController(host::Host& host, MainWindow& window, IdleDri
     m_refresh.setSingleShot(true);
     connect(&m_refresh, &QTimer::timeout, this, &WindowController::refresh);
     connect(&m_macros, &MacroActions::recordingChanged, this, &WindowController::refreshStatus);
-    idle.setHost(&host);
-    idle.onIdle = [this] {
-        m_workArea.fit();
-        m_commands.host().macros().uncommanded().catchUp();
-        showExportFailure();
-    };
-    window.drawingArea().onResized = [this] {
+    connect(&idle, &IdleDriver::idle, this, &WindowController::onIdle);
+    connect(&window.drawingArea(), &DrawingArea::resized, this, [this] {
         m_workArea.fit();
         m_idle.requestIdle();
-    };
+    });
     window.drawingArea().setHint(tr("No data"),
                                  tr("Open data with Ctrl+O, or drop files into this window."));
-    window.mayClose = [this] { return mayClose(); };
-    window.onClosed = [this] {
-        keepWindow();
-        QApplication::quit();
-    };
+    window.installEventFilter(this);
     restoreWindow();
     refresh();
 }
 
 WindowController::~WindowController() {
-    // Fields commit what was typed when they lose the focus, which needs a host.
+    // Fields commit what was typed when they lose the focus, which needs the commands.
     delete m_sidebar;
     delete m_timeBar;
-    m_idle.setHost(nullptr);
-    m_idle.onIdle = nullptr;
-    m_window.drawingArea().onResized = nullptr;
-    m_window.mayClose = nullptr;
-    m_window.onClosed = nullptr;
-    m_window.onFilesDropped = nullptr;
+}
+
+bool WindowController::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() != QEvent::Close) {
+        return false;
+    }
+    if (!mayClose()) {
+        event->ignore();
+        return true;
+    }
+    saveWindow();
+    QApplication::quit();
+    return false;
 }
 
 void WindowController::addToolBar() {
@@ -110,10 +107,16 @@ void WindowController::restoreWindow() {
     m_window.restoreState(settings.value(QStringLiteral("window/state")).toByteArray());
 }
 
-void WindowController::keepWindow() const {
+void WindowController::saveWindow() const {
     QSettings settings;
     settings.setValue(QStringLiteral("window/geometry"), m_window.saveGeometry());
     settings.setValue(QStringLiteral("window/state"), m_window.saveState());
+}
+
+void WindowController::onIdle() {
+    m_workArea.fit();
+    m_commands.host().macros().uncommanded().catchUp();
+    showExportFailure();
 }
 
 void WindowController::refresh() {
@@ -157,7 +160,7 @@ void WindowController::refreshStatus() {
 }
 
 void WindowController::showExportFailure() {
-    // The add-on knows only that it was stopped; the cause is told once it has put all away.
+    // The add-on only knows that it was stopped; the user learns the cause once it has cleaned up.
     host::Exporter& exporter = m_commands.session().exporter();
     if (exporter.hasFailed() && !m_commands.isBusy()) {
         const std::string cause = exporter.failure();

@@ -1,4 +1,4 @@
-// Ties the window to the host: what the user does there, and what the host shows there.
+// Connects the main window to the host: actions and panels, and what they show.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -38,11 +38,15 @@ public:
     TimePlayer& time() { return m_time; }
     PlotSidebar& sidebar() { return *m_sidebar; }
 
+    /// Decides whether the window may be closed, and ends the program when it is.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void addToolBar();
     void restoreWindow();
-    void keepWindow() const;
-    /// Looks at everything again; much may have changed since the last time.
+    void saveWindow() const;
+    void onIdle();
+    /// Updates everything that shows the state of the host.
     void refresh();
     void refreshTitle();
     void refreshStatus();

@@ -1,8 +1,9 @@
-// A host with windows: the ports that are windows, the host itself, and its main window.
+// A host with windows: its main window, the ports that are windows, and the host itself.
 #pragma once
 
 #include "host/core/Host.h"
 #include "host/gui/desktop/IdleDriver.h"
+#include "host/gui/desktop/IdleRequests.h"
 #include "host/gui/desktop/WindowController.h"
 #include "host/gui/status/StatusBarDisplay.h"
 #include "host/gui/view/FramePacer.h"
@@ -16,13 +17,13 @@
 
 namespace corvane::gui {
 
-/// What a desktop needs of the rest of the program; all must outlive it.
+/// What a host with windows needs of the rest of the program; all must outlive it.
 struct WindowedHostParts {
     host::Renderer& renderer;
     host::DataReader& reader;
     host::MovieWriters& movies;
     host::PictureFiles& pictures;
-    host::UserPrompts* prompts = nullptr; ///< null: boxes over the main window
+    host::UserPrompts* prompts = nullptr; ///< null: message boxes over the main window
     QString helpFolder;                   ///< where the help pages are
 };
 
@@ -38,21 +39,22 @@ public:
     MainWindow& window() { return m_window; }
     WindowController& controller() { return m_controller; }
 
-    /// Asks what is under way to end, as the Stop button does.
+    /// Stops a running animation, as the Stop button does.
     void stopWork() { m_status.requestStop(); }
     /// Shows a sentence in the status line for some seconds.
-    void tell(const std::string& notice);
+    void showNotice(const std::string& notice);
 
 private:
     MainWindow m_window;
     FramePacer m_pacer;
     PictureScreen m_screen;
+    IdleRequests m_idleRequests;
     StatusBarDisplay m_status;
-    IdleDriver m_idle;
     QtUserPrompts m_prompts;
     QtWidgets m_widgets;
     QtMainMenu m_mainMenu;
     host::Host m_host;
+    IdleDriver m_idle;
     WindowController m_controller;
 };
 

@@ -1,4 +1,3 @@
-// The program, its add-ons, and what it is built with.
 #include "host/gui/menus/AboutBox.h"
 
 #include "host/core/Host.h"

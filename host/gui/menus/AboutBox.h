@@ -1,4 +1,4 @@
-// The program, its add-ons, and what it is built with.
+// Shows the program's version, its add-ons and the libraries it is built with.
 #pragma once
 
 #include <QDialog>

@@ -1,4 +1,3 @@
-// Asks where to and how large a picture is to be written.
 #include "host/gui/menus/ExportPictureDialog.h"
 
 #include "host/core/base/Limits.h"
@@ -103,7 +102,7 @@ void ExportPictureDialog::accept() {
 }
 
 void ExportPictureDialog::browse() {
-    // The question about an existing file comes when the picture is saved.
+    // accept() asks about replacing an existing file.
     const QString chosen =
         QFileDialog::getSaveFileName(this, windowTitle(), fileName(), tr("Pictures (*.png)"),
                                      nullptr, QFileDialog::DontConfirmOverwrite);

@@ -1,4 +1,4 @@
-// Asks where to and how large a picture is to be written.
+// Asks for the file, size and smoothing of a picture to export.
 #pragma once
 
 #include <QDialog>
@@ -16,10 +16,10 @@ class ExportPictureDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// The size of the work area in pixels: what is written by default, and the shape.
+    /// The size of the work area in pixels: the default size and the aspect ratio.
     ExportPictureDialog(int width, int height, QWidget* parent);
 
-    /// What the command PICTURE takes.
+    /// The arguments of the command PICTURE.
     std::vector<std::string> words() const;
 
     void accept() override;

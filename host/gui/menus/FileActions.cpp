@@ -1,4 +1,3 @@
-// Opening data and exporting pictures: the File menu.
 #include "host/gui/menus/FileActions.h"
 
 #include "host/core/Host.h"
@@ -40,8 +39,8 @@ FileActions::FileActions(const Commands& commands, MainWindow& window)
     m_copy = addAction(
         edit, tr("&Copy Picture"), [this] { copyPicture(); },
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
-    m_recent->onChosen = [this](const QStringList& files) { openData(files); };
-    window.onFilesDropped = [this](const QStringList& files) { openData(files); };
+    connect(m_recent, &RecentFiles::chosen, this, &FileActions::openData);
+    connect(&window, &MainWindow::filesDropped, this, &FileActions::openData);
 }
 
 void FileActions::askAndOpen() {

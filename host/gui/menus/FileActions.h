@@ -1,4 +1,4 @@
-// Opening data and exporting pictures: the File menu.
+// The File menu: opening data and exporting pictures; and copying pictures.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -19,7 +19,8 @@ class FileActions : public QObject {
 public:
     FileActions(const Commands& commands, MainWindow& window);
 
-    /// As one data set. False: the user was told why not, and the data from before are still there.
+    /// Opens the files as one data set. False after a failure, which has been reported; the data
+    /// loaded before stay then.
     bool openData(const QStringList& files);
 
     QAction& openAction() const { return *m_open; }

@@ -1,4 +1,3 @@
-// Several frames on one page: the Frame menu.
 #include "host/gui/menus/FrameActions.h"
 
 #include "host/core/Host.h"

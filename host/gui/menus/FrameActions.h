@@ -1,4 +1,4 @@
-// Several frames on one page: the Frame menu.
+// The Frame menu: arranging several frames on the page.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -24,7 +24,7 @@ public:
 private:
     enum class Side { Right, Bottom };
 
-    /// Halves the active frame, and puts a new one into the other half.
+    /// Halves the active frame, and creates a new one in the other half.
     void split(Side side);
 
     Commands m_commands;

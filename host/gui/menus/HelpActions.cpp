@@ -1,4 +1,3 @@
-// Keys, add-ons and the program itself: the Help menu.
 #include "host/gui/menus/HelpActions.h"
 
 #include "host/gui/commands/MenuActions.h"

@@ -1,4 +1,4 @@
-// Keys, add-ons and the program itself: the Help menu.
+// The Help menu: mouse and keys, and about the program.
 #pragma once
 
 #include "host/gui/commands/Commands.h"

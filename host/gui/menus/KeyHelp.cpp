@@ -1,4 +1,3 @@
-// What mouse and keys do.
 #include "host/gui/menus/KeyHelp.h"
 
 #include <QDialogButtonBox>
@@ -10,7 +9,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// An empty key begins a part with a heading.
+/// With empty keys, the heading of a group.
 struct Line {
     const char* keys;
     const char* meaning;

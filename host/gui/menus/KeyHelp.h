@@ -1,4 +1,4 @@
-// What mouse and keys do.
+// Lists what the mouse and the keys do.
 #pragma once
 
 #include <QDialog>

@@ -1,4 +1,3 @@
-// Playing and recording macros: the Macro menu.
 #include "host/gui/menus/MacroActions.h"
 
 #include "host/core/Host.h"

@@ -1,4 +1,4 @@
-// Playing and recording macros: the Macro menu.
+// The Macro menu: playing and recording macros.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -18,19 +18,19 @@ public:
     MacroActions(const Commands& commands, MainWindow& window);
 
     bool play(const QString& fileName);
-    /// Records from now on; the file is written when the recording is stopped, or at the end.
+    /// Starts recording; the file is written when the recording is stopped or the program quits.
     void recordTo(const QString& fileName);
-    /// Ends the recording and writes it to the file, or, when that fails, goes on with nothing
-    /// lost. False: the user was told why.
+    /// Writes the recording to the file and ends it. When writing fails, that is reported, and the
+    /// recording goes on with nothing lost: false.
     bool stopRecording(const QString& fileName);
-    /// Of the recording that is under way, when it is known; else empty.
+    /// The file of the current recording; empty when the user has yet to choose one.
     const QString& file() const { return m_file; }
-    /// Writes a recording whose file is known; asks when one would be lost.
+    /// Writes a recording whose file is known; asks the user when one would be lost.
     bool mayQuit();
     void refresh();
 
 Q_SIGNALS:
-    void recordingChanged(); ///< begun or ended
+    void recordingChanged(); ///< started or ended
 
 private:
     void record();

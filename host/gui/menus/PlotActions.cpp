@@ -1,4 +1,3 @@
-// What is switched on and off often: the Plot menu.
 #include "host/gui/menus/PlotActions.h"
 
 #include "host/gui/commands/MenuActions.h"

@@ -1,4 +1,4 @@
-// What is switched on and off often: the Plot menu.
+// The Plot menu: toggles for styles that are switched often.
 #pragma once
 
 #include "host/gui/panels/StyleEditor.h"

@@ -1,4 +1,3 @@
-// The data that were opened last, as a menu.
 #include "host/gui/menus/RecentFiles.h"
 
 #include <QFileInfo>
@@ -70,11 +69,8 @@ void RecentFiles::rebuild() {
     const QList<QStringList> entries = load();
     setEnabled(!entries.isEmpty());
     for (const QStringList& files : entries) {
-        connect(addAction(labelOf(files)), &QAction::triggered, this, [this, files] {
-            if (onChosen) {
-                onChosen(files);
-            }
-        });
+        connect(addAction(labelOf(files)), &QAction::triggered, this,
+                [this, files] { Q_EMIT chosen(files); });
     }
     if (!entries.isEmpty()) {
         addSeparator();

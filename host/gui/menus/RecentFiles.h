@@ -1,13 +1,12 @@
-// The data that were opened last, as a menu.
+// A menu of recently opened data.
 #pragma once
 
 #include <QMenu>
 #include <QStringList>
-#include <functional>
 
 namespace corvane::gui {
 
-/// One entry is what was opened at once: one or several files.
+/// An entry stands for all files of one data set.
 class RecentFiles : public QMenu {
     Q_OBJECT
 
@@ -19,7 +18,8 @@ public:
     void add(const QStringList& files);
     void remove(const QStringList& files);
 
-    std::function<void(const QStringList&)> onChosen;
+Q_SIGNALS:
+    void chosen(const QStringList& files);
 
 private:
     static QList<QStringList> load();

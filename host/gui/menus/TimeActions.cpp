@@ -1,4 +1,3 @@
-// Playing and stepping through time: in the menus Animate and Data, and as keys.
 #include "host/gui/menus/TimeActions.h"
 
 #include "host/gui/commands/MenuActions.h"

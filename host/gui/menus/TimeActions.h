@@ -1,4 +1,4 @@
-// Playing and stepping through time: in the menus Animate and Data, and as keys.
+// Playing and stepping through time, in the menus Animate and Data and with keys.
 #pragma once
 
 #include <QList>

@@ -1,4 +1,3 @@
-// Fitting, looking along axes, perspective: the View menu.
 #include "host/gui/menus/ViewActions.h"
 
 #include "host/core/Host.h"

@@ -1,4 +1,4 @@
-// Fitting, looking along axes, perspective: the View menu.
+// The View menu: fitting, views along the axes, perspective.
 #pragma once
 
 #include "host/gui/commands/Commands.h"

@@ -1,4 +1,3 @@
-// What concerns the window alone: its colours, its sidebar, what the data are.
 #include "host/gui/menus/WindowActions.h"
 
 #include "host/core/Host.h"

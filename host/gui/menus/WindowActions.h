@@ -1,4 +1,4 @@
-// What concerns the window alone: its colours, its sidebar, what the data are.
+// Actions of the window itself: sidebar, full screen, color scheme and data information.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -16,7 +16,7 @@ class WindowActions : public QObject {
     Q_OBJECT
 
 public:
-    /// The sidebar is switched on and off by an action; it must outlive the actions.
+    /// All must outlive the actions.
     WindowActions(const Commands& commands, MainWindow& window, QDockWidget& sidebar);
 
     QAction& sidebarAction() const { return *m_sidebar; }

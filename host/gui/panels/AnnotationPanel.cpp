@@ -1,4 +1,3 @@
-// What stands around the plots.
 #include "host/gui/panels/AnnotationPanel.h"
 
 namespace corvane::gui {

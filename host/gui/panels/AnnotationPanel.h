@@ -1,4 +1,4 @@
-// What stands around the plots.
+// The settings of title, axis, background and other annotations.
 #pragma once
 
 #include "host/gui/panels/StylePanel.h"

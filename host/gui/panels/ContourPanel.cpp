@@ -1,4 +1,3 @@
-// What plots are coloured by.
 #include "host/gui/panels/ContourPanel.h"
 
 #include "host/core/page/DataSet.h"
@@ -21,7 +20,7 @@ ContourPanel::ContourPanel(const Commands& commands) : StylePanel(commands) {
     QCheckBox& automatic = addFlag(tr("Range of all values"), "Contour/AutomaticRange");
     connect(&automatic, &QCheckBox::clicked, this, [this](bool isOn) {
         if (!isOn) {
-            beginWithFullRange();
+            startWithFullRange();
         }
         refresh();
     });
@@ -43,8 +42,8 @@ void ContourPanel::refresh() {
     }
 }
 
-void ContourPanel::beginWithFullRange() {
-    // A range of one's own begins with the one that is seen, not with that of another variable.
+void ContourPanel::startWithFullRange() {
+    // A fixed range starts out as the visible one, not as one left from another variable.
     if (const auto range = data() != nullptr ? rangeOf(*data(), editor().text("Contour/Variable"))
                                              : std::nullopt) {
         editor().set("Contour/Minimum", range->first);

@@ -1,4 +1,4 @@
-// What plots are coloured by.
+// The settings of the variable, range and color map that plots are colored by.
 #pragma once
 
 #include "host/gui/panels/StylePanel.h"
@@ -14,7 +14,7 @@ public:
     void refresh() override;
 
 private:
-    void beginWithFullRange();
+    void startWithFullRange();
 
     NumberEdit* m_minimum;
     NumberEdit* m_maximum;

@@ -1,4 +1,3 @@
-// What is in the data of a frame.
 #include "host/gui/panels/DataInformation.h"
 
 #include "host/core/page/DataSet.h"

@@ -1,4 +1,4 @@
-// What is in the data of a frame.
+// Shows the files, times, extent, variables and blocks of a data set.
 #pragma once
 
 #include <QDialog>

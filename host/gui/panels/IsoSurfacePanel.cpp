@@ -1,4 +1,3 @@
-// Surfaces of constant value.
 #include "host/gui/panels/IsoSurfacePanel.h"
 
 #include "host/core/page/DataSet.h"
@@ -16,7 +15,7 @@ IsoSurfacePanel::IsoSurfacePanel(const Commands& commands) : PlotListPanel(comma
     QComboBox& variable = addQuantity(tr("Variable"), "Variable", Quantities::All);
     m_value = &addSlider(tr("Value"), "Value", 0.0, 1.0);
     connect(&variable, &QComboBox::activated, this, &IsoSurfacePanel::moveToMiddle);
-    addLook();
+    addAppearanceRows();
 }
 
 int IsoSurfacePanel::count() const {
@@ -38,7 +37,7 @@ void IsoSurfacePanel::refreshForm() {
 }
 
 void IsoSurfacePanel::moveToMiddle() {
-    // The value of another variable may be one that this one never has.
+    // The former value may lie outside of the range of the new variable.
     if (const auto range =
             data() != nullptr ? rangeOf(*data(), editor().text("Variable")) : std::nullopt) {
         editor().set("Value", 0.5 * range->first + 0.5 * range->second);

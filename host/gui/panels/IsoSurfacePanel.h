@@ -1,4 +1,4 @@
-// Surfaces of constant value.
+// The settings of isosurfaces.
 #pragma once
 
 #include "host/gui/panels/PlotListPanel.h"

@@ -1,4 +1,3 @@
-// How the scene is lit.
 #include "host/gui/panels/LightPanel.h"
 
 namespace corvane::gui {

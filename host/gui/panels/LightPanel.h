@@ -1,4 +1,4 @@
-// How the scene is lit.
+// The settings of the light.
 #pragma once
 
 #include "host/gui/panels/StylePanel.h"

@@ -1,4 +1,3 @@
-// Several plots of one kind: a list to show and choose them, and a form for the chosen ones.
 #include "host/gui/panels/PlotListPanel.h"
 
 #include "host/core/Host.h"
@@ -105,7 +104,7 @@ void PlotListPanel::choose() {
         }
     }
     if (prefixes.empty()) {
-        return; // the form goes on showing what it showed
+        return; // the form keeps showing the former ones
     }
     editor().setPrefixes(std::move(prefixes));
     showChosen();
@@ -119,7 +118,7 @@ void PlotListPanel::showChosen() {
     refreshForm();
 }
 
-void PlotListPanel::addLook() {
+void PlotListPanel::addAppearanceRows() {
     addFlag(tr("Colour by variable"), "UseContour");
     m_color = &addColor(tr("Colour"), "Color");
     addSlider(tr("Opacity"), "Opacity", 0.0, 1.0);

@@ -1,4 +1,4 @@
-// Several plots of one kind: a list to show and choose them, and a form for the chosen ones.
+// The settings of plots of one kind: a list to show and select them, and a form for those selected.
 #pragma once
 
 #include "host/gui/panels/StylePanel.h"
@@ -11,7 +11,7 @@ class PlotListPanel : public StylePanel {
     Q_OBJECT
 
 public:
-    /// The first keyword of the paths: "Slice".
+    /// keyword: the first one of the style paths, such as "Slice".
     PlotListPanel(const Commands& commands, std::string keyword);
 
     void refresh() override;
@@ -20,12 +20,12 @@ public:
 
 protected:
     virtual int count() const = 0;
-    virtual QString titleOf(int number) const = 0; ///< numbers count from 1
-    /// Shows what the form depends on beside its own values.
+    virtual QString titleOf(int number) const = 0; ///< from 1
+    /// Updates what the form depends on besides its style values, such as the range of a slider.
     virtual void refreshForm() {}
 
-    /// Colour by a variable or one colour, and opacity: what all kinds have.
-    void addLook();
+    /// Color by variable, color and opacity, which all kinds have.
+    void addAppearanceRows();
     host::StyleInput valueOf(int number, const std::string& path) const;
 
 private:

@@ -1,4 +1,3 @@
-// The dock with everything that can be said about the plots.
 #include "host/gui/panels/PlotSidebar.h"
 
 #include "host/gui/commands/ViewCommand.h"

@@ -1,4 +1,4 @@
-// The dock with everything that can be said about the plots.
+// The dock with the settings of all plots, in collapsible sections.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -18,7 +18,7 @@ class PlotSidebar : public QDockWidget {
 public:
     explicit PlotSidebar(const Commands& commands);
 
-    /// Shows what the active frame says. Fires nothing.
+    /// Shows the values of the active frame. Performs no commands.
     void refresh();
 
 private:

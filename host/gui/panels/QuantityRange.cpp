@@ -1,4 +1,3 @@
-// The range of a quantity of the data.
 #include "host/gui/panels/QuantityRange.h"
 
 #include "host/core/page/DataSet.h"

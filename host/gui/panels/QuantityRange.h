@@ -1,4 +1,4 @@
-// The range of a quantity of the data.
+// The range of values of a quantity of the data.
 #pragma once
 
 #include <optional>
@@ -11,8 +11,8 @@ class DataSet;
 
 namespace corvane::gui {
 
-/// Least and largest value of an array, of the length of a vector, or a range that holds those of a
-/// component ("U:X"). Nothing for an unknown name.
+/// The minimum and maximum of a scalar or of the magnitude of a vector; for a component of a vector
+/// ("U:X") a range that contains all of its values. Nothing for an unknown name.
 std::optional<std::pair<double, double>> rangeOf(const host::DataSet& data,
                                                  const std::string& quantity);
 

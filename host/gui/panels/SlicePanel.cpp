@@ -1,4 +1,3 @@
-// Planes cut through the data.
 #include "host/gui/panels/SlicePanel.h"
 
 #include "host/core/page/DataSet.h"
@@ -29,7 +28,7 @@ SlicePanel::SlicePanel(const Commands& commands) : PlotListPanel(commands, "Slic
                                 {{tr("X axis"), "1"}, {tr("Y axis"), "2"}, {tr("Z axis"), "3"}});
     m_position = &addSlider(tr("Position"), "Position", 0.0, 1.0);
     connect(&axis, &QComboBox::activated, this, &SlicePanel::moveToMiddle);
-    addLook();
+    addAppearanceRows();
 }
 
 int SlicePanel::count() const {
@@ -50,7 +49,7 @@ void SlicePanel::refreshForm() {
 }
 
 void SlicePanel::moveToMiddle() {
-    // The position along another axis may lie outside of the data.
+    // The former position may lie outside of the data along the new axis.
     if (data() != nullptr && !data()->bounds.isEmpty() && editor().get("Axis")) {
         const auto [minimum, maximum] = extentAlong(*data(), std::get<long>(*editor().get("Axis")));
         editor().set("Position", 0.5 * (minimum + maximum));

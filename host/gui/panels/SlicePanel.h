@@ -1,4 +1,4 @@
-// Planes cut through the data.
+// The settings of slices.
 #pragma once
 
 #include "host/gui/panels/PlotListPanel.h"

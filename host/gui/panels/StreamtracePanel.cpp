@@ -1,4 +1,3 @@
-// Lines along the flow, and what travels along them.
 #include "host/gui/panels/StreamtracePanel.h"
 
 #include "host/gui/controls/ColorButton.h"

@@ -1,4 +1,4 @@
-// Lines along the flow, and what travels along them.
+// The settings of streamtraces and their markers and dashes.
 #pragma once
 
 #include "host/gui/panels/StylePanel.h"

@@ -1,4 +1,3 @@
-// Binds controls to style values.
 #include "host/gui/panels/StyleEditor.h"
 
 #include "host/core/Host.h"
@@ -18,7 +17,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// Colours of a screen have 256 steps; three digits tell them apart.
+/// Three digits are enough to distinguish the 256 levels of a screen.
 double colorPart(float part) {
     return std::round(static_cast<double>(part) * 1000.0) / 1000.0;
 }
@@ -145,7 +144,7 @@ void StyleEditor::preview(const std::string& path, double value) {
 }
 
 void StyleEditor::setColor(const std::string& path, const QColor& chosen) {
-    // Taken first: showing the value after the first part is set changes the button's colour.
+    // A copy, since the refresh after the first component changes the color of the button.
     const QColor color = chosen;
     set(path + "/Red", colorPart(color.redF()));
     set(path + "/Green", colorPart(color.greenF()));

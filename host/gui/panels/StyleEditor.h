@@ -1,4 +1,4 @@
-// Binds controls to style values.
+// Binds controls to style values of the active frame.
 #pragma once
 
 #include "host/core/page/StyleTree.h"
@@ -21,9 +21,9 @@ class ColorButton;
 class NumberEdit;
 class ValueSlider;
 
-/// What the user changes becomes a STYLE command; what changes elsewhere is shown by refresh(),
-/// which fires nothing. Paths are completed by prefixes: the first one's values are shown, and a
-/// change is made to all.
+/// A change by the user becomes a STYLE command; refresh() shows changes made elsewhere, and
+/// performs none. Paths are appended to each of the prefixes: the values under the first prefix are
+/// shown, and a change applies to all.
 class StyleEditor : public QObject {
     Q_OBJECT
 
@@ -37,9 +37,9 @@ public:
     void bind(NumberEdit& edit, const std::string& path);
     void bind(ValueSlider& slider, const std::string& path);
     void bind(QLineEdit& edit, const std::string& path);
-    /// The items' data are the values as macros write them.
+    /// The data of the items are the values as written in macros.
     void bind(QComboBox& box, const std::string& path);
-    /// Red, Green and Blue below the path.
+    /// The values Red, Green and Blue below the path.
     void bind(ColorButton& button, const std::string& path);
 
     void refresh();
@@ -52,6 +52,7 @@ public:
     void set(const std::string& path, double value);
 
 private:
+    /// Shows a value while a slider is dragged, without a command that would be recorded.
     void preview(const std::string& path, double value);
     void setColor(const std::string& path, const QColor& color);
     QColor color(const std::string& path) const;

@@ -1,4 +1,3 @@
-// A form over style values, one part of the sidebar.
 #include "host/gui/panels/StylePanel.h"
 
 #include "host/core/Host.h"
@@ -19,7 +18,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// Names of arrays, and of the components of vectors.
+/// The names of variables, and of the components of vectors.
 std::vector<std::string> namesOf(const host::DataSet& data, Quantities quantities) {
     std::vector<std::string> names;
     for (const host::Variable& variable : data.variables) {

@@ -1,4 +1,4 @@
-// A form over style values, one part of the sidebar.
+// A form of style values, the content of a section of the sidebar.
 #pragma once
 
 #include "host/gui/panels/StyleEditor.h"
@@ -14,7 +14,7 @@ class Frame;
 
 namespace corvane::gui {
 
-/// One item of a choice: what the user reads, and how macros write it.
+/// An item of a choice: its label, and the value as written in macros.
 struct Choice {
     QString text;
     std::string value;
@@ -28,17 +28,17 @@ class StylePanel : public QWidget {
 public:
     explicit StylePanel(const Commands& commands);
 
-    /// Shows what the active frame says.
+    /// Shows the values of the active frame.
     virtual void refresh();
 
 protected:
-    /// Of the active frame, when it shows 3D: else it has no styles. Or null.
+    /// The data of the active frame if it shows 3D, since it has no styles otherwise; or null.
     const host::DataSet* data() const;
     StyleEditor& editor() { return m_editor; }
     const Commands& commands() const { return m_commands; }
     QFormLayout& form() { return *m_form; }
 
-    // Rows of the form. Controls are named after their paths.
+    // Add a row to the form. The object names of the controls are their paths.
     QCheckBox& addFlag(const QString& text, const std::string& path);
     NumberEdit& addNumber(const QString& label, const std::string& path);
     ValueSlider& addSlider(const QString& label, const std::string& path, double minimum,
@@ -48,7 +48,7 @@ protected:
                          const std::vector<Choice>& choices);
     QComboBox& addQuantity(const QString& label, const std::string& path, Quantities quantities);
     ColorButton& addColor(const QString& label, const std::string& path);
-    /// X, Y and Z below the path.
+    /// The values X, Y and Z below the path.
     void addPoint(const QString& label, const std::string& path);
     void addRow(const QString& label, QWidget& control);
 

@@ -1,4 +1,3 @@
-// The blocks of the data as surfaces.
 #include "host/gui/panels/SurfacePanel.h"
 
 #include "host/core/page/DataSet.h"
@@ -7,7 +6,7 @@
 namespace corvane::gui {
 
 SurfacePanel::SurfacePanel(const Commands& commands) : PlotListPanel(commands, "Surface") {
-    addLook();
+    addAppearanceRows();
     addFlag(tr("Mesh"), "ShowMesh");
 }
 

@@ -1,4 +1,4 @@
-// The blocks of the data as surfaces.
+// The settings of the surfaces of blocks.
 #pragma once
 
 #include "host/gui/panels/PlotListPanel.h"

@@ -1,4 +1,3 @@
-// Keeps the user away from everything but Stop and Esc while an animation plays.
 #include "host/gui/status/InputBlocker.h"
 
 #include <QApplication>
@@ -41,19 +40,19 @@ bool isKeyInput(QEvent::Type type) {
 } // namespace
 
 InputBlocker::~InputBlocker() {
-    lower();
+    unblock();
 }
 
-void InputBlocker::raise() {
-    if (!m_isUp) {
-        m_isUp = true;
+void InputBlocker::block() {
+    if (!m_isBlocking) {
+        m_isBlocking = true;
         qApp->installEventFilter(this);
     }
 }
 
-void InputBlocker::lower() {
-    if (m_isUp) {
-        m_isUp = false;
+void InputBlocker::unblock() {
+    if (m_isBlocking) {
+        m_isBlocking = false;
         qApp->removeEventFilter(this);
     }
 }
@@ -61,14 +60,14 @@ void InputBlocker::lower() {
 bool InputBlocker::eventFilter(QObject* receiver, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::Close) {
-        event->ignore(); // an accepted event would close the window although nobody saw it
+        event->ignore(); // an accepted event would close the window although it was filtered
         return true;
     }
     if (isKeyInput(type)) {
         handleKey(event);
         return true;
     }
-    // Windows pass their events on to widgets, where they come by again.
+    // Native windows pass their events on to widgets, where they are filtered.
     return isPointerInput(type) && receiver->isWidgetType() && !isForStopButton(receiver);
 }
 
@@ -77,10 +76,10 @@ bool InputBlocker::isForStopButton(QObject* receiver) const {
 }
 
 void InputBlocker::handleKey(QEvent* event) {
-    event->accept(); // an override that is accepted keeps shortcuts away
-    if (event->type() == QEvent::KeyPress && onEscape &&
+    event->accept(); // an accepted override keeps shortcuts from being triggered
+    if (event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        onEscape();
+        Q_EMIT escapePressed();
     }
 }
 

@@ -1,4 +1,3 @@
-// What stands in the status line: a text, and progress with a Stop button while something runs.
 #include "host/gui/status/ProgressStrip.h"
 
 #include <QHBoxLayout>
@@ -28,7 +27,7 @@ ProgressStrip::ProgressStrip(QWidget* parent)
     m_stop->setObjectName(QStringLiteral("stop"));
     m_stop->setFocusPolicy(Qt::NoFocus);
     m_stop->setToolTip(tr("Stop (Esc)"));
-    // The line keeps its height when progress comes and goes, so that the picture is not resized.
+    // Hidden parts keep their space, so that showing progress does not resize the picture.
     for (QWidget* const part : {static_cast<QWidget*>(m_bar), static_cast<QWidget*>(m_stop)}) {
         QSizePolicy policy = part->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -52,7 +51,7 @@ void ProgressStrip::setIdleText(const QString& text) {
     showIdleText();
 }
 
-void ProgressStrip::tell(const QString& notice) {
+void ProgressStrip::showNotice(const QString& notice) {
     m_notice = notice;
     m_noticeEnd.start(noticeMs);
     showIdleText();

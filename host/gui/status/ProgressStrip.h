@@ -1,4 +1,4 @@
-// What stands in the status line: a text, and progress with a Stop button while something runs.
+// The status line: a text, and progress with a Stop button while an animation runs.
 #pragma once
 
 #include <QTimer>
@@ -16,10 +16,10 @@ class ProgressStrip : public QWidget {
 public:
     explicit ProgressStrip(QWidget* parent = nullptr);
 
-    /// What stands there as long as nothing runs.
+    /// The text while nothing is running.
     void setIdleText(const QString& text);
-    /// Stands there instead for some seconds, as soon as nothing runs.
-    void tell(const QString& notice);
+    /// Replaces the idle text for some seconds; shown once nothing is running.
+    void showNotice(const QString& notice);
 
     void start(const QString& text, bool showStop, bool showProgress);
     void setText(const QString& text);

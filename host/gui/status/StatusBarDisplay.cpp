@@ -1,4 +1,3 @@
-// The percent-done display of a window, and the user's wish to stop.
 #include "host/gui/status/StatusBarDisplay.h"
 
 #include "host/gui/base/QtText.h"
@@ -12,21 +11,21 @@ namespace corvane::gui {
 
 namespace {
 
-/// The host asks thousands of times a second; events are looked at some 60 times.
+/// The host asks thousands of times a second; 60 times is often enough to process events.
 constexpr qint64 eventIntervalMs = 16;
 
 } // namespace
 
-StatusBarDisplay::StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer)
-    : m_strip(strip), m_pacer(pacer), m_blocker(strip.stopButton()) {
-    m_blocker.onEscape = [this] { requestStop(); };
+StatusBarDisplay::StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer, host::IdleTimer& idle)
+    : m_strip(strip), m_pacer(pacer), m_idle(idle), m_blocker(strip.stopButton()) {
+    connect(&m_blocker, &InputBlocker::escapePressed, this, &StatusBarDisplay::requestStop);
     connect(&strip.stopButton(), &QPushButton::clicked, this, &StatusBarDisplay::requestStop);
 }
 
 void StatusBarDisplay::start(const std::string& text, bool showStop, bool showProgress) {
     m_isStopped = false;
     m_strip.start(toQt(text), showStop, showProgress);
-    m_blocker.raise();
+    m_blocker.block();
     m_sinceEvents.invalidate();
 }
 
@@ -39,20 +38,18 @@ void StatusBarDisplay::setPercent(int percent) {
 }
 
 void StatusBarDisplay::finish() {
-    m_blocker.lower();
+    m_blocker.unblock();
     m_strip.finish();
-    if (onFinished) {
-        onFinished();
-    }
+    m_idle.requestIdle();
 }
 
 bool StatusBarDisplay::isStopRequested() {
     m_pacer.waitForDisplay();
-    lookAfterEvents();
+    processEvents();
     return m_isStopped;
 }
 
-void StatusBarDisplay::lookAfterEvents() {
+void StatusBarDisplay::processEvents() {
     if (m_sinceEvents.isValid() && m_sinceEvents.elapsed() < eventIntervalMs) {
         return;
     }

@@ -1,4 +1,4 @@
-// The percent-done display of a window, and the user's wish to stop.
+// Shows the host's progress in the status line, and takes the user's request to stop.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -12,12 +12,13 @@ namespace corvane::gui {
 class FramePacer;
 class ProgressStrip;
 
-/// Strip and pacer must outlive the display.
+/// All must outlive the display.
 class StatusBarDisplay : public QObject, public host::StatusDisplay {
     Q_OBJECT
 
 public:
-    StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer);
+    /// Idle time is requested when progress ends, since much waits for that.
+    StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer, host::IdleTimer& idle);
 
     void start(const std::string& text, bool showStop, bool showProgress) override;
     void setText(const std::string& text) override;
@@ -25,17 +26,15 @@ public:
     void finish() override;
     bool isStopRequested() override;
 
-    /// As the Stop button does; without work nothing.
+    /// As the Stop button does. Has no effect when nothing is running.
     void requestStop() { m_isStopped = true; }
 
-    /// Called when what was running has ended.
-    std::function<void()> onFinished;
-
 private:
-    void lookAfterEvents();
+    void processEvents();
 
     ProgressStrip& m_strip;
     FramePacer& m_pacer;
+    host::IdleTimer& m_idle;
     InputBlocker m_blocker;
     QElapsedTimer m_sinceEvents;
     bool m_isStopped = false;

@@ -1,4 +1,3 @@
-// The times at which data can be shown.
 #include "host/gui/time/SolutionTimes.h"
 
 #include "host/core/page/DataSet.h"

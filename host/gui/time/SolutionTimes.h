@@ -1,4 +1,4 @@
-// The times at which data can be shown.
+// The solution times of a data set.
 #pragma once
 
 #include <vector>
@@ -9,11 +9,11 @@ class DataSet;
 
 namespace corvane::gui {
 
-/// Ascending, without doubles; empty for data that do not change with time.
+/// Ascending, without duplicates; empty for steady data.
 std::vector<double> solutionTimes(const host::DataSet& data);
 
-/// The place of the largest time not above the given one (tolerance as in zonesAtTime); the first
-/// one when there is none.
+/// The index of the largest time not above the given one (tolerance as in zonesAtTime); 0 if there
+/// is none.
 int indexAt(const std::vector<double>& times, double time);
 
 } // namespace corvane::gui

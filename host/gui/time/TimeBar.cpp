@@ -1,4 +1,3 @@
-// A slider through the solution times, with buttons to step and to play.
 #include "host/gui/time/TimeBar.h"
 
 #include "host/gui/base/Icons.h"

@@ -1,4 +1,4 @@
-// A slider through the solution times, with buttons to step and to play.
+// The bar with a slider over the solution times, and buttons to step and to play.
 #pragma once
 
 #include <QWidget>
@@ -12,7 +12,7 @@ namespace corvane::gui {
 enum class Icon;
 class TimePlayer;
 
-/// Hidden for data without times.
+/// Hidden for steady data.
 class TimeBar : public QWidget {
     Q_OBJECT
 

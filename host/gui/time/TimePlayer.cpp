@@ -1,4 +1,3 @@
-// Steps and plays through the solution times of the active frame.
 #include "host/gui/time/TimePlayer.h"
 
 #include "host/core/Host.h"

@@ -9,8 +9,8 @@
 
 namespace corvane::gui {
 
-/// Every step is one command of the macro language. While it plays, the next step waits until the
-/// picture of the last one is there, so that nothing piles up however long drawing takes.
+/// Every step is one command of the macro language. While playing, a step waits until the picture
+/// of the one before is drawn, so that steps do not pile up when drawing is slow.
 class TimePlayer : public QObject {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit TimePlayer(const Commands& commands);
 
     const std::vector<double>& times() const { return m_times; }
-    int index() const { return m_index; } ///< of the time that is shown
+    int index() const { return m_index; } ///< of the time shown
     bool isPlaying() const { return m_timer.isActive(); }
     bool isLooping() const { return m_isLooping; }
 
@@ -27,10 +27,10 @@ public:
     void pause();
     void stepBy(int steps);
     void showStep(int index);
-    /// While a slider is dragged: shown, but not recorded.
+    /// Shows the time while a slider is dragged, without a command that would be recorded.
     void previewStep(int index);
 
-    /// Follows the frame.
+    /// Updates times and index from the active frame.
     void refresh();
 
 Q_SIGNALS:

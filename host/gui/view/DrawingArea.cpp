@@ -1,4 +1,3 @@
-// Shows the last picture of the page.
 #include "host/gui/view/DrawingArea.h"
 
 #include "host/core/ports/Picture.h"
@@ -11,7 +10,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// The image keeps the picture's memory; nothing is copied.
+/// The image takes over the picture's memory; nothing is copied.
 QImage imageOf(host::Picture picture) {
     auto owned = std::make_unique<host::Picture>(std::move(picture));
     const auto release = [](void* kept) { delete static_cast<host::Picture*>(kept); };
@@ -58,8 +57,8 @@ void DrawingArea::paintEvent(QPaintEvent* /*event*/) {
         paintHint(painter);
         return;
     }
-    // After a resize the old picture is there until the new one is, and one of another shape while
-    // a macro plays that has chosen it.
+    // After a resize the old picture stays until the new one is drawn, and a macro that plays may
+    // have chosen a picture of another shape.
     const QRect place = placeOf(m_image.size());
     if (place != rect()) {
         painter.fillRect(rect(), palette().window());
@@ -68,7 +67,7 @@ void DrawingArea::paintEvent(QPaintEvent* /*event*/) {
     painter.drawImage(QRectF(place), m_image, QRectF(m_image.rect()));
 }
 
-/// As large as fits, in the middle. Rounding leaves no gap at the sides.
+/// As large as possible, centered. Rounding must not leave a gap at the sides.
 QRect DrawingArea::placeOf(QSize picture) const {
     const QSize fitting = picture.scaled(size(), Qt::KeepAspectRatio);
     const bool fills = (size() - fitting).width() <= 1 && (size() - fitting).height() <= 1;
@@ -93,9 +92,7 @@ void DrawingArea::paintHint(QPainter& painter) const {
 }
 
 void DrawingArea::resizeEvent(QResizeEvent* /*event*/) {
-    if (onResized) {
-        onResized();
-    }
+    Q_EMIT resized();
 }
 
 } // namespace corvane::gui

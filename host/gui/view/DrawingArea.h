@@ -3,7 +3,6 @@
 
 #include <QImage>
 #include <QWidget>
-#include <functional>
 
 namespace corvane::host {
 struct Picture;
@@ -11,29 +10,30 @@ struct Picture;
 
 namespace corvane::gui {
 
-/// Paints what it was given, whatever the state of the host: a picture of half a change would be
-/// wrong.
+/// Paints the picture it was given, never the current state of the host, which may be in the middle
+/// of a change.
 class DrawingArea : public QWidget {
     Q_OBJECT
 
 public:
     explicit DrawingArea(QWidget* parent = nullptr);
 
-    /// Shows the picture before it returns, if the window is on the screen at all.
+    /// Paints the picture before returning, if the window is visible at all.
     void show(host::Picture picture);
     using QWidget::show;
     const QImage& image() const { return m_image; }
 
-    /// What stands there as long as there is no picture.
+    /// What is shown while there is no picture.
     void setHint(const QString& title, const QString& text);
     void clear();
 
-    QSize pixels() const; ///< of the screen
-
-    std::function<void()> onResized;
+    QSize pixels() const; ///< the size in device pixels
 
     QSize sizeHint() const override { return {960, 600}; }
     QSize minimumSizeHint() const override { return {240, 160}; }
+
+Q_SIGNALS:
+    void resized();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,4 +1,3 @@
-// Keeps an animation on the screen at the rate of the display.
 #include "host/gui/view/FramePacer.h"
 
 #include <QEventLoop>
@@ -30,8 +29,8 @@ void FramePacer::waitForDisplay() {
         QTimer::singleShot(rest, Qt::PreciseTimer, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    // Slots are counted from one to the next, so that rounding does not slow the flight down; a
-    // picture that came late starts a new count.
+    // The next time is computed from the last one, so that rounding does not slow the animation
+    // down; a picture that is late starts a new sequence.
     m_nextMs = std::max(m_nextMs, now) + intervalMs();
 }
 

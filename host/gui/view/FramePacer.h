@@ -1,4 +1,4 @@
-// Keeps an animation on the screen at the rate of the display.
+// Limits the frame rate of an animation to the refresh rate of the display.
 #pragma once
 
 #include <QElapsedTimer>
@@ -7,15 +7,15 @@ class QWidget;
 
 namespace corvane::gui {
 
-/// More pictures than the display shows would only make the flight end sooner.
+/// Otherwise an animation would play too fast, with pictures that are never seen.
 class FramePacer {
 public:
-    /// The widget tells on which display the pictures are; it must outlive the pacer.
+    /// The widget shows the pictures, and must outlive the pacer.
     explicit FramePacer(const QWidget& widget) : m_widget(widget) {}
 
     void pictureShown() { m_isDue = true; }
-    /// Looks after events until the next picture may be shown. Returns at once when no picture was
-    /// shown since the last time.
+    /// Processes events until the next picture may be shown. Returns at once if no picture has been
+    /// shown since the last call.
     void waitForDisplay();
 
 private:

@@ -1,4 +1,3 @@
-// The host's screen: draws the page into the drawing area.
 #include "host/gui/view/PictureScreen.h"
 
 #include "host/core/page/Page.h"
@@ -16,7 +15,7 @@ void PictureScreen::present(const host::Page& page, bool /*allFrames*/) {
         return;
     }
     const QScopedValueRollback drawing(m_isDrawing, true);
-    // While a macro plays that has chosen a size, the area shows all of it as large as it can.
+    // A macro that plays may have chosen another size: the picture is scaled to fit then.
     const QSize size = QSize(area.width, area.height).scaled(m_area.pixels(), Qt::KeepAspectRatio);
     m_area.show(m_renderer.draw(
         page, {ExportRegion_WorkArea, std::max(size.width(), 1), std::max(size.height(), 1), 1}));

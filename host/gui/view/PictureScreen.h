@@ -16,7 +16,7 @@ public:
 
     void present(const host::Page& page, bool allFrames) override;
 
-    /// A picture is being made.
+    /// Whether a picture is being drawn.
     bool isDrawing() const { return m_isDrawing; }
 
 private:

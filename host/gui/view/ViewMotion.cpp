@@ -1,4 +1,3 @@
-// How a pointer moves a view: arithmetic alone.
 #include "host/gui/view/ViewMotion.h"
 
 #include <algorithm>
@@ -14,16 +13,16 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 
-/// Degrees for a way as long as the picture is high.
+/// Degrees for a drag as long as the picture is high.
 constexpr double degreesPerHeight = 220.0;
 
-/// Even where the rotation origin lies behind the viewer, the pointer must move something.
-constexpr double leastDepthPart = 1e-3;
+/// Keeps the depth positive, so that dragging works with a rotation origin behind the viewer.
+constexpr double minimalDepthRatio = 1e-3;
 
 double depthOfOrigin(const View3D& view) {
     const Vec3 offset = view.position - view.rotationOrigin;
     const double depth = dot(offset, basisOf(view).toViewer);
-    const double least = std::max(leastDepthPart * length(offset), 1e-12);
+    const double least = std::max(minimalDepthRatio * length(offset), 1e-12);
     return std::max(depth, least);
 }
 
@@ -31,7 +30,7 @@ double tangent(const View3D& view) {
     return std::tan(0.5 * view.fieldOfView * pi / 180.0);
 }
 
-/// Keeps a tilt between the poles where it is there already.
+/// The part of the tilt that keeps an upright view between the poles.
 double tilt(double psi, double degrees) {
     const bool isUpright = psi >= 0.0 && psi <= 180.0;
     return isUpright ? std::clamp(psi + degrees, 0.0, 180.0) - psi : degrees;
@@ -63,7 +62,7 @@ void turn(View3D& view, const PictureOffset& step, const PictureSize& size) {
 void twist(View3D& view, const PictureOffset& from, const PictureOffset& to) {
     const double before = std::atan2(from.up, from.right);
     const double after = std::atan2(to.up, to.right);
-    // The viewer twists against the picture.
+    // Alpha twists the viewer, so the picture turns the other way.
     const double degrees = std::remainder(before - after, 2.0 * pi) * 180.0 / pi;
     rotate(view, RotateAxis_Alpha, degrees);
 }

@@ -1,4 +1,3 @@
-// Turns, moves and zooms the view with the mouse.
 #include "host/gui/view/ViewMouse.h"
 
 #include "host/core/Host.h"
@@ -61,7 +60,7 @@ ViewMouse::Drag ViewMouse::dragFor(const QMouseEvent& event) {
 
 void ViewMouse::press(const QMouseEvent& event) {
     if (m_drag != Drag::None) {
-        return; // a second button changes nothing
+        return; // a second button does not change the drag
     }
     m_area.setFocus(Qt::MouseFocusReason);
     activateFrameAt(event.position());

@@ -1,4 +1,4 @@
-// Turns, moves and zooms the view with the mouse.
+// Turns, pans and zooms the view with the mouse.
 #pragma once
 
 #include "host/gui/commands/Commands.h"
@@ -19,7 +19,7 @@ namespace corvane::gui {
 class DrawingArea;
 
 /// Left: turn. Middle or Shift + left: pan. Right and wheel: zoom toward the pointer. Ctrl + left:
-/// twist. Each event changes the view and draws nothing.
+/// twist. An event changes the view; the picture is drawn when the event loop is idle.
 class ViewMouse : public QObject {
     Q_OBJECT
 

@@ -1,4 +1,3 @@
-// Makes the work area as large as the drawing area.
 #include "host/gui/view/WorkAreaFitter.h"
 
 #include "host/core/Host.h"
@@ -12,7 +11,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// Rounding alone is no reason to draw all again.
+/// Ignores rounding errors, which are no reason to redraw.
 bool isSame(const host::WorkArea& a, const host::WorkArea& b) {
     constexpr double tolerance = 1e-9;
     return a.width == b.width && a.height == b.height &&

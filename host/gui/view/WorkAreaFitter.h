@@ -1,4 +1,4 @@
-// Makes the work area as large as the drawing area.
+// Keeps the work area as large as the drawing area.
 #pragma once
 
 namespace corvane::gui {
@@ -6,15 +6,15 @@ namespace corvane::gui {
 class Commands;
 class DrawingArea;
 
-/// One frame that fills the window goes on filling it; several are scaled until all can be seen.
-/// While something runs all sizes stay, since the pictures of one movie are of one size, and a
-/// macro may have chosen one.
+/// A single frame that fills the window keeps filling it; several frames are scaled to fit. While
+/// an animation or a macro runs nothing is resized, since all pictures of a movie have one size,
+/// and a macro may have chosen one.
 class WorkAreaFitter {
 public:
     WorkAreaFitter(const Commands& commands, const DrawingArea& area)
         : m_commands(commands), m_area(area) {}
 
-    /// To be called whenever either may have changed; does nothing when all is as it should be.
+    /// To be called whenever the size or the frames may have changed.
     void fit();
 
 private:

@@ -1,4 +1,3 @@
-// The part of a dialog where the controls of an add-on stand.
 #include "host/gui/widgets/ControlArea.h"
 
 #include "host/gui/widgets/DialogUnits.h"
@@ -12,7 +11,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// Two controls whose tops are not farther apart stand in one line.
+/// Controls whose tops are at most this far apart are on one line, in dialog units.
 constexpr int sameLine = 80;
 
 bool isLabel(const host::PlacedControl& control) {
@@ -28,7 +27,7 @@ bool isField(const host::PlacedControl& control) {
            dynamic_cast<const host::OptionMenu*>(&control) != nullptr;
 }
 
-/// What grows, grows on both sides, so that lines of controls stay in line.
+/// Grows equally above and below, so that controls on one line stay aligned.
 QRect grown(QRect rect, QSize needed) {
     rect.setWidth(qMax(rect.width(), needed.width()));
     const int missing = qMax(0, needed.height() - rect.height());
@@ -52,8 +51,8 @@ void ControlArea::add(QWidget* widget, const host::PlacedControl& control) {
     }
 }
 
-/// Labels have no size, and add-ons place them by eye: the field that they belong to tells where
-/// their line is.
+/// Labels have no size, and add-ons place them by eye: they are aligned with the field that they
+/// belong to.
 const host::PlacedControl* ControlArea::fieldBeside(const host::PlacedControl& label) const {
     const host::PlacedControl* nearest = nullptr;
     for (const Placed& each : m_placed) {
@@ -71,7 +70,7 @@ QRect ControlArea::placeOf(const Placed& placed) const {
     const DialogUnits units(font());
     const QRect box = units.rect(placed.control->box);
     if (isGroupBox(*placed.control)) {
-        // Add-ons expect the title in the line of the frame; styles put it above.
+        // Add-ons expect the title on the frame line; Qt styles put it above.
         return {QPoint(box.left(), qMax(0, box.top() - units.down(50))), box.bottomRight()};
     }
     if (!isLabel(*placed.control)) {
@@ -100,7 +99,7 @@ void ControlArea::place() {
     setFixedSize(needed.size());
 }
 
-/// Add-ons make their controls in any order; readers go down the dialog.
+/// Add-ons create their controls in any order; users expect Tab to go down the dialog.
 QList<QWidget*> ControlArea::focusOrder() const {
     std::vector<Placed> sorted = m_placed;
     std::stable_sort(sorted.begin(), sorted.end(), [](const Placed& a, const Placed& b) {
@@ -114,7 +113,7 @@ QList<QWidget*> ControlArea::focusOrder() const {
             order.append(each.widget);
             continue;
         }
-        // A radio box itself takes no focus, its buttons do.
+        // Not a radio box itself takes the focus, but its buttons.
         const auto parts =
             each.widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         std::copy_if(parts.begin(), parts.end(), std::back_inserter(order),

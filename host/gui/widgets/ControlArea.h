@@ -1,4 +1,4 @@
-// The part of a dialog where the controls of an add-on stand.
+// The area of a dialog that holds the controls of an add-on.
 #pragma once
 
 #include "host/core/controls/Control.h"
@@ -8,17 +8,17 @@
 
 namespace corvane::gui {
 
-/// Places controls by dialog units of its font. A control that needs more than its box gets it, and
-/// the area grows with it: nothing is cut off, whatever the font and style.
+/// Places controls in dialog units of its font. A control that needs more space than its box gets
+/// it, and the area grows with it, so that nothing is cut off whatever the font and style.
 class ControlArea : public QWidget {
 public:
     ControlArea(const host::Dialog& dialog, QWidget* parent);
 
     /// The widget becomes a child.
     void add(QWidget* widget, const host::PlacedControl& control);
-    /// To be called when something has changed that changes what a control needs.
+    /// To be called when the space that a control needs may have changed.
     void place();
-    /// What can take the focus, line by line, each from left to right.
+    /// The widgets that can take the focus: line by line, each from left to right.
     QList<QWidget*> focusOrder() const;
 
 protected:

@@ -1,4 +1,3 @@
-// Dialog units in pixels, so that layouts follow the font.
 #include "host/gui/widgets/DialogUnits.h"
 
 #include <QFontMetricsF>

@@ -1,4 +1,4 @@
-// Dialog units in pixels, so that layouts follow the font.
+// Converts dialog units to pixels, so that layouts follow the font.
 #pragma once
 
 #include "host/core/controls/Control.h"
@@ -8,7 +8,8 @@
 
 namespace corvane::gui {
 
-/// 100 units are the width of an average character across, and the height of a line down.
+/// 100 units are the width of an average character horizontally, and the height of a line
+/// vertically.
 class DialogUnits {
 public:
     explicit DialogUnits(const QFont& font);

@@ -1,4 +1,3 @@
-// The window of a dialog of an add-on.
 #include "host/gui/widgets/DialogWindow.h"
 
 #include "host/gui/base/QtText.h"
@@ -35,8 +34,8 @@ void DialogWindow::addButtons() {
     using Action = void (host::ControlActions::*)(int);
     const auto add = [&](Standard kind, Action action) {
         QPushButton* const button = m_buttons->addButton(kind);
-        button->setIcon({}); // the words say it, as on the dialog's other buttons
-        // Without OK, Return would press a button that nobody has chosen.
+        button->setIcon({}); // like the other buttons of the dialog
+        // Without OK, Return would press a button that the user did not mean.
         button->setAutoDefault(m_dialog.isModal);
         button->setDefault(kind == QDialogButtonBox::Ok);
         connect(button, &QPushButton::clicked, this,
@@ -45,12 +44,12 @@ void DialogWindow::addButtons() {
     if (m_dialog.isModal) {
         add(QDialogButtonBox::Ok, &host::ControlActions::ok);
     }
-    if (m_dialog.apply) {
+    if (m_dialog.onApply) {
         add(QDialogButtonBox::Apply, &host::ControlActions::apply);
     }
     add(m_dialog.isModal ? QDialogButtonBox::Cancel : QDialogButtonBox::Close,
         &host::ControlActions::dismiss);
-    if (m_dialog.help) {
+    if (m_dialog.onHelp) {
         add(QDialogButtonBox::Help, &host::ControlActions::help);
     }
     const int margin = fontMetrics().lineSpacing() / 2;
@@ -60,7 +59,7 @@ void DialogWindow::addButtons() {
 
 QMenuBar* DialogWindow::addMenuBar() {
     auto* const bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false); // the bar along the top of the screen is the main window's
+    bar->setNativeMenuBar(false); // the native one belongs to the main window
     layout()->setMenuBar(bar);
     return bar;
 }

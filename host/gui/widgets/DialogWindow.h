@@ -12,8 +12,7 @@ class QMenuBar;
 
 namespace corvane::gui {
 
-/// Menu bar, controls, and the buttons that every dialog has. It never hides by itself: the add-on
-/// decides.
+/// Menu bar, controls, and the standard buttons. It never closes by itself: the add-on decides.
 class DialogWindow : public QDialog {
 public:
     DialogWindow(const host::Dialog& dialog, host::ControlActions& actions, QWidget* parent);

@@ -1,4 +1,3 @@
-// A text field of an add-on.
 #include "host/gui/widgets/FieldEdit.h"
 
 #include "host/gui/base/QtText.h"
@@ -11,7 +10,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// A box that an add-on shows takes the focus as well, but the user has not left the field.
+/// A message box of an add-on takes the focus, too, but the user has not left the field.
 bool isBehindModal(const QWidget& widget) {
     const QWidget* const modal = QApplication::activeModalWidget();
     return modal != nullptr && modal != widget.window();
@@ -55,7 +54,7 @@ void FieldEdit::keyPressEvent(QKeyEvent* event) {
         QLineEdit::keyPressEvent(event);
         return;
     }
-    event->accept(); // or else the dialog takes it for OK
+    event->accept(); // or else the dialog would take it for OK
     m_actions.enter(m_field.handle);
 }
 

@@ -26,8 +26,8 @@ private:
 /// Whether this key is Return or Enter.
 bool isReturn(const QKeyEvent& event);
 
-/// Commits a field that lost the focus, once the event that took it has done its work: a click on
-/// a control commits the text by itself, and must be able to be swallowed when the text is refused.
+/// Commits a field that lost the focus, after the event that took the focus was handled: a click on
+/// a control commits the text itself, and has no further effect if the text is refused.
 void commitLater(QWidget& widget, const QFocusEvent& event, int field,
                  host::ControlActions& actions);
 

@@ -1,4 +1,4 @@
-// File names as the file dialog handles them.
+// File name patterns and extensions for file dialogs.
 #pragma once
 
 #include <QString>
@@ -6,9 +6,9 @@
 
 namespace corvane::gui {
 
-/// Patterns for a file dialog: those of the filter, such as "*.mp4", and all files.
+/// The name filters of a file dialog: that of the add-on, such as "*.mp4", and all files.
 QStringList namePatterns(const QString& fileType, const QString& filter);
-/// With the ending of the filter, when the last part of the path has no dot.
+/// The path with the extension of the filter, if the file name has none.
 QString withEnding(const QString& path, const QString& filter);
 
 } // namespace corvane::gui

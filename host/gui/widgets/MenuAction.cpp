@@ -1,4 +1,3 @@
-// Entries in the menus of an add-on's dialog.
 #include "host/gui/widgets/MenuAction.h"
 
 #include "host/gui/base/QtText.h"

@@ -1,4 +1,4 @@
-// Entries in the menus of an add-on's dialog.
+// The menu entries of a dialog of an add-on, as actions.
 #pragma once
 
 #include "host/core/controls/Control.h"
@@ -8,7 +8,7 @@
 
 namespace corvane::gui {
 
-/// The help of an entry is its tool tip, unless it has one of its own.
+/// The tool tip of an entry is its help, unless it has one of its own.
 QAction* makeAction(const host::MenuItem& item, host::ControlActions& actions, QObject* parent);
 QAction* makeAction(const host::MenuToggle& toggle, host::ControlActions& actions, QObject* parent);
 void showToolTip(QAction& action, const host::Control& entry);

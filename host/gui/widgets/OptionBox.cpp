@@ -1,4 +1,3 @@
-// An option menu of an add-on.
 #include "host/gui/widgets/OptionBox.h"
 
 #include "host/gui/base/QtText.h"

@@ -1,4 +1,3 @@
-// Texts of add-ons as Qt has to be given them, so that it takes nothing in them for mark-up.
 #include "host/gui/widgets/PlainText.h"
 
 #include "host/gui/base/QtText.h"

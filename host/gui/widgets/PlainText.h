@@ -1,4 +1,4 @@
-// Texts of add-ons as Qt has to be given them, so that it takes nothing in them for mark-up.
+// Texts of add-ons, escaped so that Qt finds no mnemonics or markup in them.
 #pragma once
 
 #include <QString>
@@ -6,9 +6,9 @@
 
 namespace corvane::gui {
 
-/// For what would take '&' for a mnemonic.
+/// For labels in which Qt would take '&' for a mnemonic.
 QString withoutMnemonics(const std::string& text);
-/// For what would take a text that looks like HTML for HTML.
+/// For tool tips, which Qt would render as HTML if they look like it.
 QString plainToolTip(const std::string& text);
 /// "Animate" of "&Animate"; "A & B" of "A && B".
 QString withoutAmpersands(const QString& title);

@@ -1,4 +1,3 @@
-// The options of add-ons in the menu bar of the main window.
 #include "host/gui/widgets/QtMainMenu.h"
 
 #include "host/gui/base/QtText.h"
@@ -53,7 +52,7 @@ void QtMainMenu::close() {
         if (action) {
             action->setVisible(false);
             action->disconnect();
-            action->deleteLater(); // the user may just be choosing it
+            action->deleteLater(); // it may be the one that is being triggered
         }
     }
     m_actions.clear();

@@ -1,4 +1,4 @@
-// The options of add-ons in the menu bar of the main window.
+// Shows the menu options of add-ons in the menu bar of the main window.
 #pragma once
 
 #include "host/core/controls/MainMenu.h"
@@ -16,7 +16,7 @@ class QtMainMenu : public host::MainMenu {
 public:
     explicit QtMainMenu(QMenuBar& bar) : m_bar(&bar) {}
 
-    /// A menu that has to be made stands before a Help menu, and last without one.
+    /// A new menu is inserted before the Help menu, or appended without one.
     void add(const host::MenuOption& option) override;
     void changed(const host::MenuOption& option) override;
     void close() override;

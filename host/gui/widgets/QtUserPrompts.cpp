@@ -1,4 +1,3 @@
-// Messages, questions, file names and help, in Qt.
 #include "host/gui/widgets/QtUserPrompts.h"
 
 #include "host/gui/base/QtText.h"
@@ -66,7 +65,7 @@ std::optional<std::string> QtUserPrompts::askFileName(bool forWriting, const std
         (forWriting ? QStringLiteral("Save %1") : QStringLiteral("Open %1")).arg(toQt(fileType)));
     dialog.setAcceptMode(forWriting ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(forWriting ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    // The add-on asks whether to replace a file.
+    // The add-on itself asks whether to replace a file.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters(namePatterns(toQt(fileType), toQt(filter)));
     dialog.setWindowModality(Qt::ApplicationModal);
@@ -81,11 +80,11 @@ std::optional<std::string> QtUserPrompts::askFileName(bool forWriting, const std
 bool QtUserPrompts::showHelp(const std::string& page) {
     const QFileInfo file(QDir(m_helpFolder).filePath(toQt(page)));
     if (!file.isFile()) {
-        m_tellStatus("There is no help page " + fromQt(file.absoluteFilePath()) + '.');
+        m_showStatus("There is no help page " + fromQt(file.absoluteFilePath()) + '.');
         return false;
     }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
-        m_tellStatus("No browser could be started for " + fromQt(file.absoluteFilePath()) + '.');
+        m_showStatus("No browser could be started for " + fromQt(file.absoluteFilePath()) + '.');
         return false;
     }
     return true;

@@ -1,4 +1,4 @@
-// Messages, questions, file names and help, in Qt.
+// Message boxes, file dialogs and help pages, in Qt.
 #pragma once
 
 #include "host/core/ports/Ports.h"
@@ -10,15 +10,15 @@
 
 namespace corvane::gui {
 
-/// Boxes block the input of all other windows, which go on being painted.
+/// Dialogs block the input of all other windows, which are still painted.
 class QtUserPrompts : public host::UserPrompts {
 public:
-    /// helpFolder holds the help pages; tellStatus shows a sentence in the status line.
+    /// helpFolder holds the help pages; showStatus shows a sentence in the status line.
     QtUserPrompts(QWidget& mainWindow, QString helpFolder,
-                  std::function<void(const std::string&)> tellStatus)
+                  std::function<void(const std::string&)> showStatus)
         : m_mainWindow(&mainWindow),
           m_helpFolder(std::move(helpFolder)),
-          m_tellStatus(std::move(tellStatus)) {}
+          m_showStatus(std::move(showStatus)) {}
 
     void showError(const std::string& message) override;
     void showNotice(const std::string& message) override;
@@ -33,7 +33,7 @@ private:
 
     QPointer<QWidget> m_mainWindow;
     QString m_helpFolder;
-    std::function<void(const std::string&)> m_tellStatus;
+    std::function<void(const std::string&)> m_showStatus;
 };
 
 } // namespace corvane::gui

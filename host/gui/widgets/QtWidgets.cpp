@@ -1,4 +1,3 @@
-// The dialogs and controls of add-ons, in Qt.
 #include "host/gui/widgets/QtWidgets.h"
 
 #include "host/gui/base/QtText.h"
@@ -34,7 +33,7 @@ void QtWidgets::close() {
     for (const auto& [handle, window] : m_windows) {
         if (window) {
             window->hide();
-            window->deleteLater(); // the user may just be pressing one of its buttons
+            window->deleteLater(); // one of its buttons may be the one that is being pressed
         }
     }
 }
@@ -79,7 +78,7 @@ void QtWidgets::add(const host::Dialog& dialog) {
 
 void QtWidgets::add(const host::Button& button) {
     auto* const made = new QPushButton(toQt(button.label), &window(*button.dialog).area());
-    made->setAutoDefault(false); // Return is OK, or nothing
+    made->setAutoDefault(false); // Return means OK or nothing
     QObject::connect(made, &QPushButton::clicked, made,
                      [this, handle = button.handle] { m_actions->press(handle); });
     place(made, button);
@@ -98,7 +97,7 @@ void QtWidgets::add(const host::Label& label) {
 
 void QtWidgets::add(const host::GroupBox& box) {
     auto* const made = new QGroupBox(withoutMnemonics(box.label), &window(*box.dialog).area());
-    made->lower(); // what it goes round may have been added before
+    made->lower(); // the controls inside may have been added before
     place(made, box);
 }
 

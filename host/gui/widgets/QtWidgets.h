@@ -1,4 +1,4 @@
-// The dialogs and controls of add-ons, in Qt.
+// Shows the dialogs and controls of add-ons, in Qt.
 #pragma once
 
 #include "host/core/controls/Widgets.h"
@@ -16,7 +16,7 @@ namespace corvane::gui {
 
 class DialogWindow;
 
-/// Needs a QApplication for its whole life.
+/// The QApplication must outlive it.
 class QtWidgets : public host::Widgets {
 public:
     /// Dialogs stay above the main window.
@@ -50,7 +50,7 @@ public:
     void close() override;
 
 private:
-    /// What a control has become, and how it follows a change that only its kind knows.
+    /// What shows a control, and how it follows changes that are specific to the kind of control.
     struct Shown {
         QPointer<QWidget> widget;
         QPointer<QAction> action;

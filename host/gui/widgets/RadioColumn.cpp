@@ -1,4 +1,3 @@
-// A radio box of an add-on.
 #include "host/gui/widgets/RadioColumn.h"
 
 #include "host/gui/base/QtText.h"
@@ -24,7 +23,7 @@ RadioColumn::RadioColumn(const host::RadioBox& box, host::ControlActions& action
 }
 
 void RadioColumn::showChoice() {
-    m_group.setExclusive(false); // or else one of them must stay on
+    m_group.setExclusive(false); // or else the checked one could not be unchecked
     const QList<QAbstractButton*> buttons = m_group.buttons();
     for (QAbstractButton* button : buttons) {
         button->setChecked(m_group.id(button) == m_box.chosen);

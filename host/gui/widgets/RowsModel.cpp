@@ -1,4 +1,3 @@
-// The rows of a list of an add-on, for Qt's views.
 #include "host/gui/widgets/RowsModel.h"
 
 #include "host/gui/base/QtText.h"

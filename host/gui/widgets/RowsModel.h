@@ -1,4 +1,4 @@
-// The rows of a list of an add-on, for Qt's views.
+// The rows of a list of an add-on, as an item model.
 #pragma once
 
 #include "host/core/controls/Control.h"
@@ -7,15 +7,15 @@
 
 namespace corvane::gui {
 
-/// Reads the rows where they are. Views learn of changes at sync() only, so that an add-on that
-/// fills a list row by row costs one update.
+/// Refers to the rows of the list without a copy. Views are notified in sync() only, so that
+/// filling a list row by row costs one update.
 class RowsModel : public QAbstractListModel {
 public:
     RowsModel(const host::List& list, QObject* parent) : QAbstractListModel(parent), m_list(list) {}
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    /// Rows come and go at the end, and all others may have changed: the view stays where it is.
+    /// Inserts or removes rows at the end, and updates all others: the view keeps its position.
     void sync();
 
 private:

@@ -1,4 +1,3 @@
-// A list of an add-on.
 #include "host/gui/widgets/RowsView.h"
 
 #include "host/gui/widgets/RowsModel.h"
@@ -13,7 +12,7 @@ namespace corvane::gui {
 
 namespace {
 
-/// Neighbours become one range.
+/// Adjacent rows form one range.
 QItemSelection ranges(const QAbstractItemModel& model, const std::vector<long>& positions) {
     QItemSelection selection;
     for (std::size_t first = 0, next = 0; first < positions.size(); first = next) {
@@ -39,7 +38,7 @@ RowsView::RowsView(const host::List& list, host::ControlActions& actions, QWidge
     setSelectionMode(list.isMulti ? ExtendedSelection : SingleSelection);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_isShowing) {
-            tellSelection();
+            reportSelection();
         }
     });
 }
@@ -62,7 +61,7 @@ void RowsView::showNow() {
         selectionModel()->select(ranges(*m_model, m_list.selection),
                                  QItemSelectionModel::ClearAndSelect);
         if (!m_list.selection.empty()) {
-            // Where the arrow keys and a range go on from.
+            // Arrow keys and range selection start from the current row.
             selectionModel()->setCurrentIndex(
                 m_model->index(static_cast<int>(m_list.selection.front() - 1), 0),
                 QItemSelectionModel::NoUpdate);
@@ -82,7 +81,7 @@ std::vector<long> RowsView::selectedPositions() const {
     return positions;
 }
 
-void RowsView::tellSelection() {
+void RowsView::reportSelection() {
     m_actions.select(m_list.handle, selectedPositions());
     if (selectedPositions() != m_list.selection) {
         showLater();
@@ -91,7 +90,7 @@ void RowsView::tellSelection() {
 
 bool RowsView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) {
-        showNow(); // a row must mean what it says
+        showNow(); // the click must hit the row that is meant
     }
     return QListView::viewportEvent(event);
 }

@@ -15,12 +15,12 @@ class RowsView : public QListView {
 public:
     RowsView(const host::List& list, host::ControlActions& actions, QWidget* parent);
 
-    /// Rows or selection have changed; the view follows before the next event is handled.
+    /// Rows or selection have changed; the view is updated before the next event is handled.
     void showLater();
-    /// Rows that the view shows as selected, from 1, ascending.
+    /// Selected rows of the view, from 1, ascending.
     std::vector<long> selectedPositions() const;
 
-    QSize minimumSizeHint() const override { return {}; } ///< it scrolls
+    QSize minimumSizeHint() const override { return {}; } ///< none, since it scrolls
 
 protected:
     bool viewportEvent(QEvent* event) override;
@@ -28,7 +28,7 @@ protected:
 
 private:
     void showNow();
-    void tellSelection();
+    void reportSelection();
 
     const host::List& m_list;
     host::ControlActions& m_actions;

@@ -1,4 +1,3 @@
-// The controls of a dialog, however small the screen is.
 #include "host/gui/widgets/ScrolledArea.h"
 
 #include "host/gui/widgets/ControlArea.h"
@@ -17,17 +16,17 @@ ScrolledArea::ScrolledArea(ControlArea* area, QWidget* parent) : QScrollArea(par
     viewport()->setAutoFillBackground(false);
 }
 
-/// What the title bar, a menu bar and the buttons leave of the screen.
-QSize ScrolledArea::room() const {
-    constexpr int linesRoundIt = 8;
-    return screen()->availableSize() - QSize(0, linesRoundIt * fontMetrics().lineSpacing());
+/// The size of the screen without title bar, menu bar and buttons.
+QSize ScrolledArea::availableSize() const {
+    constexpr int linesAround = 8;
+    return screen()->availableSize() - QSize(0, linesAround * fontMetrics().lineSpacing());
 }
 
 QSize ScrolledArea::sizeHint() const {
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    const QSize available = room();
+    const QSize available = availableSize();
     QSize needed = widget()->size();
-    // A bar along one side takes room from the other one.
+    // A scroll bar takes space from the other direction.
     const bool isTooHigh = needed.height() > available.height();
     const bool isTooWide = needed.width() + (isTooHigh ? bar : 0) > available.width();
     needed += QSize(isTooHigh ? bar : 0, isTooWide ? bar : 0);

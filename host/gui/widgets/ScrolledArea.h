@@ -1,4 +1,4 @@
-// The controls of a dialog, however small the screen is.
+// Scrolls the controls of a dialog that is larger than the screen.
 #pragma once
 
 #include <QScrollArea>
@@ -7,8 +7,8 @@ namespace corvane::gui {
 
 class ControlArea;
 
-/// As large as the area where the screen has room for it. Where it has not, part of the area is
-/// seen, with scroll bars, and follows the focus.
+/// As large as the area if the screen is large enough. Otherwise it shows part of the area, with
+/// scroll bars, and follows the focus.
 class ScrolledArea : public QScrollArea {
 public:
     ScrolledArea(ControlArea* area, QWidget* parent);
@@ -20,7 +20,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QSize room() const;
+    QSize availableSize() const;
 };
 
 } // namespace corvane::gui

@@ -1,4 +1,3 @@
-// A text field with two arrows of an add-on.
 #include "host/gui/widgets/SpinEdit.h"
 
 #include "host/gui/base/QtText.h"
@@ -38,7 +37,7 @@ void SpinEdit::keyPressEvent(QKeyEvent* event) {
         QAbstractSpinBox::keyPressEvent(event);
         return;
     }
-    event->accept(); // or else the dialog takes it for OK
+    event->accept(); // or else the dialog would take it for OK
     m_actions.enter(m_field.handle);
 }
 

@@ -1,4 +1,4 @@
-// A text field with two arrows of an add-on.
+// A spin field of an add-on: a text field with two arrows.
 #pragma once
 
 #include "host/core/controls/Control.h"
@@ -8,7 +8,7 @@
 
 namespace corvane::gui {
 
-/// The arrows change nothing themselves: the add-on sets the text.
+/// The arrows do not change the text themselves: the add-on does.
 class SpinEdit : public QAbstractSpinBox {
 public:
     SpinEdit(const host::SpinField& field, host::ControlActions& actions, QWidget* parent);

@@ -1,10 +1,8 @@
-// The main window as furniture: menu bar, drawing area, side and bottom, without a host behind it.
 #include "host/gui/window/MainWindow.h"
 
 #include "host/gui/status/ProgressStrip.h"
 #include "host/gui/view/DrawingArea.h"
 
-#include <QCloseEvent>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
@@ -51,7 +49,7 @@ MainWindow::MainWindow() : m_drawingArea(new DrawingArea), m_strip(new ProgressS
 }
 
 void MainWindow::makeMenus() {
-    // In this order, whoever puts something in first.
+    // All at once, so that their order does not depend on who adds the first entry.
     for (const char* title :
          {"&File", "&Edit", "&View", "&Plot", "F&rame", "&Data", "&Animate", "&Macro", "&Help"}) {
         menuBar()->addMenu(QString::fromLatin1(title));
@@ -77,17 +75,6 @@ void MainWindow::resizePicture(QSize pixels) {
     resize(size() + wanted - m_drawingArea->size());
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
-    if (mayClose && !mayClose()) {
-        event->ignore();
-        return;
-    }
-    event->accept();
-    if (onClosed) {
-        onClosed();
-    }
-}
-
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (!localFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
@@ -97,8 +84,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     const QStringList files = localFiles(*event->mimeData());
     event->acceptProposedAction();
-    if (onFilesDropped && !files.isEmpty()) {
-        onFilesDropped(files);
+    if (!files.isEmpty()) {
+        Q_EMIT filesDropped(files);
     }
 }
 

@@ -1,9 +1,8 @@
-// The main window as furniture: menu bar, drawing area, side and bottom, without a host behind it.
+// The main window: menu bar, drawing area, sidebar and status line.
 #pragma once
 
 #include <QMainWindow>
 #include <QStringList>
-#include <functional>
 
 class QMenu;
 
@@ -12,6 +11,7 @@ namespace corvane::gui {
 class DrawingArea;
 class ProgressStrip;
 
+/// Lays out its parts and knows no host.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -20,19 +20,17 @@ public:
 
     DrawingArea& drawingArea() const { return *m_drawingArea; }
     ProgressStrip& progressStrip() const { return *m_strip; }
-    /// The menu of the menu bar with this title (without '&'); made when there is none.
+    /// The menu with this title (without '&') in the menu bar; created when there is none.
     QMenu& menu(const QString& title);
-    /// Puts a bar below the drawing area.
-    /// Resizes the window so that the picture gets this size, where the screen allows it.
+    /// Resizes the window so that the picture gets this size, if the screen is large enough.
     void resizePicture(QSize pixels);
+    /// Puts a bar below the drawing area.
     void addBottomBar(QWidget& bar);
 
-    std::function<void(const QStringList&)> onFilesDropped;
-    std::function<bool()> mayClose;
-    std::function<void()> onClosed;
+Q_SIGNALS:
+    void filesDropped(const QStringList& files); ///< local files, at least one
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 

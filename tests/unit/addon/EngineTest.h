@@ -33,9 +33,6 @@ protected:
     /// Without arguments, except where that is a lone TRUE or FALSE.
     std::vector<std::string> callNames();
 
-    /// For flights whose calls would fill the memory: from now on calls() stays as it is.
-    void stopRemembering() { host.session().trace().onCall = nullptr; }
-
     /// Nothing is locked or suspended, and no percent-done display is open.
     bool hostIsAtRest();
 

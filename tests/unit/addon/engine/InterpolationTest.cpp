@@ -18,7 +18,7 @@ using corutiltools::View;
 
 class InterpolationTest : public EngineTest {
 protected:
-    InterpolationTest() { stopRemembering(); }
+    InterpolationTest() { host.stopRemembering(); }
 
     std::vector<View> viewsOf(const std::string& flight) {
         return viewsOf(flightCase(flight).keyFrames);

@@ -389,7 +389,7 @@ TEST_F(MainDialogTest, comesUpInThisOrder) {
 
 class LongListTest : public MainDialogTest {
 protected:
-    LongListTest() { host.session().trace().onCall = nullptr; }
+    LongListTest() { host.stopRemembering(); }
 };
 
 constexpr unsigned long manyKeyFrames = 100000;

@@ -146,7 +146,7 @@ TEST_F(ListApiTest, aDimmedListCannotBeUsed) {
 
 TEST_F(ListApiTest, aHundredThousandRowsAreNoBurden) {
     const int many = addList(TRUE);
-    host.session().trace().onCall = nullptr;
+    host.stopRemembering();
     append(many, 100'000);
     std::vector<int> all(100'000);
     for (int position = 0; position < 100'000; ++position) {

@@ -65,7 +65,7 @@ TEST_F(TracedCallTest, resultsAndDepthAreThoseAfterTheCall) {
 }
 
 TEST_F(TracedCallTest, noTextIsMadeWhenNobodyListens) {
-    host.session().trace().onCall = {};
+    host.stopRemembering();
     // Making a text of this argument would crash.
     const auto unreadable = reinterpret_cast<CorArgList>(sizeof(void*));
     bool worked = false;
@@ -91,7 +91,7 @@ TEST_F(TracedCallTest, exceptionsOfTheHostBecomeTheFailureValue) {
 
 TEST_F(TracedCallTest, aListenerThatTakesItselfAwayDuringACallGetsNoRecord) {
     host::TracedCall("Operation").perform([](host::Session& session) {
-        session.trace().onCall = {};
+        session.trace().disconnect();
     });
     EXPECT_THAT(host.calls(), IsEmpty());
 }

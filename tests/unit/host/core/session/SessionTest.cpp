@@ -271,9 +271,12 @@ class AddOnCallGuard : public SessionTest {
 protected:
     CorAddOnID addOn = session.addOns().add({110, "Careless", "1", "somebody"});
     std::vector<std::string> misuses;
+    std::vector<std::string> exceptions;
 
     AddOnCallGuard() {
-        session.trace().onMisuse = [this](const std::string& what) { misuses.push_back(what); };
+        session.trace().connect(
+            {.onMisuse = [this](const std::string& what) { misuses.push_back(what); },
+             .onException = [this](const std::string& what) { exceptions.push_back(what); }});
     }
 };
 
@@ -348,8 +351,6 @@ TEST_F(AddOnCallGuard, drawsWhatAForgottenLockHeldBack) {
 }
 
 TEST_F(AddOnCallGuard, tellsTheTraceWhatWasThrown) {
-    std::vector<std::string> exceptions;
-    session.trace().onException = [&](const std::string& what) { exceptions.push_back(what); };
     session.callAddOn("idle work of libBad.so", [] { throw std::out_of_range("row 7"); });
     EXPECT_THAT(exceptions, ElementsAre("idle work of libBad.so: row 7"));
     EXPECT_THAT(misuses, IsEmpty());
