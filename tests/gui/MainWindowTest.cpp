@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMimeData>
 #include <QSlider>
 #include <QToolButton>
 #include <QtTest>
@@ -293,6 +294,19 @@ TEST_F(MainWindow, aFailedExportIsToldOnceAllIsPutAway) {
     session().drawing().mark();
     settle();
     EXPECT_THAT(prompts.shown(ShownDialog::Kind::Error), ElementsAre(cause));
+}
+
+TEST_F(MainWindow, filesThatAreDroppedAreOpened) {
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(QStringLiteral("/data/a.vtu")),
+                   QUrl::fromLocalFile(QStringLiteral("/data/b.vtu"))});
+    const QPoint at = window().rect().center();
+    QDragEnterEvent enter(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &drop);
+    EXPECT_THAT(reader.reads().back(), ElementsAre("/data/a.vtu", "/data/b.vtu"));
 }
 
 TEST_F(MainWindow, recentFilesOpenAgain) {
