@@ -2,7 +2,7 @@
 // is left clean, and what was recorded of it leads to the same again.
 #include "host/core/macro/MacroText.h"
 #include "tests/fuzz/Require.h"
-#include "tests/unit/host/core/Fakes.h"
+#include "tests/support/MemoryHost.h"
 
 #include <algorithm>
 #include <cctype>
@@ -18,6 +18,7 @@ namespace {
 
 using corvane::fuzz::require;
 using namespace corvane::host;
+namespace test = corvane::test;
 
 // Nothing can lie below a device, so that no relative name, however many folders it climbs, leads
 // to a file.
@@ -146,11 +147,11 @@ void addEcho(Host& program) {
 class FuzzedHost {
 public:
     FuzzedHost() {
-        m_host.reader.data = fakes::volumeData();
-        addEcho(m_host.program);
-        m_host.session.openData({"data"});
-        m_host.program.recorder().start();
-        const Frame& frame = *m_host.session.page().active();
+        m_host.reader().provide(test::makeVolumeData());
+        addEcho(m_host.program());
+        m_host.session().openData({"data"});
+        m_host.program().recorder().start();
+        const Frame& frame = *m_host.session().page().active();
         m_plotType = frame.plotType;
         m_view = frame.view;
         m_style = frame.style;
@@ -164,43 +165,43 @@ public:
     }
 
     void renew() {
-        m_host.program.macros().variables() = {};
-        m_host.session.exportSetup() = {};
-        m_host.session.setStyle({"Interface", "UseDisplayLists"}, 1L);
-        Frame& frame = *m_host.session.page().active();
+        m_host.program().macros().variables() = {};
+        m_host.session().exportSetup() = {};
+        m_host.session().setStyle({"Interface", "UseDisplayLists"}, 1L);
+        Frame& frame = *m_host.session().page().active();
         frame.plotType = m_plotType;
         frame.view = m_view;
         frame.style = m_style;
         frame.solutionTime = m_solutionTime;
-        m_host.reader.calls.clear();
-        m_host.screen.presented.clear();
-        m_host.program.recorder().start();
+        m_host.reader().clear();
+        m_host.renderer().clear();
+        m_host.program().recorder().start();
     }
 
     // False when the macro fails.
     bool play(Macros& macros) {
-        m_host.program.macros().openWith(
+        m_host.program().macros().openWith(
             [&](const std::string& name) { return macros.open(name); });
         std::istringstream text(macros.main());
         bool succeeded = true;
         try {
-            m_host.program.macros().play(text, "main", folder);
+            m_host.program().macros().play(text, "main", folder);
         } catch (const MacroError& error) {
             checkError(error, macros);
             succeeded = false;
         }
-        require(!m_host.program.macros().isPlaying(), "a macro ends");
-        require(m_host.session.locks().depth() == 0, "locks are balanced");
-        require(m_host.session.drawing().suspensions() == 0, "suspended drawing is balanced");
-        require(!m_host.session.status().isActive(), "no display of progress is left");
+        require(!m_host.program().macros().isPlaying(), "a macro ends");
+        require(m_host.session().locks().depth() == 0, "locks are balanced");
+        require(m_host.session().drawing().suspensions() == 0, "suspended drawing is balanced");
+        require(!m_host.session().status().isActive(), "no display of progress is left");
         return succeeded;
     }
 
-    const std::vector<std::string>& recorded() { return m_host.program.recorder().lines(); }
+    const std::vector<std::string>& recorded() { return m_host.program().recorder().lines(); }
 
     bool showsTheSameAs(FuzzedHost& other) {
-        const auto& mine = m_host.session.page().frames();
-        const auto& others = other.m_host.session.page().frames();
+        const auto& mine = m_host.session().page().frames();
+        const auto& others = other.m_host.session().page().frames();
         return std::equal(mine.begin(), mine.end(), others.begin(), others.end(),
                           [](const auto& a, const auto& b) {
                               return a->id() == b->id() && a->view == b->view &&
@@ -211,7 +212,7 @@ public:
     }
 
 private:
-    fakes::FakeHost m_host;
+    test::MemoryHost m_host{test::MemoryHost::Empty{}};
     PlotType_e m_plotType{};
     View3D m_view;
     FrameStyle m_style;

@@ -36,4 +36,14 @@ std::shared_ptr<host::DataSet> makeStaticData(std::vector<std::string> files) {
     return data;
 }
 
+std::shared_ptr<host::DataSet> makeVolumeData() {
+    auto data = std::make_shared<host::DataSet>();
+    data->blocks = {{.name = "internal", .dimension = 3}};
+    data->zones = {{.block = 0}};
+    data->variables = {{.name = "p", .components = 1, .minimum = -2.0, .maximum = 4.0},
+                       {.name = "U", .components = 3, .minimum = 0.0, .maximum = 8.0}};
+    data->bounds = {{0, 0, 0}, {4, 2, 1}};
+    return data;
+}
+
 } // namespace corvane::test

@@ -17,4 +17,8 @@ std::shared_ptr<host::DataSet> makeTransientData(std::vector<std::string> files 
 /// The block "body" alone.
 std::shared_ptr<host::DataSet> makeStaticData(std::vector<std::string> files = {"body.vtp"});
 
+/// The volume block "internal" without a time. Variables "p" (-2 to 4) and "U" (a vector of length
+/// 0 to 8). The box reaches from 0 0 0 to 4 2 1: x is its longest side and z its shortest.
+std::shared_ptr<host::DataSet> makeVolumeData();
+
 } // namespace corvane::test

@@ -3,6 +3,7 @@
 
 #include "host/core/Host.h"
 #include "tests/support/MemoryData.h"
+#include "tests/support/MemoryIdleTimer.h"
 #include "tests/support/MemoryMainMenu.h"
 #include "tests/support/MemoryMovies.h"
 #include "tests/support/MemoryPictures.h"
@@ -64,7 +65,7 @@ public:
     /// What the event loop does when nothing is pending.
     void runIdle() { m_program->session().onIdle(); }
     /// How often the host asked for idle time.
-    std::size_t idleRequests() const { return m_idleTimer.requests; }
+    std::size_t idleRequests() const { return m_idleTimer.requests(); }
 
     /// The calls so far, in the order in which they returned, without results and lock depths:
     /// CorUtilDrawGraphics(FALSE). Building argument lists and strings is left out, as in the
@@ -118,10 +119,6 @@ public:
 private:
     explicit MemoryHost(bool hasWindows);
 
-    struct CountingTimer : host::IdleTimer {
-        void requestIdle() override { ++requests; }
-        std::size_t requests = 0;
-    };
     host::TraceSinks misuseAndScript();
     bool isExpected(const std::string& misuse) const;
 
@@ -131,7 +128,7 @@ private:
     MemoryReader m_reader;
     ScriptedStatus m_status;
     ScriptedPrompts m_prompts;
-    CountingTimer m_idleTimer;
+    MemoryIdleTimer m_idleTimer;
     MemoryWidgets m_widgets;
     MemoryMainMenu m_mainMenu;
     ScriptedCalls m_script;

@@ -20,7 +20,7 @@ public:
 
     void add(host::Picture picture) override {
         if (m_script.failAt > 0 && --m_script.failAt == 0) {
-            throw host::HostError("The picture could not be encoded.");
+            std::rethrow_exception(m_script.pictureFailure);
         }
         if (picture.width != m_movie.request.width || picture.height != m_movie.request.height) {
             throw host::HostError("The picture has another size than the movie.");
@@ -43,9 +43,22 @@ private:
     std::ofstream m_file;
 };
 
+void MemoryMovies::failOpen(std::string message) {
+    m_script.failOpen = std::move(message);
+}
+
+void MemoryMovies::failAt(std::size_t k) {
+    failAt(k, std::make_exception_ptr(host::HostError("The picture could not be encoded.")));
+}
+
+void MemoryMovies::failAt(std::size_t k, std::exception_ptr failure) {
+    m_script.failAt = k;
+    m_script.pictureFailure = std::move(failure);
+}
+
 std::unique_ptr<host::MovieWriter> MemoryMovies::open(const host::MovieRequest& request) {
-    if (std::exchange(m_script.failOpen, false)) {
-        throw host::HostError("The encoder could not be opened.");
+    if (!m_script.failOpen.empty()) {
+        throw host::HostError(std::exchange(m_script.failOpen, {}));
     }
     m_movies.push_back({.request = request});
     return std::make_unique<Writer>(m_movies.back(), m_script);

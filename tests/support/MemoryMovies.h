@@ -5,7 +5,9 @@
 
 #include <cstddef>
 #include <deque>
+#include <exception>
 #include <memory>
+#include <string>
 
 namespace corvane::test {
 
@@ -23,17 +25,20 @@ public:
 
     const std::deque<MemoryMovie>& movies() const { return m_movies; }
 
-    /// The next movie cannot be opened: HostError.
-    void failOpen() { m_script.failOpen = true; }
+    /// The next movie cannot be opened: HostError with this message.
+    void failOpen(std::string message = "The encoder could not be opened.");
     /// The k-th picture from now (1 = the next one) cannot be written: HostError.
-    void failAt(std::size_t k) { m_script.failAt = k; }
+    void failAt(std::size_t k);
+    /// The same, with anything that can be thrown.
+    void failAt(std::size_t k, std::exception_ptr failure);
     /// The next movie cannot be finished: HostError.
     void failFinish() { m_script.failFinish = true; }
 
 private:
     struct Script {
-        bool failOpen = false;
+        std::string failOpen;   ///< empty: it does not
         std::size_t failAt = 0; ///< 0: never
+        std::exception_ptr pictureFailure;
         bool failFinish = false;
     };
     class Writer;

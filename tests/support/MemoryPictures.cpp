@@ -1,11 +1,16 @@
 // Picture files, kept in memory.
 #include "tests/support/MemoryPictures.h"
 
+#include "host/core/base/HostError.h"
+
 #include <fstream>
 
 namespace corvane::test {
 
 void MemoryPictures::write(const host::Picture& picture, const std::string& path) {
+    if (!m_failure.empty()) {
+        throw host::HostError(std::exchange(m_failure, {}));
+    }
     std::ofstream(path) << picture.width << " x " << picture.height;
     m_written.push_back(picture);
 }

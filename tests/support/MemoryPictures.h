@@ -4,6 +4,7 @@
 #include "host/core/ports/Ports.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace corvane::test {
@@ -13,10 +14,14 @@ class MemoryPictures : public host::PictureFiles {
 public:
     void write(const host::Picture& picture, const std::string& path) override;
 
+    /// The next picture cannot be written: HostError with this message.
+    void failNext(std::string message) { m_failure = std::move(message); }
+
     const std::vector<host::Picture>& written() const { return m_written; }
 
 private:
     std::vector<host::Picture> m_written;
+    std::string m_failure; ///< empty: none
 };
 
 } // namespace corvane::test

@@ -22,6 +22,7 @@ public:
 
     /// The file names of each read so far.
     const std::vector<std::vector<std::string>>& reads() const { return m_reads; }
+    void clear() { m_reads.clear(); }
 
 private:
     std::shared_ptr<const host::DataSet> m_data;

@@ -23,6 +23,26 @@ void MemoryRenderer::present(const host::Page& page, bool allFrames) {
     remember(page, std::move(state));
 }
 
+std::vector<host::PictureRequest> MemoryRenderer::requests() const {
+    std::vector<host::PictureRequest> requests;
+    for (const RenderedState& state : m_states) {
+        if (!state.onScreen) {
+            requests.push_back(state.request);
+        }
+    }
+    return requests;
+}
+
+std::vector<bool> MemoryRenderer::presented() const {
+    std::vector<bool> presented;
+    for (const RenderedState& state : m_states) {
+        if (state.onScreen) {
+            presented.push_back(state.allFrames);
+        }
+    }
+    return presented;
+}
+
 void MemoryRenderer::remember(const host::Page& page, RenderedState state) {
     if (m_failAt > 0 && --m_failAt == 0) {
         throw host::HostError("The picture could not be drawn.");

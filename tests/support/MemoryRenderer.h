@@ -32,6 +32,10 @@ public:
     /// Pictures made, those on the screen included.
     std::size_t renders() const { return m_states.size(); }
     const std::vector<RenderedState>& states() const { return m_states; }
+    /// What was asked for off screen.
+    std::vector<host::PictureRequest> requests() const;
+    /// Of each picture on the screen, whether it had to show all frames.
+    std::vector<bool> presented() const;
     void clear() { m_states.clear(); }
 
     /// The k-th picture from now (1 = the next one) cannot be made: HostError.

@@ -19,6 +19,8 @@ public:
 
     /// The user stops at the n-th time from now that the host asks (1 = the next one).
     void stopAtCheck(std::size_t n) { m_stopAt = n; }
+    /// The next checks know nothing of a stop that an earlier one told.
+    void forgetStop() { m_stopped = false; }
 
     /// "start "Animating" stop bar", "text "Exporting"", "percent 50", "finish", in order; the
     /// words stop and bar are there when the button and the bar are.

@@ -1,7 +1,7 @@
 // Tests of work that waits for idle time.
 #include "host/core/addons/IdleQueue.h"
 
-#include "tests/unit/host/core/Fakes.h"
+#include "tests/support/MemoryIdleTimer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ protected:
         return [this, number] { ran.push_back(number); };
     }
 
-    fakes::FakeIdleTimer timer;
+    test::MemoryIdleTimer timer;
     IdleQueue queue{&timer};
     std::vector<int> ran;
 };
@@ -37,7 +37,7 @@ TEST_F(IdleQueueTest, runsEachEntryOnceInOrder) {
 TEST_F(IdleQueueTest, asksForIdleTimeForEachEntry) {
     queue.add(note(1));
     queue.add(note(2));
-    EXPECT_EQ(timer.requests, 2);
+    EXPECT_EQ(timer.requests(), 2U);
 }
 
 TEST_F(IdleQueueTest, needsNoTimer) {
@@ -74,7 +74,7 @@ TEST_F(IdleQueueTest, closeDropsEverythingForGood) {
     EXPECT_TRUE(queue.isEmpty());
     queue.run();
     EXPECT_THAT(ran, IsEmpty());
-    EXPECT_EQ(timer.requests, 1);
+    EXPECT_EQ(timer.requests(), 1U);
 }
 
 TEST_F(IdleQueueTest, closeWhileRunningDropsTheRest) {

@@ -54,7 +54,7 @@ protected:
     MacroMovieTest() {
         play("$!READDATA x\n$!EXPORTSETUP ImageWidth = 8\n");
         session.exportSetup().fileName = folder.file("movie.avi");
-        host.movies.failAdd = 2;
+        host.movies().failAt(2);
     }
     void addCommand(const std::optional<std::string>& reported) {
         session.addOnCommands().add("A", [this, reported](const std::string&) {
@@ -70,12 +70,12 @@ protected:
 
 TEST_F(MacroMovieTest, theCauseOfAFailedMovieWinsOverWhatTheAddOnKnows) {
     addCommand("Animation canceled.");
-    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The picture could not be encoded.");
 }
 
 TEST_F(MacroMovieTest, aFailedMovieStopsTheMacroThoughTheAddOnIsContent) {
     addCommand(std::nullopt);
-    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The disk is full.");
+    EXPECT_EQ(causeOf("$!EXTCOMMAND A go"), "The picture could not be encoded.");
 }
 
 TEST_F(MacroMovieTest, anOlderFailureIsForgotten) {
@@ -95,6 +95,7 @@ TEST_F(MacroMovieTest, noCommandRunsWhileAMovieIsRecorded) {
     EXPECT_EQ(causeOf("$!EXPORTSETUP ImageWidth = 9"),
               "ImageWidth cannot be set now. A movie is being recorded.");
     EXPECT_TRUE(session.exporter().isRecording());
+    session.exporter().cancel();
 }
 
 } // namespace

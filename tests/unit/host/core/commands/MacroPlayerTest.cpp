@@ -31,7 +31,7 @@ TEST_F(MacroPlayerTest, includesOtherMacrosInTheirFolders) {
     } catch (const MacroError& error) {
         EXPECT_EQ(error.what(), inner + ":2: $!BAD\nThere is no command BAD.");
     }
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.file("parts/x.vtu"))));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre(folder.file("parts/x.vtu"))));
 }
 
 TEST_F(MacroPlayerTest, aMacroThatIncludesItselfEnds) {
@@ -51,7 +51,7 @@ TEST_F(MacroPlayerTest, replacesVariables) {
     program.macros().variables().set("CASE", "wake b");
     play("$!SET CASE = other\n$!SET STEP = 4\n"
          "$!READDATA \"${CASE}_${STEP}.vtu\"\n$!STYLE Annotations/Title = \"$${CASE} $5 {x}\"\n");
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake b_4.vtu")));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre("/scenes/wake b_4.vtu")));
     EXPECT_EQ(frame().style.annotations.title, "${CASE} $5 {x}");
     EXPECT_THAT(causeOf("$!READDATA ${NONE}"), HasSubstr("There is no variable \"NONE\""));
     EXPECT_EQ(causeOf("$!READDATA ${NONE"), "A closing brace is missing behind \"${\".");
@@ -65,7 +65,7 @@ TEST_F(MacroPlayerTest, aMacroKnowsItsFolder) {
     folder.write("parts/title.mcr", "$!STYLE Annotations/Title = \"${MACRO_FOLDER}\"\n");
     play("$!READDATA x\n$!INCLUDE " + quoted(folder.file("parts/title.mcr")) +
          "\n$!READDATA \"${MACRO_FOLDER}/y\"\n");
-    EXPECT_EQ(host.reader.calls.back(), std::vector<std::string>{"/scenes/y"});
+    EXPECT_EQ(host.reader().reads().back(), std::vector<std::string>{"/scenes/y"});
     play("$!INCLUDE " + quoted(folder.file("parts/title.mcr")));
     EXPECT_EQ(frame().style.annotations.title, folder.file("parts"));
 }
@@ -79,7 +79,7 @@ TEST_F(MacroPlayerTest, recordsWhatIsPerformedAndSucceeds) {
     EXPECT_THAT(lines,
                 ElementsAre("$!READDATA \"/there/a $${b}.vtu\"", "$!STYLE Slice/1/Show = true"));
     play(lines[0]);
-    EXPECT_EQ(host.reader.calls.back(), host.reader.calls.front());
+    EXPECT_EQ(host.reader().reads().back(), host.reader().reads().front());
 }
 
 TEST_F(MacroPlayerTest, recordsAMacroThatIsPlayedLineByLine) {
@@ -118,14 +118,14 @@ TEST_F(MacroPlayerTest, takesMacrosFromElsewhere) {
         return std::make_unique<std::istringstream>("$!READDATA " + name + ".vtu\n");
     });
     program.macros().playFile("any");
-    EXPECT_EQ(host.reader.calls.back(), std::vector<std::string>{"any.vtu"});
+    EXPECT_EQ(host.reader().reads().back(), std::vector<std::string>{"any.vtu"});
 }
 
 TEST_F(MacroPlayerTest, stopsBetweenLines) {
     int asked = 0;
     program.macros().stopWhen([&asked] { return ++asked == 2; });
     EXPECT_EQ(causeOf("$!READDATA x\n$!READDATA y\n"), "The macro was stopped.");
-    EXPECT_EQ(host.reader.calls.size(), 1U);
+    EXPECT_EQ(host.reader().reads().size(), 1U);
 }
 
 TEST_F(MacroPlayerTest, variablesThatHoldEachOtherStayWithinALine) {
@@ -137,7 +137,7 @@ TEST_F(MacroPlayerTest, variablesThatHoldEachOtherStayWithinALine) {
     EXPECT_EQ(causeOf(macro + "$!READDATA ${A} ${A}\n"), "");
     EXPECT_EQ(causeOf("$!READDATA ${A} ${A} x\n"), cause);
     EXPECT_EQ(causeOf("$!READDATA ${A}${A}x\n"), cause);
-    EXPECT_EQ(host.reader.calls.size(), 1U);
+    EXPECT_EQ(host.reader().reads().size(), 1U);
 }
 
 TEST_F(MacroPlayerTest, recordsNamesThatHoldInEveryFolder) {
@@ -194,7 +194,7 @@ TEST_F(MacroPlayerTest, playsFilesInTheirFolder) {
     } catch (const MacroError& error) {
         EXPECT_THAT(error.what(), HasSubstr(file + ":2: $!BAD"));
     }
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre(folder.file("data/x.vtu"))));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre(folder.file("data/x.vtu"))));
 }
 
 TEST_F(MacroPlayerTest, aFileOfTheCurrentFolderNeedsNoPath) {
@@ -204,7 +204,7 @@ TEST_F(MacroPlayerTest, aFileOfTheCurrentFolderNeedsNoPath) {
     std::filesystem::current_path(folder.path());
     program.macros().playFile("scene.macro");
     std::filesystem::current_path(before);
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("x.vtu")));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre("x.vtu")));
 }
 
 TEST_F(MacroPlayerTest, filesThatCannotBeOpenedAreNamed) {
@@ -223,10 +223,10 @@ TEST_F(MacroPlayerTest, aSingleCommandCanBeRun) {
     program.macros().run("EXPORTSETUP", {"ImageWidth", "=", "77"});
     EXPECT_EQ(session.exportSetup().imageWidth, 77);
     program.macros().run("readdata", {"x.vtu"}, "/there");
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/there/x.vtu")));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre("/there/x.vtu")));
     EXPECT_THROW(program.macros().run("FLY", {}), HostError);
     EXPECT_THROW(program.macros().run("VIEW", {"UP"}), HostError);
-    host.reader.failure = "Cannot read it.";
+    host.reader().failNext("Cannot read it.");
     EXPECT_THROW(program.macros().run("READDATA", {"y"}), HostError);
 }
 

@@ -44,18 +44,20 @@ TEST_F(MacroSceneCommandsTest, refusesWorkAreasThatCannotBe) {
     EXPECT_EQ(causeOf("$!WORKAREA Depth = 9"), "A work area has no value \"Depth\".");
     session.status().start("Flying", true, true);
     EXPECT_EQ(causeOf("$!WORKAREA Width = 100 Height = 100"), "An animation is running.");
+    session.status().finish();
     EXPECT_EQ(session.page().workArea, before);
 }
 
 TEST_F(MacroSceneCommandsTest, readsDataRelativeToTheMacro) {
     play("$!READDATA \"wake.pvd\" \"/other/hull.vtp\" \"sub/a b.vtu\"");
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("/scenes/wake.pvd", "/other/hull.vtp",
-                                                           "/scenes/sub/a b.vtu")));
+    EXPECT_THAT(
+        host.reader().reads(),
+        ElementsAre(ElementsAre("/scenes/wake.pvd", "/other/hull.vtp", "/scenes/sub/a b.vtu")));
     EXPECT_NE(frame().data(), nullptr);
 }
 
 TEST_F(MacroSceneCommandsTest, dataThatCannotBeReadStopTheMacro) {
-    host.reader.failure = "Cannot read wake.pvd: it is empty.";
+    host.reader().failNext("Cannot read wake.pvd: it is empty.");
     EXPECT_EQ(causeOf("$!READDATA wake.pvd\n"), "Cannot read wake.pvd: it is empty.");
     EXPECT_THAT(causeOf("$!READDATA\n"), HasSubstr("one or more file names"));
 }
@@ -105,7 +107,9 @@ TEST_F(MacroSceneCommandsTest, stylesThatCannotBeSetNameTheirPath) {
 }
 
 TEST_F(MacroSceneCommandsTest, stylesThatCannotBeSetNowTellWhatTheyNeed) {
-    host.reader.data->variables = {{"p", 1, 0.0, 1.0}};
+    const auto data = test::makeVolumeData();
+    data->variables = {{"p", 1, 0.0, 1.0}};
+    host.reader().provide(data);
     play("$!READDATA x\n");
     EXPECT_EQ(causeOf("$!STYLE Streamtraces/Show = true"),
               "Streamtraces/Show cannot be set now. Streamtraces follow a vector variable, and the "
@@ -234,7 +238,7 @@ TEST_F(MacroSceneCommandsTest, writesPictures) {
     EXPECT_EQ(causeOf("$!PICTURE x.png Region = MOON"), "Region cannot be \"MOON\".");
     EXPECT_EQ(causeOf("$!PICTURE x.png Depth = 3"), "A picture has no value \"Depth\".");
     EXPECT_THAT(causeOf("$!PICTURE"), HasSubstr("Expected \"file\""));
-    host.pictures.failure = "The disk is full.";
+    host.pictures().failNext("The disk is full.");
     EXPECT_EQ(causeOf("$!PICTURE " + quoted(file)), "The disk is full.");
     EXPECT_EQ(folder.read("a b.png"), "1280 x 720") << "the older picture stays";
     EXPECT_THAT(folder.names(), ElementsAre("a b.png"));
@@ -251,7 +255,7 @@ TEST_F(MacroSceneCommandsTest, setsTheSolutionTime) {
 
 TEST_F(MacroSceneCommandsTest, redraws) {
     play("$!REDRAW\n");
-    EXPECT_THAT(host.screen.presented, ElementsAre(true));
+    EXPECT_THAT(host.renderer().presented(), ElementsAre(true));
     EXPECT_THAT(causeOf("$!REDRAW now"), HasSubstr("nothing"));
 }
 

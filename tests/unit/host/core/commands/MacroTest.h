@@ -2,18 +2,16 @@
 #pragma once
 
 #include "host/core/macro/MacroText.h"
-#include "tests/unit/host/core/Fakes.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/HostTest.h"
 
 #include <sstream>
 #include <string>
 
 namespace corvane::host {
 
-class MacroTest : public testing::Test {
+class MacroTest : public test::EmptyHostTest {
 protected:
-    MacroTest() { host.reader.data = fakes::volumeData(); }
+    MacroTest() { host.reader().provide(test::makeVolumeData()); }
 
     void play(const std::string& text) {
         std::istringstream macro(text);
@@ -31,9 +29,8 @@ protected:
     }
     Frame& frame() { return *session.page().active(); }
 
-    fakes::FakeHost host;
-    Host& program = host.program;
-    Session& session = host.session;
+    Host& program = host.program();
+    Session& session = host.session();
 };
 
 } // namespace corvane::host

@@ -13,9 +13,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class SceneFollowerTest : public MacroTest {
+class UncommandedChangesTest : public MacroTest {
 protected:
-    SceneFollowerTest() {
+    UncommandedChangesTest() {
         play("$!READDATA x\n");
         startRecording(session, program.recorder());
         m_scene = program.recorder().lines().size();
@@ -31,7 +31,7 @@ private:
     std::size_t m_scene = 0;
 };
 
-TEST_F(SceneFollowerTest, nothingThatCommandsDidIsRecordedTwice) {
+TEST_F(UncommandedChangesTest, nothingThatCommandsDidIsRecordedTwice) {
     program.perform("VIEW", {"FIT"});
     program.perform("VIEW", {"AXIS", "=", "+X"});
     program.perform("SOLUTIONTIME", {"=", "2"});
@@ -43,7 +43,7 @@ TEST_F(SceneFollowerTest, nothingThatCommandsDidIsRecordedTwice) {
                                         HasSubstr("$!READDATA"), "$!FRAME CREATE"));
 }
 
-TEST_F(SceneFollowerTest, viewsAndTimesThatWereSetOtherwiseComeBeforeTheNextCommand) {
+TEST_F(UncommandedChangesTest, viewsAndTimesThatWereSetOtherwiseComeBeforeTheNextCommand) {
     session.rotateView(RotateAxis_Psi, 10.0);
     session.rotateView(RotateAxis_Psi, 10.0);
     session.setSolutionTime(3.5);
@@ -52,7 +52,7 @@ TEST_F(SceneFollowerTest, viewsAndTimesThatWereSetOtherwiseComeBeforeTheNextComm
                                         "$!STYLE Slice/1/Show = false"));
 }
 
-TEST_F(SceneFollowerTest, viewsBelongToTheFrameThatWasActive) {
+TEST_F(UncommandedChangesTest, viewsBelongToTheFrameThatWasActive) {
     program.perform("FRAME", {"CREATE"});
     session.activateFrame(1);
     program.macros().uncommanded().remember();
@@ -62,7 +62,7 @@ TEST_F(SceneFollowerTest, viewsBelongToTheFrameThatWasActive) {
                 ElementsAre("$!FRAME CREATE", HasSubstr("$!VIEW SET"), "$!FRAME ACTIVATE = 2"));
 }
 
-TEST_F(SceneFollowerTest, theLastViewIsThereAtTheEnd) {
+TEST_F(UncommandedChangesTest, theLastViewIsThereAtTheEnd) {
     session.rotateView(RotateAxis_Alpha, 5.0);
     EXPECT_THAT(program.recorder().stop().back(), HasSubstr("Alpha = 5 "));
     session.rotateView(RotateAxis_Alpha, 5.0);
@@ -70,14 +70,14 @@ TEST_F(SceneFollowerTest, theLastViewIsThereAtTheEnd) {
     EXPECT_THAT(program.recorder().stop(), IsEmpty());
 }
 
-TEST_F(SceneFollowerTest, aWorkAreaThatWasResizedIsRecordedOnce) {
+TEST_F(UncommandedChangesTest, aWorkAreaThatWasResizedIsRecordedOnce) {
     session.page().resizeWorkArea({500, 400, 62.5});
     program.macros().uncommanded().catchUp();
     session.page().resizeWorkArea({600, 400, 70.0});
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 600 Height = 400 PixelsPerInch = 70"));
 }
 
-TEST_F(SceneFollowerTest, aSizeThatTheUserChoseIsNotThatOfAMacro) {
+TEST_F(UncommandedChangesTest, aSizeThatTheUserChoseIsNotThatOfAMacro) {
     program.macros().keepPictureSize();
     session.page().resizeWorkArea({640, 360, 80.0});
     program.perform("WORKAREA",
@@ -85,7 +85,7 @@ TEST_F(SceneFollowerTest, aSizeThatTheUserChoseIsNotThatOfAMacro) {
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 640 Height = 360"));
 }
 
-TEST_F(SceneFollowerTest, aCommandThatAnAddOnDoesNotRecordLeavesItsView) {
+TEST_F(UncommandedChangesTest, aCommandThatAnAddOnDoesNotRecordLeavesItsView) {
     bool isRecorded = false;
     session.addOnCommands().add("Turn", [&](const std::string& command) {
         session.rotateView(RotateAxis_Psi, 10.0);
@@ -101,7 +101,7 @@ TEST_F(SceneFollowerTest, aCommandThatAnAddOnDoesNotRecordLeavesItsView) {
     EXPECT_THAT(recorded().back(), HasSubstr("loudly"));
 }
 
-TEST_F(SceneFollowerTest, whatAFlightLeadsToIsKnownByItsCommand) {
+TEST_F(UncommandedChangesTest, whatAFlightLeadsToIsKnownByItsCommand) {
     session.status().start("Flying", true, true);
     session.rotateView(RotateAxis_Psi, 10.0);
     program.recorder().recordAddOnCommand("Flights", "Fly");
@@ -109,7 +109,7 @@ TEST_F(SceneFollowerTest, whatAFlightLeadsToIsKnownByItsCommand) {
     EXPECT_THAT(recorded(), ElementsAre(R"($!EXTCOMMAND "Flights" "Fly")"));
 }
 
-TEST_F(SceneFollowerTest, aFlightWithoutACommandLeavesItsView) {
+TEST_F(UncommandedChangesTest, aFlightWithoutACommandLeavesItsView) {
     session.status().start("Flying", true, true);
     session.rotateView(RotateAxis_Psi, 10.0);
     EXPECT_THAT(recorded(), IsEmpty());

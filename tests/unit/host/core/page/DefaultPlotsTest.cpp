@@ -1,7 +1,7 @@
 // Tests of the first picture of data.
 #include "host/core/page/Frame.h"
 
-#include "tests/unit/host/core/Fakes.h"
+#include "tests/support/MemoryData.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ protected:
     }
 
     Frame frame{1, Placement{0, 0, 8, 4.5}};
-    std::shared_ptr<DataSet> data = fakes::volumeData();
+    std::shared_ptr<DataSet> data = test::makeVolumeData();
 };
 
 TEST_F(DefaultPlotsTest, volumesShowOneSliceAcrossTheirShortestExtent) {

@@ -2,7 +2,7 @@
 #include "host/core/page/Frame.h"
 #include "host/core/page/PointList.h"
 
-#include "tests/unit/host/core/Fakes.h"
+#include "tests/support/MemoryData.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 namespace corvane::host {
 namespace {
 
-class FrameStylesTest : public testing::Test {
+class StyleBindingsTest : public testing::Test {
 protected:
     StyleSetResult_e set(const std::string& path, const StyleInput& value) {
         return frame.styles().set(stylePathFromString(path), value);
@@ -20,7 +20,7 @@ protected:
     Frame frame{1, Placement{}};
 };
 
-TEST_F(FrameStylesTest, theViewIsReachedByItsPaths) {
+TEST_F(StyleBindingsTest, theViewIsReachedByItsPaths) {
     frame.view.perspective = false;
     EXPECT_EQ(set("ThreeDView/PSIAngle", 1000.0), StyleSet_Ok);
     EXPECT_EQ(set("ThreeDView/ThetaAngle", -1000.0), StyleSet_Ok);
@@ -36,7 +36,7 @@ TEST_F(FrameStylesTest, theViewIsReachedByItsPaths) {
     EXPECT_EQ(frame.view, (View3D{1000.0, -1000.0, 3.0, {4, 5, 6}, 7.0, false, 8.0, {9, 10, 11}}));
 }
 
-TEST_F(FrameStylesTest, perspectiveSwitchesNothingElse) {
+TEST_F(StyleBindingsTest, perspectiveSwitchesNothingElse) {
     frame.view.width = 12.5;
     View3D expected = frame.view;
     EXPECT_EQ(set("ThreeDView/DrawInPerspective", 0L), StyleSet_Ok);
@@ -47,7 +47,7 @@ TEST_F(FrameStylesTest, perspectiveSwitchesNothingElse) {
     EXPECT_EQ(frame.view, expected);
 }
 
-TEST_F(FrameStylesTest, theWidthCanBeSetWithoutPerspectiveOnly) {
+TEST_F(StyleBindingsTest, theWidthCanBeSetWithoutPerspectiveOnly) {
     EXPECT_EQ(set("ThreeDView/ViewWidth", 7.0), StyleSet_NotAllowed);
     EXPECT_EQ(frame.view.width, 1.0);
     frame.view.perspective = false;
@@ -56,8 +56,8 @@ TEST_F(FrameStylesTest, theWidthCanBeSetWithoutPerspectiveOnly) {
     EXPECT_EQ(set("ThreeDView/ViewWidth", 1e-300), StyleSet_Ok);
 }
 
-TEST_F(FrameStylesTest, allOfTheViewAndNothingElseHasTheEffectView) {
-    frame.attachData(fakes::volumeData());
+TEST_F(StyleBindingsTest, allOfTheViewAndNothingElseHasTheEffectView) {
+    frame.attachData(test::makeVolumeData());
     for (const StyleLeaf& leaf : frame.styles().leaves()) {
         const bool isView = leaf.path.front() == "ThreeDView";
         EXPECT_EQ(leaf.effect, isView ? StyleEffect::View : StyleEffect::Picture)
@@ -65,8 +65,8 @@ TEST_F(FrameStylesTest, allOfTheViewAndNothingElseHasTheEffectView) {
     }
 }
 
-TEST_F(FrameStylesTest, everyNumberRefusesWhatIsNotFinite) {
-    frame.attachData(fakes::volumeData());
+TEST_F(StyleBindingsTest, everyNumberRefusesWhatIsNotFinite) {
+    frame.attachData(test::makeVolumeData());
     frame.view.perspective = false;
     const FrameStyle style = frame.style;
     const View3D view = frame.view;
@@ -92,10 +92,11 @@ struct Range {
     double maximum;
 };
 
-class FrameStyleRange : public FrameStylesTest, public testing::WithParamInterface<Range> {};
+class StyleBindingsRangeTest : public StyleBindingsTest,
+                               public testing::WithParamInterface<Range> {};
 
-TEST_P(FrameStyleRange, acceptsItsEndsAndNothingBeyond) {
-    frame.attachData(fakes::volumeData());
+TEST_P(StyleBindingsRangeTest, acceptsItsEndsAndNothingBeyond) {
+    frame.attachData(test::makeVolumeData());
     const Range& range = GetParam();
     const StyleLeaf* leaf = frame.styles().find(stylePathFromString(range.path));
     ASSERT_NE(leaf, nullptr);
@@ -113,7 +114,7 @@ TEST_P(FrameStyleRange, acceptsItsEndsAndNothingBeyond) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Paths, FrameStyleRange,
+    Paths, StyleBindingsRangeTest,
     testing::Values(Range{"ThreeDView/FieldOfView", 0.1, 179}, //
                     Range{"GlobalThreeD/LightSource/Intensity", 0, 100},
                     Range{"GlobalThreeD/LightSource/BackgroundLight", 0, 100},
@@ -125,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Range{"Streamtraces/Direction", 1, 3}, Range{"Streamtraces/Radius", 0, 1e300},
                     Range{"Annotations/Background/Blue", 0, 1}));
 
-TEST_F(FrameStylesTest, addOnsReachWhatTheirContractNames) {
+TEST_F(StyleBindingsTest, addOnsReachWhatTheirContractNames) {
     EXPECT_EQ(set("StreamAttributes/StreamTiming/TimeAnchor", -2.5), StyleSet_Ok);
     EXPECT_EQ(set("StreamAttributes/StreamTiming/ShowMarkers", 1L), StyleSet_Ok);
     EXPECT_EQ(set("StreamAttributes/StreamTiming/ShowDashes", 1L), StyleSet_Ok);
@@ -137,7 +138,7 @@ TEST_F(FrameStylesTest, addOnsReachWhatTheirContractNames) {
     EXPECT_FALSE(frame.style.annotations.showAxis);
 }
 
-TEST_F(FrameStylesTest, numberedPlotsCountFromOne) {
+TEST_F(StyleBindingsTest, numberedPlotsCountFromOne) {
     EXPECT_EQ(set("Slice/6/Position", 0.25), StyleSet_Ok);
     EXPECT_EQ(frame.style.slices[5].position, 0.25);
     EXPECT_EQ(set("IsoSurface/1/Value", 0.75), StyleSet_Ok);
@@ -146,7 +147,7 @@ TEST_F(FrameStylesTest, numberedPlotsCountFromOne) {
     EXPECT_EQ(set("Slice/7/Position", 0.5), StyleSet_BadPath);
 }
 
-TEST_F(FrameStylesTest, eachBlockHasASurface) {
+TEST_F(StyleBindingsTest, eachBlockHasASurface) {
     EXPECT_EQ(set("Surface/1/Show", 1L), StyleSet_BadPath);
     auto data = std::make_shared<DataSet>();
     data->blocks = {{"a", 2}, {"b", 2}};
@@ -154,7 +155,7 @@ TEST_F(FrameStylesTest, eachBlockHasASurface) {
     EXPECT_EQ(set("Surface/2/ShowMesh", 1L), StyleSet_Ok);
     EXPECT_TRUE(frame.style.surfaces[1].showMesh);
     EXPECT_EQ(set("Surface/3/Show", 1L), StyleSet_BadPath);
-    frame.attachData(fakes::volumeData());
+    frame.attachData(test::makeVolumeData());
     EXPECT_EQ(frame.style.surfaces.size(), 1U);
     EXPECT_EQ(set("Surface/1/Show", 1L), StyleSet_Ok);
     EXPECT_EQ(set("Surface/2/Show", 1L), StyleSet_BadPath);
@@ -162,15 +163,15 @@ TEST_F(FrameStylesTest, eachBlockHasASurface) {
     EXPECT_EQ(set("Surface/1/Show", 1L), StyleSet_BadPath);
 }
 
-TEST_F(FrameStylesTest, colourMapsAreThoseThatAreKnown) {
+TEST_F(StyleBindingsTest, colourMapsAreThoseThatAreKnown) {
     EXPECT_EQ(set("Contour/ColorMap", std::string("coolwarm")), StyleSet_Ok);
     EXPECT_EQ(frame.style.contour.colorMap, "CoolWarm");
     EXPECT_EQ(set("Contour/ColorMap", std::string("Jet")), StyleSet_BadValue);
     EXPECT_EQ(frame.style.contour.colorMap, "CoolWarm");
 }
 
-TEST_F(FrameStylesTest, variablesAreThoseOfTheData) {
-    frame.attachData(fakes::volumeData());
+TEST_F(StyleBindingsTest, variablesAreThoseOfTheData) {
+    frame.attachData(test::makeVolumeData());
     EXPECT_EQ(set("Contour/Variable", std::string("U:Z")), StyleSet_Ok);
     EXPECT_EQ(set("Contour/Variable", std::string("Preasure")), StyleSet_BadValue);
     EXPECT_EQ(set("Contour/Variable", std::string()), StyleSet_Ok);
@@ -180,7 +181,7 @@ TEST_F(FrameStylesTest, variablesAreThoseOfTheData) {
     EXPECT_EQ(set("Streamtraces/Variable", std::string("p")), StyleSet_BadValue);
 }
 
-TEST_F(FrameStylesTest, seedsAreAListOfPoints) {
+TEST_F(StyleBindingsTest, seedsAreAListOfPoints) {
     const std::string path = "Streamtraces/SeedPoints";
     EXPECT_EQ(set(path, std::string("1 0 2.5;-1e2\t.5 3 ")), StyleSet_Ok);
     EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints),
@@ -193,7 +194,7 @@ TEST_F(FrameStylesTest, seedsAreAListOfPoints) {
     EXPECT_EQ(pointsFromText(frame.style.streamtraces.seedPoints), std::vector<Vec3>{});
 }
 
-TEST_F(FrameStylesTest, listsOfPointsHaveALimit) {
+TEST_F(StyleBindingsTest, listsOfPointsHaveALimit) {
     std::string text = "0 0 0";
     for (std::size_t i = 1; i < mostListedPoints; ++i) {
         text += ";0 0 0";
@@ -203,13 +204,13 @@ TEST_F(FrameStylesTest, listsOfPointsHaveALimit) {
     EXPECT_EQ(set("Streamtraces/SeedPoints", text + ";0 0 0"), StyleSet_BadValue);
 }
 
-TEST_F(FrameStylesTest, streamtracesCanBeShown) {
-    frame.attachData(fakes::volumeData());
+TEST_F(StyleBindingsTest, streamtracesCanBeShown) {
+    frame.attachData(test::makeVolumeData());
     EXPECT_EQ(set("Streamtraces/Show", 1L), StyleSet_Ok);
     EXPECT_TRUE(frame.style.streamtraces.show);
 }
 
-TEST_F(FrameStylesTest, anyVariableCanBeNamedBeforeThereAreData) {
+TEST_F(StyleBindingsTest, anyVariableCanBeNamedBeforeThereAreData) {
     EXPECT_EQ(set("Contour/Variable", std::string("later")), StyleSet_Ok);
 }
 

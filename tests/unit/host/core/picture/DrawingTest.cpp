@@ -1,5 +1,11 @@
 // Tests of when pictures are made.
-#include "tests/unit/host/core/Fakes.h"
+#include "host/core/picture/Drawing.h"
+
+#include "host/core/addons/Locks.h"
+#include "host/core/base/HostError.h"
+#include "host/core/page/Page.h"
+#include "tests/support/MemoryIdleTimer.h"
+#include "tests/support/MemoryRenderer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,10 +19,9 @@ class DrawingTest : public testing::Test {
 protected:
     Page page;
     Locks locks;
-    fakes::FakeRenderer renderer;
-    fakes::FakeScreen screen;
-    fakes::FakeIdleTimer timer;
-    Drawing drawing{page, locks, renderer, &screen, &timer};
+    test::MemoryRenderer renderer; ///< and the screen
+    test::MemoryIdleTimer timer;
+    Drawing drawing{page, locks, renderer, &renderer, &timer};
 };
 
 TEST_F(DrawingTest, aMarkDrawsNothingAndAsksForIdleTimeOnce) {
@@ -24,14 +29,14 @@ TEST_F(DrawingTest, aMarkDrawsNothingAndAsksForIdleTimeOnce) {
     drawing.mark();
     EXPECT_TRUE(drawing.isMarked());
     EXPECT_EQ(drawing.renders(), 0U);
-    EXPECT_EQ(timer.requests, 1);
+    EXPECT_EQ(timer.requests(), 1U);
 }
 
 TEST_F(DrawingTest, drawsAllFramesOnceWhenDue) {
     drawing.mark();
     drawing.drawIfDue();
     drawing.drawIfDue();
-    EXPECT_THAT(screen.presented, ElementsAre(true));
+    EXPECT_THAT(renderer.presented(), ElementsAre(true));
     EXPECT_EQ(drawing.renders(), 1U);
     EXPECT_FALSE(drawing.isMarked());
 }
@@ -55,14 +60,14 @@ TEST_F(DrawingTest, isNotDueWhileSuspendedAtAnyDepth) {
     drawing.suspend();
     drawing.suspend();
     drawing.mark();
-    EXPECT_EQ(timer.requests, 0);
+    EXPECT_EQ(timer.requests(), 0U);
     EXPECT_TRUE(drawing.resume());
     drawing.drawIfDue();
     EXPECT_EQ(drawing.renders(), 0U);
-    EXPECT_EQ(timer.requests, 0);
+    EXPECT_EQ(timer.requests(), 0U);
     EXPECT_TRUE(drawing.resume());
     EXPECT_EQ(drawing.renders(), 0U) << "resuming must not draw by itself";
-    EXPECT_EQ(timer.requests, 1);
+    EXPECT_EQ(timer.requests(), 1U);
     drawing.drawIfDue();
     EXPECT_EQ(drawing.renders(), 1U);
 }
@@ -79,7 +84,7 @@ TEST_F(DrawingTest, redrawsAtOnceAtAnyDepthOfLocks) {
     drawing.mark();
     EXPECT_TRUE(drawing.redraw(false));
     EXPECT_TRUE(drawing.redraw(true));
-    EXPECT_THAT(screen.presented, ElementsAre(false, true));
+    EXPECT_THAT(renderer.presented(), ElementsAre(false, true));
     EXPECT_FALSE(drawing.isMarked());
 }
 
@@ -96,7 +101,7 @@ TEST_F(DrawingTest, restoresTheDepthOfSuspensions) {
     drawing.mark();
     drawing.restoreSuspensions(0);
     EXPECT_EQ(drawing.suspensions(), 0);
-    EXPECT_EQ(timer.requests, 1);
+    EXPECT_EQ(timer.requests(), 1U);
 }
 
 TEST_F(DrawingTest, aPictureNeitherMarksNorUnmarks) {
@@ -107,23 +112,23 @@ TEST_F(DrawingTest, aPictureNeitherMarksNorUnmarks) {
     drawing.suspend();
     drawing.picture(request);
     EXPECT_TRUE(drawing.isMarked());
-    EXPECT_THAT(renderer.requests, ElementsAre(request, request));
+    EXPECT_THAT(renderer.requests(), ElementsAre(request, request));
     EXPECT_EQ(drawing.renders(), 2U);
-    EXPECT_TRUE(screen.presented.empty());
+    EXPECT_TRUE(renderer.presented().empty());
 }
 
 TEST_F(DrawingTest, countsNoPictureThatFailed) {
-    renderer.failAt = 1;
+    renderer.failAt(1);
     EXPECT_THROW(drawing.picture({ExportRegion_WorkArea, 6, 4, 1}), HostError);
     EXPECT_EQ(drawing.renders(), 0U);
 }
 
 TEST_F(DrawingTest, doesNotTryAFailedPictureAgain) {
-    screen.fails = true;
+    renderer.failAt(1);
     drawing.mark();
     EXPECT_THROW(drawing.drawIfDue(), HostError);
     EXPECT_NO_THROW(drawing.drawIfDue());
-    EXPECT_EQ(screen.presented.size(), 1U);
+    EXPECT_EQ(renderer.renders(), 0U);
 }
 
 TEST_F(DrawingTest, makesNoPictureThatNobodySees) {
@@ -134,7 +139,7 @@ TEST_F(DrawingTest, makesNoPictureThatNobodySees) {
     EXPECT_TRUE(unseen.redraw(true));
     EXPECT_FALSE(unseen.isMarked());
     EXPECT_EQ(unseen.renders(), 0U);
-    EXPECT_TRUE(renderer.requests.empty());
+    EXPECT_EQ(renderer.renders(), 0U);
 }
 
 } // namespace

@@ -1,12 +1,19 @@
 // Tests of recording: what is refused, what is written, and what a failure leaves behind.
 #include "host/core/picture/Exporter.h"
 
+#include "host/core/addons/Locks.h"
+#include "host/core/base/HostError.h"
+#include "host/core/page/Page.h"
+#include "host/core/picture/Drawing.h"
+#include "host/core/picture/ExportSetup.h"
+#include "tests/support/MemoryMovies.h"
+#include "tests/support/MemoryRenderer.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/host/core/Fakes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <exception>
 #include <filesystem>
 
 namespace corvane::host {
@@ -19,13 +26,13 @@ using testing::IsEmpty;
 class ExporterTest : public testing::Test {
 protected:
     ExporterTest() {
-        renderer.log = &movies.log;
         page.createFrame({0, 0, 4, 3});
         setup.fileName = folder.file("movie.avi");
         setup.imageWidth = 40;
         folder.write("movie.avi", "older");
     }
 
+    const test::MemoryMovie& movie() const { return movies.movies().at(0); }
     /// No movie came into being, and the one that was there is untouched.
     void expectNothingWritten() const {
         EXPECT_FALSE(exporter.isRecording());
@@ -35,7 +42,8 @@ protected:
     void expectRefused(const char* reason) {
         EXPECT_FALSE(exporter.start());
         EXPECT_THAT(exporter.failure(), HasSubstr(reason));
-        EXPECT_THAT(movies.log, IsEmpty()) << "refused before anything is drawn or opened";
+        EXPECT_THAT(movies.movies(), IsEmpty()) << "refused before anything is opened";
+        EXPECT_EQ(renderer.renders(), 0U) << "refused before anything is drawn";
         expectNothingWritten();
     }
 
@@ -43,8 +51,8 @@ protected:
     Page page;
     Locks locks;
     ExportSetup setup;
-    fakes::FakeRenderer renderer;
-    fakes::FakeMovies movies;
+    test::MemoryRenderer renderer;
+    test::MemoryMovies movies;
     Drawing drawing{page, locks, renderer, nullptr, nullptr};
     Exporter exporter{page, setup, drawing, renderer, movies};
 };
@@ -53,15 +61,18 @@ TEST_F(ExporterTest, recordsTheCurrentPictureFirstAndOneForEachCall) {
     EXPECT_TRUE(exporter.start());
     EXPECT_TRUE(exporter.isRecording());
     EXPECT_EQ(exporter.frames(), 1U);
+    EXPECT_EQ(drawing.renders(), 1U);
+    EXPECT_EQ(movie().pictures, 1U);
     EXPECT_TRUE(exporter.nextFrame());
+    EXPECT_EQ(movie().pictures, 2U);
     EXPECT_EQ(folder.read("movie.avi"), "older");
     EXPECT_TRUE(exporter.finish());
     EXPECT_FALSE(exporter.isRecording());
     EXPECT_EQ(exporter.frames(), 2U);
     EXPECT_EQ(drawing.renders(), 2U);
-    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "add", "draw", "add", "finish", "close"));
+    EXPECT_TRUE(movie().finished);
     EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
-    EXPECT_EQ(folder.read("movie.avi"), "ppe");
+    EXPECT_EQ(folder.read("movie.avi"), "2 pictures\n");
     EXPECT_FALSE(exporter.hasFailed());
 }
 
@@ -72,7 +83,7 @@ TEST_F(ExporterTest, handsTheSetupToTheWriter) {
     setup.flashImageType = FlashImageType_JPEG;
     setup.flashCompressionType = FlashCompressionType_SmallestSize;
     ASSERT_TRUE(exporter.start());
-    const MovieRequest& request = movies.requests.at(0);
+    const MovieRequest& request = movie().request;
     EXPECT_EQ(request.path, folder.file("movie.avi.part"));
     EXPECT_EQ(request.format, ExportFormat_FlashSWF);
     EXPECT_EQ(request.width, 40);
@@ -95,9 +106,10 @@ TEST_F(ExporterTest, theHeightFollowsFromTheRegion) {
     setup.region = ExportRegion_CurrentFrame;
     page.active()->placement = {0, 0, 100, 1};
     ASSERT_TRUE(exporter.start());
-    EXPECT_THAT(renderer.requests, ElementsAre(PictureRequest{ExportRegion_CurrentFrame, 33, 8, 1},
-                                               PictureRequest{ExportRegion_WorkArea, 33, 19, 1},
-                                               PictureRequest{ExportRegion_CurrentFrame, 4, 1, 1}));
+    EXPECT_THAT(renderer.requests(),
+                ElementsAre(PictureRequest{ExportRegion_CurrentFrame, 33, 8, 1},
+                            PictureRequest{ExportRegion_WorkArea, 33, 19, 1},
+                            PictureRequest{ExportRegion_CurrentFrame, 4, 1, 1}));
 }
 
 TEST_F(ExporterTest, supersamplesOnlyWhenItIsOn) {
@@ -106,8 +118,8 @@ TEST_F(ExporterTest, supersamplesOnlyWhenItIsOn) {
     exporter.cancel();
     setup.useSuperSampleAntiAliasing = true;
     ASSERT_TRUE(exporter.start());
-    EXPECT_EQ(renderer.requests[0].supersample, 1);
-    EXPECT_EQ(renderer.requests[1].supersample, 4);
+    EXPECT_EQ(renderer.requests()[0].supersample, 1);
+    EXPECT_EQ(renderer.requests()[1].supersample, 4);
 }
 
 TEST_F(ExporterTest, keepsTheSizeOfItsPicturesWhateverChanges) {
@@ -115,7 +127,7 @@ TEST_F(ExporterTest, keepsTheSizeOfItsPicturesWhateverChanges) {
     page.active()->placement = {0, 0, 1, 9};
     setup.imageWidth = 999;
     ASSERT_TRUE(exporter.nextFrame());
-    EXPECT_EQ(renderer.requests[1], renderer.requests[0]);
+    EXPECT_EQ(renderer.requests()[1], renderer.requests()[0]);
 }
 
 TEST_F(ExporterTest, refusesASecondMovieAndGoesOnWithTheFirst) {
@@ -124,7 +136,7 @@ TEST_F(ExporterTest, refusesASecondMovieAndGoesOnWithTheFirst) {
     EXPECT_FALSE(exporter.hasFailed());
     EXPECT_TRUE(exporter.nextFrame());
     EXPECT_TRUE(exporter.finish());
-    EXPECT_EQ(folder.read("movie.avi"), "ppe");
+    EXPECT_EQ(folder.read("movie.avi"), "2 pictures\n");
 }
 
 TEST_F(ExporterTest, refusesAFormatWithoutMovies) {
@@ -152,14 +164,15 @@ TEST_F(ExporterTest, refusesARegionWithoutExtent) {
 
 TEST_F(ExporterTest, refusesPicturesTooLargeToDraw) {
     setup.useSuperSampleAntiAliasing = true; // 3 times
-    renderer.largest = 119;
+    renderer.setLargestSize(119);
     expectRefused("120 pixels");
-    renderer.largest = 120;
+    renderer.setLargestSize(120);
     EXPECT_TRUE(exporter.start());
 }
 
 TEST_F(ExporterTest, refusesPicturesTooHighToDraw) {
     page.active()->placement = {0, 0, 1, 500};
+    renderer.setLargestSize(16384);
     expectRefused("20000 pixels");
 }
 
@@ -169,72 +182,71 @@ TEST_F(ExporterTest, refusesAFolderThatIsMissing) {
 }
 
 TEST_F(ExporterTest, aWriterThatCannotBeOpenedLeavesNothing) {
-    movies.failOpen = "There is no such encoder.";
+    movies.failOpen("There is no such encoder.");
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "There is no such encoder.");
-    EXPECT_THAT(movies.log, ElementsAre("open"));
+    EXPECT_EQ(renderer.renders(), 0U) << "it is opened before a picture is made";
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, aWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
-    movies.failOpen = "The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.";
+    movies.failOpen("The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.");
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "The movie \"" + folder.file("movie.avi") + "\" has no encoder.");
 }
 
 TEST_F(ExporterTest, aFirstPictureThatCannotBeDrawnLeavesNothing) {
-    renderer.failAt = 1;
+    renderer.failAt(1);
     EXPECT_FALSE(exporter.start());
-    EXPECT_EQ(exporter.failure(), "The picture cannot be drawn.");
-    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "close"));
+    EXPECT_EQ(exporter.failure(), "The picture could not be drawn.");
+    EXPECT_TRUE(movie().abandoned);
     EXPECT_EQ(exporter.frames(), 0U);
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, aFirstPictureThatCannotBeWrittenLeavesNothing) {
-    movies.failAdd = 1;
+    movies.failAt(1);
     EXPECT_FALSE(exporter.start());
-    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    EXPECT_EQ(exporter.failure(), "The picture could not be encoded.");
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, aFailureWithoutATextHasOneAllTheSame) {
-    movies.throwsNothingKnown = true;
+    movies.failAt(1, std::make_exception_ptr(7));
     EXPECT_FALSE(exporter.start());
     EXPECT_TRUE(exporter.hasFailed());
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, remembersTheFirstFailureAndRefusesFurtherPictures) {
-    movies.failAdd = 2;
+    movies.failAt(2);
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.nextFrame());
-    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    EXPECT_EQ(exporter.failure(), "The picture could not be encoded.");
     EXPECT_TRUE(exporter.isRecording()) << "until the add-on cancels or finishes it";
     EXPECT_FALSE(exporter.nextFrame());
     EXPECT_EQ(drawing.renders(), 2U);
     EXPECT_EQ(exporter.frames(), 1U);
     EXPECT_TRUE(exporter.cancel());
-    EXPECT_EQ(exporter.failure(), "The disk is full.");
+    EXPECT_EQ(exporter.failure(), "The picture could not be encoded.");
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, finishingAfterAFailureFailsAndLeavesNothing) {
-    movies.failAdd = 2;
+    movies.failAt(2);
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.nextFrame());
     EXPECT_FALSE(exporter.finish());
-    EXPECT_EQ(exporter.failure(), "The disk is full.");
-    EXPECT_EQ(movies.log.back(), "close");
-    EXPECT_THAT(movies.log, testing::Not(testing::Contains("finish")));
+    EXPECT_EQ(exporter.failure(), "The picture could not be encoded.");
+    EXPECT_TRUE(movie().abandoned);
     expectNothingWritten();
 }
 
 TEST_F(ExporterTest, aFinishThatFailsLeavesNothing) {
-    movies.failFinish = "The end cannot be written.";
+    movies.failFinish();
     ASSERT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.finish());
-    EXPECT_EQ(exporter.failure(), "The end cannot be written.");
+    EXPECT_EQ(exporter.failure(), "The movie could not be completed.");
     expectNothingWritten();
 }
 
@@ -252,7 +264,7 @@ TEST_F(ExporterTest, cancelClosesTheWriterAndRemovesThePart) {
     ASSERT_TRUE(exporter.start());
     EXPECT_THAT(folder.names(), ElementsAre("movie.avi", "movie.avi.part"));
     EXPECT_TRUE(exporter.cancel());
-    EXPECT_THAT(movies.log, ElementsAre("open", "draw", "add", "close"));
+    EXPECT_TRUE(movie().abandoned);
     EXPECT_FALSE(exporter.hasFailed());
     expectNothingWritten();
 }
@@ -262,13 +274,12 @@ TEST_F(ExporterTest, withoutARecordingThereIsNothingToDo) {
     EXPECT_FALSE(exporter.finish());
     EXPECT_FALSE(exporter.cancel());
     EXPECT_FALSE(exporter.hasFailed());
-    EXPECT_THAT(movies.log, IsEmpty());
+    EXPECT_THAT(movies.movies(), IsEmpty());
 }
 
 TEST_F(ExporterTest, aNewMovieForgetsTheFailureOfTheLast) {
-    movies.failAdd = 1;
+    movies.failAt(1);
     EXPECT_FALSE(exporter.start());
-    movies.failAdd = 0;
     EXPECT_TRUE(exporter.start());
     EXPECT_FALSE(exporter.hasFailed());
     EXPECT_EQ(exporter.frames(), 1U);
@@ -279,7 +290,7 @@ TEST_F(ExporterTest, itsEndRemovesAMovieThatIsNotComplete) {
         Exporter other(page, setup, drawing, renderer, movies);
         ASSERT_TRUE(other.start());
     }
-    EXPECT_EQ(movies.log.back(), "close");
+    EXPECT_TRUE(movie().abandoned);
     expectNothingWritten();
 }
 

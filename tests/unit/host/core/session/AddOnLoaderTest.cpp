@@ -1,9 +1,9 @@
-// Tests of add-ons and of loading their libraries.
+// Tests of loading the libraries of add-ons.
 #include "host/core/session/AddOnLoader.h"
 
 #include "tests/support/Folders.h"
+#include "tests/support/HostTest.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/host/core/Fakes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,6 +15,8 @@
 namespace corvane::host {
 namespace {
 
+using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
 
 std::string library(const std::string& name) {
@@ -29,7 +31,7 @@ bool isLoaded(const std::string& file) {
     return handle != nullptr;
 }
 
-class AddOnsTest : public testing::Test {
+class AddOnLoaderTest : public test::EmptyHostTest {
 protected:
     std::string failureOf(const std::string& file) {
         try {
@@ -40,38 +42,23 @@ protected:
         return {};
     }
 
-    fakes::FakeHost host;
-    Session& session = host.session;
+    Session& session = host.session();
 };
 
-TEST_F(AddOnsTest, keepsAddOnsAtTheirAddress) {
-    AddOns addOns;
-    const CorAddOnID first = addOns.add({110, "A", "1", "x"});
-    for (int i = 0; i < 100; ++i) {
-        addOns.add({});
-    }
-    EXPECT_EQ(first->name, "A");
-    EXPECT_EQ(addOns.all().size(), 101U);
-    EXPECT_TRUE(addOns.isKnown(first));
-    EXPECT_FALSE(addOns.isKnown(nullptr));
-    CorAddOn_s stranger;
-    EXPECT_FALSE(addOns.isKnown(&stranger));
-}
-
-TEST_F(AddOnsTest, loadsALibraryAndCallsItsEntryPoint) {
+TEST_F(AddOnLoaderTest, loadsALibraryAndCallsItsEntryPoint) {
     loadAddOn(session, library("WellBehaved"));
     ASSERT_EQ(session.addOns().all().size(), 1U);
     EXPECT_EQ(session.addOns().all()[0]->name, "Well behaved");
     EXPECT_TRUE(isLoaded(library("WellBehaved")));
 }
 
-TEST_F(AddOnsTest, loadsALibraryOnce) {
+TEST_F(AddOnLoaderTest, loadsALibraryOnce) {
     loadAddOn(session, library("WellBehaved"));
     EXPECT_THAT(failureOf(library("WellBehaved")), HasSubstr("it is loaded already"));
     EXPECT_EQ(session.addOns().all().size(), 1U);
 }
 
-TEST_F(AddOnsTest, aBareNameMeansAFileHere) {
+TEST_F(AddOnLoaderTest, aBareNameMeansAFileHere) {
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(test::builtFile("tests/libraries"));
     const std::string failure = failureOf("WellBehaved.so");
@@ -80,23 +67,23 @@ TEST_F(AddOnsTest, aBareNameMeansAFileHere) {
     EXPECT_EQ(session.addOns().all().size(), 1U);
 }
 
-TEST_F(AddOnsTest, aLibraryWithoutEntryPointIsUnloadedAgain) {
+TEST_F(AddOnLoaderTest, aLibraryWithoutEntryPointIsUnloadedAgain) {
     const std::string failure = failureOf(library("NoEntryPoint"));
     EXPECT_THAT(failure, HasSubstr(library("NoEntryPoint")));
     EXPECT_THAT(failure, HasSubstr("InitCorAddOn113"));
     EXPECT_FALSE(isLoaded(library("NoEntryPoint")));
 }
 
-TEST_F(AddOnsTest, anEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
+TEST_F(AddOnLoaderTest, anEntryPointThatThrowsIsReportedAndItsLocksAreGone) {
     EXPECT_EQ(failureOf(library("Throwing")), "") << "the host goes on";
-    ASSERT_EQ(host.prompts.errors.size(), 1U);
-    EXPECT_THAT(host.prompts.errors[0], HasSubstr(library("Throwing")));
-    EXPECT_THAT(host.prompts.errors[0], HasSubstr("no menus here"));
+    const std::vector<std::string> errors = host.prompts().shown(test::ShownDialog::Kind::Error);
+    EXPECT_THAT(errors,
+                ElementsAre(AllOf(HasSubstr(library("Throwing")), HasSubstr("no menus here"))));
     EXPECT_EQ(session.locks().depth(), 0);
     EXPECT_TRUE(isLoaded(library("Throwing"))) << "its objects may be in use";
 }
 
-TEST_F(AddOnsTest, filesThatAreNoLibrariesAreNamed) {
+TEST_F(AddOnLoaderTest, filesThatAreNoLibrariesAreNamed) {
     const test::TempFolder folder;
     EXPECT_THAT(failureOf(folder.file("missing.so")), HasSubstr(folder.file("missing.so")));
     const std::string text = folder.write("text.so", "not a library");

@@ -1,14 +1,11 @@
-// Tests of the rules that tie the host's parts together.
-#include "host/core/Host.h"
+// Tests of the rules by which the state of the host changes.
+#include "tests/unit/host/core/session/SessionTest.h"
 
+#include "host/core/base/HostError.h"
 #include "tests/support/TempFolder.h"
-#include "tests/unit/host/core/Fakes.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <limits>
-#include <stdexcept>
+#include <memory>
 
 namespace corvane::host {
 namespace {
@@ -16,54 +13,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SessionTest : public testing::Test {
-protected:
-    SessionTest() {
-        host.reader.data = fakes::volumeData();
-        session.stateChanges().addListener(&SessionTest::listen, this);
-    }
-
-    static void listen(StateChange_e change, void* clientData) {
-        static_cast<SessionTest*>(clientData)->told.push_back(change);
-    }
-    /// Data are loaded, drawn and told of.
-    void open() {
-        session.openData({"x"});
-        settle();
-    }
-    void settle() {
-        session.drawing().drawIfDue();
-        told.clear();
-    }
-    Frame& frame() { return *session.page().active(); }
-
-    fakes::FakeHost host;
-    Host& program = host.program;
-    Session& session = host.session;
-    std::vector<StateChange_e> told;
-};
-
-TEST_F(SessionTest, theMostRecentlyCreatedHostIsTheCurrentOne) {
-    EXPECT_EQ(Host::current(), &program);
-    {
-        fakes::FakeHost younger;
-        EXPECT_EQ(Host::current(), &younger.program);
-    }
-    EXPECT_EQ(Host::current(), &program);
-}
-
-TEST(HostLife, thereIsNoneAfterTheLastOne) {
-    { const fakes::FakeHost host; }
-    EXPECT_EQ(Host::current(), nullptr);
-}
-
 TEST_F(SessionTest, opensDataIntoANewFrameOfTheWholeWorkArea) {
     session.page().workArea = {800, 600, 100.0};
     session.openData({"a", "b"});
-    EXPECT_THAT(host.reader.calls, ElementsAre(ElementsAre("a", "b")));
+    EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre("a", "b")));
     ASSERT_EQ(session.page().frames().size(), 1U);
     EXPECT_EQ(frame().placement, (Placement{0, 0, 8, 6}));
-    EXPECT_EQ(frame().data(), host.reader.data);
+    EXPECT_EQ(frame().data(), data);
     EXPECT_TRUE(frame().style.slices[0].show);
     EXPECT_THAT(told, ElementsAre(StateChange_FrameCreated, StateChange_DataSetAttached));
     EXPECT_TRUE(session.drawing().isMarked());
@@ -88,7 +44,7 @@ TEST_F(SessionTest, dataThatCannotBeReadLeaveTheOldOnesAlone) {
     open();
     const auto before = frame().data();
     const FrameStyle style = frame().style;
-    host.reader.failure = "Cannot read y.";
+    host.reader().failNext("Cannot read y.");
     EXPECT_THROW(session.openData({"y"}), HostError);
     EXPECT_EQ(frame().data(), before);
     EXPECT_EQ(frame().style, style);
@@ -97,7 +53,7 @@ TEST_F(SessionTest, dataThatCannotBeReadLeaveTheOldOnesAlone) {
 }
 
 TEST_F(SessionTest, dataThatCannotBeReadMakeNoFrame) {
-    host.reader.failure = "Cannot read y.";
+    host.reader().failNext("Cannot read y.");
     EXPECT_THROW(session.openData({"y"}), HostError);
     EXPECT_EQ(session.page().active(), nullptr);
     EXPECT_THAT(told, IsEmpty());
@@ -225,7 +181,7 @@ TEST_F(SessionTest, fitsTheView) {
     EXPECT_TRUE(session.fitView());
     EXPECT_EQ(frame().view, fitted);
     EXPECT_THAT(told, ElementsAre(StateChange_ViewChanged));
-    host.reader.data = std::make_shared<DataSet>();
+    host.reader().provide(std::make_shared<DataSet>());
     open();
     EXPECT_FALSE(session.fitView());
 }
@@ -238,12 +194,82 @@ TEST_F(SessionTest, setsThePlotType) {
     EXPECT_THAT(told, ElementsAre(StateChange_PlotTypeChanged));
 }
 
+TEST_F(SessionTest, aNewFrameIsOnTopAndActive) {
+    session.createFrame({});
+    settle();
+    const Frame& created = session.createFrame({1, 2, 3, 4});
+    EXPECT_EQ(created.placement, (Placement{1, 2, 3, 4}));
+    EXPECT_EQ(session.page().active(), &created);
+    EXPECT_EQ(session.page().frames().front().get(), &created);
+    EXPECT_THAT(told, ElementsAre(StateChange_FrameCreated, StateChange_FrameActivated));
+    EXPECT_TRUE(session.drawing().isMarked());
+}
+
+TEST_F(SessionTest, placesAFrame) {
+    const long id = session.createFrame({}).id();
+    session.createFrame({5, 5, 1, 1});
+    settle();
+    EXPECT_TRUE(session.placeFrame(id, {1, 2, 3, 4}));
+    EXPECT_EQ(session.page().find(id)->placement, (Placement{1, 2, 3, 4}));
+    EXPECT_EQ(frame().placement, (Placement{5, 5, 1, 1})) << "the active one stays";
+    EXPECT_THAT(told, ElementsAre(StateChange_StyleChanged));
+    EXPECT_TRUE(session.drawing().isMarked());
+}
+
+TEST_F(SessionTest, aFrameThatIsNotThereCannotBePlaced) {
+    session.createFrame({1, 2, 3, 4});
+    settle();
+    EXPECT_FALSE(session.placeFrame(99, {}));
+    EXPECT_EQ(frame().placement, (Placement{1, 2, 3, 4}));
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_FALSE(session.drawing().isMarked());
+}
+
+TEST_F(SessionTest, raisesAndLowersFramesWithoutTellingAndWithoutActivating) {
+    const long below = session.createFrame({}).id();
+    const long above = session.createFrame({}).id();
+    settle();
+    EXPECT_TRUE(session.raiseFrame(below));
+    EXPECT_EQ(session.page().frames().front()->id(), below);
+    EXPECT_TRUE(session.drawing().isMarked());
+    settle();
+    EXPECT_TRUE(session.lowerFrame(below));
+    EXPECT_EQ(session.page().frames().front()->id(), above);
+    EXPECT_TRUE(session.drawing().isMarked());
+    EXPECT_EQ(frame().id(), above);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(SessionTest, aFrameThatIsNotThereIsNeitherRaisedNorLowered) {
+    const long below = session.createFrame({}).id();
+    session.createFrame({});
+    EXPECT_FALSE(session.raiseFrame(99));
+    EXPECT_FALSE(session.lowerFrame(99));
+    EXPECT_EQ(session.page().frames().back()->id(), below);
+}
+
+TEST_F(SessionTest, aFrameThatFilledTheWorkAreaFillsItAfterwards) {
+    open();
+    const WorkArea smaller{800, 600, 100.0};
+    session.resizeWorkArea(smaller);
+    EXPECT_EQ(session.page().workArea, smaller);
+    EXPECT_EQ(frame().placement, (Placement{0, 0, 8, 6}));
+    EXPECT_TRUE(session.drawing().isMarked());
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(SessionTest, framesThatDoNotFillTheWorkAreaKeepTheirPlace) {
+    session.createFrame({1, 1, 2, 2});
+    session.resizeWorkArea({800, 600, 100.0});
+    EXPECT_EQ(frame().placement, (Placement{1, 1, 2, 2}));
+}
+
 TEST_F(SessionTest, aFailedMovieStopsTheAnimationUntilItIsCancelled) {
     const test::TempFolder folder;
     open();
     session.exportSetup().fileName = folder.file("movie.avi");
     session.exportSetup().imageWidth = 8;
-    host.movies.failAdd = 2;
+    host.movies().failAt(2);
     session.status().start("Exporting", true, true);
     ASSERT_TRUE(session.exporter().start());
     EXPECT_TRUE(session.status().check(1));
@@ -254,6 +280,7 @@ TEST_F(SessionTest, aFailedMovieStopsTheAnimationUntilItIsCancelled) {
     session.status().finish();
     session.status().start("Playing", true, true);
     EXPECT_TRUE(session.status().check(1)) << "the next animation has nothing to do with it";
+    session.status().finish();
 }
 
 TEST_F(SessionTest, theExportSetupIsClosedWhileAMovieIsRecorded) {
@@ -267,116 +294,6 @@ TEST_F(SessionTest, theExportSetupIsClosedWhileAMovieIsRecorded) {
     EXPECT_EQ(session.setStyle({"ExportSetup", "ImageWidth"}, 16L), StyleSet_Ok);
 }
 
-class AddOnCallGuard : public SessionTest {
-protected:
-    CorAddOnID addOn = session.addOns().add({110, "Careless", "1", "somebody"});
-    std::vector<std::string> misuses;
-    std::vector<std::string> exceptions;
-
-    AddOnCallGuard() {
-        session.trace().connect(
-            {.onMisuse = [this](const std::string& what) { misuses.push_back(what); },
-             .onException = [this](const std::string& what) { exceptions.push_back(what); }});
-    }
-};
-
-TEST_F(AddOnCallGuard, letsCallsThrough) {
-    bool called = false;
-    EXPECT_EQ(session.callAddOn("call", [&called] { called = true; }), "");
-    EXPECT_TRUE(called);
-    EXPECT_THAT(misuses, IsEmpty());
-}
-
-TEST_F(AddOnCallGuard, catchesWhateverIsThrown) {
-    EXPECT_EQ(session.callAddOn("call", [] { throw std::out_of_range("row 7"); }), "row 7");
-    EXPECT_EQ(session.callAddOn("call", [] { throw 7; }),
-              "The add-on failed for an unknown reason.");
-    EXPECT_NE(session.callAddOn("call", [] { throw std::runtime_error(""); }), "");
-}
-
-TEST_F(AddOnCallGuard, putsLocksAndSuspensionsBackAfterAnException) {
-    session.locks().start(addOn);
-    session.drawing().suspend();
-    session.callAddOn("call", [this] {
-        session.locks().start(addOn);
-        session.locks().start(nullptr);
-        session.drawing().suspend();
-        throw std::runtime_error("oops");
-    });
-    EXPECT_EQ(session.locks().depth(), 1);
-    EXPECT_EQ(session.locks().depthOf(addOn), 1);
-    EXPECT_EQ(session.drawing().suspensions(), 1);
-}
-
-TEST_F(AddOnCallGuard, asksForThePictureThatTheLeftLocksHeldBack) {
-    open();
-    session.callAddOn("call", [this] {
-        session.locks().start(addOn);
-        session.drawing().suspend();
-        session.setStyle({"ThreeDView", "PSIAngle"}, 1.0);
-        throw std::runtime_error("oops");
-    });
-    const int requests = host.idleTimer.requests;
-    EXPECT_GT(requests, 0);
-    session.onIdle();
-    EXPECT_EQ(session.drawing().renders(), 2U);
-    EXPECT_FALSE(session.drawing().isMarked());
-}
-
-TEST_F(AddOnCallGuard, putsBackWhatAnOrderlyCallLeftAndTellsTheTrace) {
-    open();
-    session.locks().start(nullptr);
-    EXPECT_EQ(session.callAddOn("taking", [this] { session.locks().start(addOn); }), "");
-    EXPECT_EQ(session.locks().depth(), 1);
-    EXPECT_EQ(session.callAddOn("giving", [this] { session.locks().finish(nullptr); }), "");
-    EXPECT_EQ(session.locks().depth(), 1);
-    EXPECT_EQ(session.callAddOn("suspending", [this] { session.drawing().suspend(); }), "");
-    EXPECT_EQ(session.drawing().suspensions(), 0);
-    EXPECT_THAT(misuses,
-                ElementsAre("taking: locks are not balanced (1 before, 2 after)",
-                            "giving: locks are not balanced (1 before, 0 after)",
-                            "suspending: suspended drawing is not balanced (0 before, 1 after)"));
-}
-
-TEST_F(AddOnCallGuard, drawsWhatAForgottenLockHeldBack) {
-    open();
-    session.onIdle();
-    const auto renders = session.drawing().renders();
-    session.callAddOn("call", [this] {
-        session.locks().start(addOn);
-        session.setStyle({"ThreeDView", "PSIAngle"}, 1.0);
-    });
-    session.onIdle();
-    EXPECT_EQ(session.drawing().renders(), renders + 1);
-}
-
-TEST_F(AddOnCallGuard, tellsTheTraceWhatWasThrown) {
-    session.callAddOn("idle work of libBad.so", [] { throw std::out_of_range("row 7"); });
-    EXPECT_THAT(exceptions, ElementsAre("idle work of libBad.so: row 7"));
-    EXPECT_THAT(misuses, IsEmpty());
-}
-
-TEST_F(AddOnCallGuard, listenersThatThrowAreShownAndTheOthersAreTold) {
-    session.stateChanges().addCallback([](StateChange_e) { throw std::runtime_error("listener"); });
-    session.page().createFrame({});
-    session.setPlotType(PlotType_Cartesian2D);
-    EXPECT_THAT(host.prompts.errors, ElementsAre("listener"));
-    EXPECT_THAT(told, ElementsAre(StateChange_PlotTypeChanged));
-}
-
-TEST_F(AddOnCallGuard, idleWorkThatThrowsIsShownAndTheRestIsDone) {
-    bool done = false;
-    session.idle().add([this] {
-        session.locks().start(addOn);
-        throw std::runtime_error("idle");
-    });
-    session.idle().add([&done] { done = true; });
-    session.onIdle();
-    EXPECT_THAT(host.prompts.errors, ElementsAre("idle"));
-    EXPECT_TRUE(done);
-    EXPECT_EQ(session.locks().depth(), 0);
-}
-
 TEST_F(SessionTest, idleTimeDoesTheWorkAndThenDraws) {
     std::uint64_t rendersAtWork = 99;
     session.idle().add([this, &rendersAtWork] { rendersAtWork = session.drawing().renders(); });
@@ -387,11 +304,11 @@ TEST_F(SessionTest, idleTimeDoesTheWorkAndThenDraws) {
 }
 
 TEST_F(SessionTest, aPictureThatFailsAtIdleTimeIsShownOnce) {
-    host.screen.fails = true;
+    host.renderer().failAt(1);
     session.drawing().mark();
     session.onIdle();
     session.onIdle();
-    EXPECT_THAT(host.prompts.errors, ElementsAre("The screen is gone."));
+    EXPECT_THAT(errors(), ElementsAre("The picture could not be drawn."));
 }
 
 TEST_F(SessionTest, quittingTellsOnceAndDropsIdleWork) {

@@ -1,7 +1,7 @@
 // Tests of the percent-done display's nesting and its wish to stop.
 #include "host/core/session/StatusLine.h"
 
-#include "tests/unit/host/core/Fakes.h"
+#include "tests/support/ScriptedStatus.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 class StatusLineTest : public testing::Test {
 protected:
-    fakes::FakeStatus display;
+    test::ScriptedStatus display;
     StatusLine line{display};
 };
 
@@ -26,22 +26,22 @@ TEST_F(StatusLineTest, showsTextAndPercent) {
     EXPECT_TRUE(line.check(50));
     line.finish();
     EXPECT_FALSE(line.isActive());
-    EXPECT_THAT(display.log,
-                ElementsAre("start Playing stop", "5", "text Half way", "50", "finish"));
+    EXPECT_THAT(display.events(), ElementsAre("start \"Playing\" stop", "percent 5",
+                                              "text \"Half way\"", "percent 50", "finish"));
 }
 
 TEST_F(StatusLineTest, clampsPercent) {
     line.start("", false, true);
     line.check(-20);
     line.check(1000);
-    EXPECT_THAT(display.log, ElementsAre("start  bar", "0", "100"));
+    EXPECT_THAT(display.percents(), ElementsAre(0, 100));
 }
 
 TEST_F(StatusLineTest, latchesTheWishToStopUntilTheEnd) {
     line.start("", true, true);
-    display.stop = true;
+    display.stopAtCheck(1);
     EXPECT_FALSE(line.check(1));
-    display.stop = false;
+    display.forgetStop();
     EXPECT_FALSE(line.check(2));
     EXPECT_TRUE(line.wasStopped());
     line.finish();
@@ -75,26 +75,27 @@ TEST_F(StatusLineTest, showsTheOutermostOfNestedDisplays) {
     EXPECT_TRUE(line.isActive());
     EXPECT_TRUE(line.check(10));
     line.finish();
-    EXPECT_THAT(display.log, ElementsAre("start outer stop bar", "10", "finish"));
+    EXPECT_THAT(display.events(), ElementsAre("start \"outer\" stop bar", "percent 10", "finish"));
 }
 
 TEST_F(StatusLineTest, aStopWithinANestedDisplayReachesTheOutermost) {
     line.start("outer", true, true);
     line.start("inner", true, true);
-    display.stop = true;
+    display.stopAtCheck(1);
     EXPECT_FALSE(line.check(1));
-    display.stop = false;
+    display.forgetStop();
     line.finish();
     EXPECT_FALSE(line.check(2));
 }
 
 TEST_F(StatusLineTest, toleratesCallsWithoutAStart) {
-    display.stop = true;
+    display.stopAtCheck(1);
     line.setText("nobody sees this");
     EXPECT_TRUE(line.check(50));
     line.finish();
     EXPECT_FALSE(line.isActive());
-    EXPECT_THAT(display.log, IsEmpty());
+    EXPECT_THAT(display.events(), IsEmpty());
+    EXPECT_EQ(display.checks(), 0U);
 }
 
 } // namespace
