@@ -25,7 +25,8 @@ endif()
 # corvane_add_test(NAME name SOURCES file... [LIBS target...] [LABELS label...] [ENVIRONMENT VAR=value...]
 #                  [PROPERTIES prop value...])
 # Builds a GoogleTest program and registers each of its tests with CTest under "name.Suite.Test".
-# LABELS defaults to "unit". Tests run in their own folder of the build tree.
+# LABELS defaults to "unit": tests that need neither a window nor files of pictures or movies.
+# Tests run in their own folder of the build tree.
 function(corvane_add_test)
     cmake_parse_arguments(arg "" "NAME" "SOURCES;LIBS;LABELS;ENVIRONMENT;PROPERTIES" ${ARGN})
     if(NOT arg_LABELS)

@@ -1,5 +1,6 @@
 // The comparison itself.
 #include "tests/golden/GoldenPicture.h"
+#include "tests/golden/GrayPicture.h"
 #include "tests/golden/PngFile.h"
 #include "tests/support/TempFolder.h"
 
@@ -7,18 +8,6 @@
 #include <gtest/gtest.h>
 
 namespace corvane::test {
-
-namespace {
-
-host::Picture grayPicture(int width, int height, std::uint8_t gray) {
-    host::Picture picture{width, height, {}};
-    for (int i = 0; i < width * height; ++i) {
-        picture.rgba.insert(picture.rgba.end(), {gray, gray, gray, 255});
-    }
-    return picture;
-}
-
-} // namespace
 
 TEST(GoldenPicture, pngFilesGiveBackWhatWasWritten) {
     const TempFolder folder;
@@ -46,16 +35,6 @@ TEST(GoldenPicture, aMissingPictureFailsAndLeavesACandidate) {
     const auto result = matchesGolden("there-is-no-such-picture", grayPicture(2, 2, 5));
     EXPECT_FALSE(result);
     EXPECT_THAT(result.message(), testing::HasSubstr("there-is-no-such-picture.candidate.png"));
-}
-
-TEST(GoldenPicture, otherPicturesFail) {
-    const auto size = matchesGolden("surface", grayPicture(2, 2, 5));
-    EXPECT_FALSE(size);
-    EXPECT_THAT(size.message(), testing::HasSubstr("2 x 2"));
-    const auto colours = matchesGolden("surface", grayPicture(320, 180, 5));
-    EXPECT_FALSE(colours);
-    EXPECT_THAT(colours.message(), testing::HasSubstr("limit 80"));
-    EXPECT_THAT(colours.message(), testing::HasSubstr("surface.difference.png"));
 }
 
 } // namespace corvane::test

@@ -40,9 +40,9 @@ protected:
 };
 
 // The main dialog, up and refreshed.
-class MainDialogTest : public UiTest {
+class DialogMainWindowTest : public UiTest {
 protected:
-    MainDialogTest() {
+    DialogMainWindowTest() {
         corutiltools::DialogMain::launch();
         host.runIdle();
         host.clearCalls();

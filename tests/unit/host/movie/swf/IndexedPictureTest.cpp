@@ -2,8 +2,8 @@
 #include "host/movie/swf/IndexedPicture.h"
 
 #include "tests/unit/host/movie/DecodedMovie.h"
-#include "tests/unit/host/movie/TestFolder.h"
 #include "tests/unit/host/movie/TestMovie.h"
+#include "tests/unit/host/movie/swf/ShownPicture.h"
 
 #include <gtest/gtest.h>
 
@@ -11,15 +11,6 @@
 
 namespace corvane::movie_test {
 namespace {
-
-host::Picture shown(const movie::IndexedPicture& indexed, int width, int height) {
-    host::Picture picture = uniformPicture(width, height, {});
-    for (std::size_t pixel = 0; pixel < indexed.indices.size(); ++pixel) {
-        const movie::PaletteColor& color = indexed.palette.at(indexed.indices[pixel]);
-        std::copy(color.begin(), color.end(), picture.rgba.data() + 4 * pixel);
-    }
-    return picture;
-}
 
 /// One pixel of each of so many colours, which differ in their lowest bits too.
 host::Picture pictureOfColors(int count) {
@@ -65,19 +56,6 @@ TEST(IndexedPicture, isMuchBetterThanWithAFixedPalette) {
         const double quality = psnr(shown(movie::indexed(picture), 640, 480), picture);
         EXPECT_GT(quality, psnr(inFixedPalette(picture), picture) + 6.0);
         EXPECT_GT(quality, 31.0);
-    }
-}
-
-TEST(IndexedPicture, isAsGoodAsWithThePaletteOfAnotherProgram) {
-    const TestFolder folder;
-    host::MovieRequest request = movieRequest(folder.path("movie.rm"), 640, 480);
-    request.format = ExportFormat_RasterMetafile; // lossless
-    const auto originals = writeMovingMovie(request, 2);
-    const DecodedMovie movie(request.path);
-    for (long n = 0; n < 2; ++n) {
-        const host::Picture& picture = originals[static_cast<std::size_t>(n)];
-        const double other = psnr(movie.pictureIn256Colors(n), picture);
-        EXPECT_GT(psnr(shown(movie::indexed(picture), 640, 480), picture), other - 0.5);
     }
 }
 
