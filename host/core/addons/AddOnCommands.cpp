@@ -6,7 +6,7 @@
 namespace corvane::host {
 
 bool AddOnCommands::add(const std::string& macroName, AddOnCommand command) {
-    return !macroName.empty() && m_commands.try_emplace(macroName, std::move(command)).second;
+    return !macroName.empty() && m_commands.emplace(macroName, std::move(command)).second;
 }
 
 const AddOnCommand* AddOnCommands::find(const std::string& macroName) const {
