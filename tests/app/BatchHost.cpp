@@ -12,7 +12,7 @@ BatchHost::BatchHost(int pictureWidth, int pictureHeight)
       height(pictureHeight),
       status(log, false, [this] { return movies.wantsStop(); }),
       program({renderer, reader, movies, status, prompts, pictures}) {
-    program.session().page().workArea = {width, height, width / 8.0};
+    program.session().silentPage().workArea = {width, height, width / 8.0};
     host::loadAddOn(program.session(), builtAddOn());
     program.session().openData({exampleFile("wake/wake.pvd")});
 }

@@ -168,7 +168,7 @@ public:
         m_host.program().macros().variables() = {};
         m_host.session().exportSetup() = {};
         m_host.session().setStyle({"Interface", "UseDisplayLists"}, 1L);
-        Frame& frame = *m_host.session().page().active();
+        Frame& frame = *m_host.session().silentPage().active();
         frame.plotType = m_plotType;
         frame.view = m_view;
         frame.style = m_style;

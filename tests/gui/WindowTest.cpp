@@ -72,7 +72,7 @@ gui::DrawingArea& WindowTest::drawingArea() {
 }
 
 host::Frame& WindowTest::frame() {
-    host::Frame* const active = session().page().active();
+    host::Frame* const active = session().silentPage().active();
     if (active == nullptr) {
         throw std::logic_error("The page has no frame.");
     }

@@ -147,7 +147,7 @@ TEST_F(StyleValueTest, followsTheActiveFrame) {
     second.view.alpha = 0.0;
 
     EXPECT_EQ(value.set(2.0, "AlphaAngle"), StyleSet_Ok);
-    ASSERT_TRUE(host.session().page().activate(first.id()));
+    ASSERT_TRUE(host.session().silentPage().activate(first.id()));
     EXPECT_EQ(value.set(1.0, "AlphaAngle"), StyleSet_Ok);
     EXPECT_EQ(first.view.alpha, 1.0);
     EXPECT_EQ(second.view.alpha, 2.0);

@@ -46,7 +46,7 @@ MemoryHost::MemoryHost() : MemoryHost(Empty{}) {
 MemoryHost::~MemoryHost() = default;
 
 host::Frame& MemoryHost::frame() {
-    host::Frame* const active = m_program->session().page().active();
+    host::Frame* const active = m_program->session().silentPage().active();
     if (active == nullptr) {
         throw std::logic_error("The page has no frame.");
     }
@@ -54,7 +54,7 @@ host::Frame& MemoryHost::frame() {
 }
 
 host::Frame& MemoryHost::addFrame(host::Placement placement) {
-    host::Frame& added = m_program->session().page().createFrame(placement);
+    host::Frame& added = m_program->session().silentPage().createFrame(placement);
     added.attachData(makeTransientData());
     host::chooseDefaultPlots(added);
     return added;

@@ -66,7 +66,7 @@ TEST_F(MenuOptionTest, takesManyChangesForOne) {
 }
 
 TEST_F(MenuOptionTest, needsAFrame) {
-    host.session().page().deleteFrame(host.frame().id());
+    host.session().silentPage().deleteFrame(host.frame().id());
     updateMenuOption();
     EXPECT_FALSE(isUsable());
 }

@@ -31,7 +31,7 @@ TEST_F(DialogDropperTest, closesTheDialogAtIdleTime) {
 }
 
 TEST_F(DialogDropperTest, closesTheDialogWithTheLastFrame) {
-    host.session().page().deleteFrame(host.frame().id());
+    host.session().silentPage().deleteFrame(host.frame().id());
     host.session().pageChanged(StateChange_FrameDeleted);
     host.runIdle();
     EXPECT_THAT(dialogsUp(), IsEmpty());

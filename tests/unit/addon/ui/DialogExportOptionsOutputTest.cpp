@@ -196,7 +196,7 @@ TEST_F(DialogExportOptionsOutputTest, goesOnWhenTheHostRefusesAWrite) {
 }
 
 TEST_F(DialogExportOptionsOutputTest, writesAnImageWidthThatTheHostRefuses) {
-    host.session().page().workArea.width = 0;
+    host.session().silentPage().workArea.width = 0;
     region().choose("Work Area");
     confirm("flight.avi");
     EXPECT_THAT(written(), testing::Contains(number("ImageWidth", 0)));

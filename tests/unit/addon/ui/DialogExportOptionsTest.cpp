@@ -229,7 +229,7 @@ TEST_F(DialogExportOptionsTest, measuresTheActiveFrame) {
 TEST_F(DialogExportOptionsTest, roundsDown) {
     host.frame().placement.width = 4.0;
     host.frame().placement.height = 3.0;
-    host.session().page().workArea.pixelsPerInch = 100.4;
+    host.session().silentPage().workArea.pixelsPerInch = 100.4;
     launch();
     EXPECT_EQ(dimensions(), "Dimensions: 401 x 301");
     enterWidth("333");
@@ -241,7 +241,7 @@ TEST_F(DialogExportOptionsTest, measuresTheBoxOfAllFrames) {
     host.frame().placement = {.x = 1.0, .y = 2.0, .width = 3.0, .height = 2.0};
     host.addFrame({.x = 0.5, .y = 3.0, .width = 1.0, .height = 4.0});
     host.addFrame({.x = 2.0, .y = 2.5, .width = 4.0, .height = 1.0});
-    host.session().page().workArea.pixelsPerInch = 100.0;
+    host.session().silentPage().workArea.pixelsPerInch = 100.0;
     const long active = host.frame().id();
     launch();
     region().choose("All Frames");
@@ -261,7 +261,7 @@ TEST_F(DialogExportOptionsTest, measuresTheWorkArea) {
 }
 
 TEST_F(DialogExportOptionsTest, doesNotDivideByAWidthOfZero) {
-    host.session().page().workArea.width = 0;
+    host.session().silentPage().workArea.width = 0;
     launch();
     region().choose("Work Area");
     enterWidth("640");
@@ -270,7 +270,7 @@ TEST_F(DialogExportOptionsTest, doesNotDivideByAWidthOfZero) {
 }
 
 TEST_F(DialogExportOptionsTest, measuresNothingWithoutFrames) {
-    host.session().page().deleteFrame(host.frame().id());
+    host.session().silentPage().deleteFrame(host.frame().id());
     int width = -1;
     int height = -1;
     measureRegion(ExportRegion_AllFrames, width, height);

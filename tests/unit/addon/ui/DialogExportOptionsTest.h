@@ -7,7 +7,7 @@ namespace corvane::test {
 
 class DialogExportOptionsTest : public UiTest {
 protected:
-    DialogExportOptionsTest() { host.session().page().workArea = {.width = 1600, .height = 900}; }
+    DialogExportOptionsTest() { host.session().silentPage().workArea = {.width = 1600, .height = 900}; }
 
     void launch() {
         corutiltools::DialogExportOptions::instance().launch([this] { ++confirmations; });
@@ -41,7 +41,7 @@ protected:
     void measure(double pixelsWide, double pixelsHigh) {
         host.frame().placement.width = 4.0;
         host.frame().placement.height = 4.0 * pixelsHigh / pixelsWide;
-        host.session().page().workArea.pixelsPerInch = pixelsWide / 4.0;
+        host.session().silentPage().workArea.pixelsPerInch = pixelsWide / 4.0;
     }
 
     int confirmations = 0;

@@ -87,7 +87,7 @@ TEST_F(DialogMainTest, mayNotBeLaunchedOverAnotherPlot) {
 }
 
 TEST_F(DialogMainTest, mayNotBeLaunchedWithoutFrame) {
-    host.session().page().deleteFrame(host.frame().id());
+    host.session().silentPage().deleteFrame(host.frame().id());
     EXPECT_FALSE(DialogMain::okToLaunch());
 }
 

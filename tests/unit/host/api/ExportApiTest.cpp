@@ -83,7 +83,7 @@ TEST_F(ExportApiTest, withoutNameFrameOrMovieFormatNothingStarts) {
     host.session().exportSetup().format = 3;
     EXPECT_EQ(CorUtilExportStart(), FALSE);
     host.session().exportSetup().format = ExportFormat_AVI;
-    host.session().page().deleteFrame(host.frame().id());
+    host.session().silentPage().deleteFrame(host.frame().id());
     EXPECT_EQ(CorUtilExportStart(), FALSE);
     expectNothingWritten();
 }

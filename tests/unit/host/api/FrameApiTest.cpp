@@ -125,11 +125,11 @@ TEST_F(FrameApiTest, placementsAreWrittenWhereThereIsRoom) {
 }
 
 TEST_F(FrameApiTest, wholePixelsComeOutWhole) {
-    host.session().page().workArea.pixelsPerInch = 200.0;
+    host.session().silentPage().workArea.pixelsPerInch = 200.0;
     EXPECT_EQ(CorUtilConvertXDimension(4.0, CoordSys_Paper, CoordSys_Screen), 800.0);
     EXPECT_EQ(CorUtilConvertYDimension(3.0, CoordSys_Paper, CoordSys_Screen), 600.0);
     EXPECT_EQ(CorUtilConvertXDimension(800.0, CoordSys_Screen, CoordSys_Paper), 4.0);
-    host.session().page().workArea.pixelsPerInch = 3000.0 / 7.0;
+    host.session().silentPage().workArea.pixelsPerInch = 3000.0 / 7.0;
     EXPECT_EQ(CorUtilConvertXDimension(7.0 * 0.1, CoordSys_Paper, CoordSys_Screen), 300.0);
 }
 
@@ -144,8 +144,8 @@ TEST_F(FrameApiTest, anUnknownSystemIsMisuse) {
 }
 
 TEST_F(FrameApiTest, theWorkAreaIsToldInPixels) {
-    host.session().page().workArea.width = 640;
-    host.session().page().workArea.height = 0;
+    host.session().silentPage().workArea.width = 640;
+    host.session().silentPage().workArea.height = 0;
     int width = -1;
     int height = -1;
     CorUtilWorkAreaGetDimensions(&width, &height);

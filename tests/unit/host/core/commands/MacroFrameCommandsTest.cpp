@@ -20,7 +20,7 @@ TEST_F(MacroFrameCommandsTest, sizesTheWorkArea) {
 }
 
 TEST_F(MacroFrameCommandsTest, aSizeThatTheUserGaveShowsAsMuchPaper) {
-    session.page().workArea = {320, 200, 40.0};
+    session.silentPage().workArea = {320, 200, 40.0};
     program.macros().keepPictureSize();
     play("$!WORKAREA Width = 1000 Height = 500 PixelsPerInch = 50\n");
     EXPECT_EQ(session.page().workArea, (WorkArea{320, 200, 16.0}));

@@ -22,7 +22,7 @@ TEST_F(MacroViewCommandsTest, setsThePlotType) {
     EXPECT_EQ(frame().plotType, PlotType_Cartesian3D);
     EXPECT_THAT(causeOf("$!PLOTTYPE = POLAR"), HasSubstr("CARTESIAN3D"));
     EXPECT_THAT(causeOf("$!PLOTTYPE CARTESIAN3D"), HasSubstr("Expected"));
-    session.page().deleteFrame(frame().id());
+    session.silentPage().deleteFrame(frame().id());
     EXPECT_EQ(causeOf("$!PLOTTYPE = CARTESIAN3D"), "There is no frame.");
 }
 

@@ -71,15 +71,15 @@ TEST_F(UncommandedChangesTest, theLastViewIsThereAtTheEnd) {
 }
 
 TEST_F(UncommandedChangesTest, aWorkAreaThatWasResizedIsRecordedOnce) {
-    session.page().resizeWorkArea({500, 400, 62.5});
+    session.silentPage().resizeWorkArea({500, 400, 62.5});
     program.macros().uncommanded().catchUp();
-    session.page().resizeWorkArea({600, 400, 70.0});
+    session.silentPage().resizeWorkArea({600, 400, 70.0});
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 600 Height = 400 PixelsPerInch = 70"));
 }
 
 TEST_F(UncommandedChangesTest, aSizeThatTheUserChoseIsNotThatOfAMacro) {
     program.macros().keepPictureSize();
-    session.page().resizeWorkArea({640, 360, 80.0});
+    session.silentPage().resizeWorkArea({640, 360, 80.0});
     program.perform("WORKAREA",
                     {"Width", "=", "1000", "Height", "=", "500", "PixelsPerInch", "=", "125"});
     EXPECT_THAT(recorded(), ElementsAre("$!WORKAREA Width = 640 Height = 360"));

@@ -101,7 +101,7 @@ TEST_F(AddOnCallGuardTest, tellsTheTraceWhatWasThrown) {
 
 TEST_F(AddOnCallGuardTest, listenersThatThrowAreShownAndTheOthersAreTold) {
     session.stateChanges().addCallback([](StateChange_e) { throw std::runtime_error("listener"); });
-    session.page().createFrame({});
+    session.silentPage().createFrame({});
     session.setPlotType(PlotType_Cartesian2D);
     EXPECT_THAT(errors(), ElementsAre("listener"));
     EXPECT_THAT(told, ElementsAre(StateChange_PlotTypeChanged));

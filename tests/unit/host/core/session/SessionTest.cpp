@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST_F(SessionTest, opensDataIntoANewFrameOfTheWholeWorkArea) {
-    session.page().workArea = {800, 600, 100.0};
+    session.silentPage().workArea = {800, 600, 100.0};
     session.openData({"a", "b"});
     EXPECT_THAT(host.reader().reads(), ElementsAre(ElementsAre("a", "b")));
     ASSERT_EQ(session.page().frames().size(), 1U);
@@ -27,14 +27,14 @@ TEST_F(SessionTest, opensDataIntoANewFrameOfTheWholeWorkArea) {
 }
 
 TEST_F(SessionTest, opensDataIntoTheActiveFrame) {
-    session.page().createFrame({1, 1, 2, 2});
+    session.silentPage().createFrame({1, 1, 2, 2});
     session.openData({"a"});
     EXPECT_EQ(session.page().frames().size(), 1U);
     EXPECT_THAT(told, ElementsAre(StateChange_DataSetAttached));
 }
 
 TEST_F(SessionTest, aHiddenWindowGivesAFrameWithAnExtent) {
-    session.page().workArea = {0, 0, 100.0};
+    session.silentPage().workArea = {0, 0, 100.0};
     session.openData({"a"});
     EXPECT_GT(frame().placement.width, 0.0);
     EXPECT_GT(frame().placement.height, 0.0);
@@ -118,10 +118,10 @@ TEST_F(SessionTest, stylesOfAFrameNeedA3DFrame) {
 }
 
 TEST_F(SessionTest, stylesReachTheFrameOfAWalk) {
-    session.page().createFrame({});
-    session.page().createFrame({}).view.psi = 7;
-    session.page().activate(1);
-    session.page().startWalk();
+    session.silentPage().createFrame({});
+    session.silentPage().createFrame({}).view.psi = 7;
+    session.silentPage().activate(1);
+    session.silentPage().startWalk();
     StyleInput value;
     EXPECT_EQ(session.getStyle({"ThreeDView", "PSIAngle"}, value), StyleGet_Ok);
     EXPECT_EQ(value, StyleInput(7.0));
@@ -139,7 +139,7 @@ TEST_F(SessionTest, setsTheSolutionTimeWithoutDrawing) {
 
 TEST_F(SessionTest, refusesTimesThatAreNotFiniteAndTimesWithoutData) {
     EXPECT_FALSE(session.setSolutionTime(1.0));
-    session.page().createFrame({});
+    session.silentPage().createFrame({});
     EXPECT_FALSE(session.setSolutionTime(1.0));
     open();
     EXPECT_FALSE(session.setSolutionTime(std::numeric_limits<double>::quiet_NaN()));
