@@ -28,7 +28,7 @@ host::Picture BatchHost::picture() {
 
 host::Picture BatchHost::pictureFrom(const host::Vec3& position, double psi, double theta,
                                      double alpha) {
-    host::View3D& view = program.session().page().active()->view;
+    host::View3D& view = program.session().silentPage().active()->view;
     view.position = position;
     view.psi = psi;
     view.theta = theta;

@@ -152,7 +152,8 @@ TEST_P(FlightWithTraces, advancesTheAnchorByAFifthOfTheDeltaBeforeEachFrame) {
     host.play("$!STYLE ThreeDAxis/FrameAxis/Show = false\n");
     const std::vector<host::Picture> movie = fly({.frames = 4, .streamtraces = true});
     takePlace();
-    host::StreamTimingStyle& timing = host.program.session().page().active()->style.streamTiming;
+    host::StreamTimingStyle& timing =
+        host.program.session().silentPage().active()->style.streamTiming;
     EXPECT_EQ(timing.timeAnchor, 0.25);
     std::vector<host::Picture> fifths;
     for (int fifth = 0; fifth < 5; ++fifth) {
@@ -173,7 +174,7 @@ class FadingFlight : public MovingFlight {
 protected:
     /// With the light at a part of what it is.
     host::Picture pictureAtLight(double part) {
-        host::LightStyle& light = host.program.session().page().active()->style.light;
+        host::LightStyle& light = host.program.session().silentPage().active()->style.light;
         const host::LightStyle full = light;
         light = {full.intensity * part, full.backgroundLight * part};
         host::Picture picture = host.picture();

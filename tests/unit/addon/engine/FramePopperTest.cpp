@@ -21,7 +21,7 @@ protected:
         host.clearCalls();
     }
 
-    host::Page& page() { return host.session().page(); }
+    host::Page& page() { return host.session().silentPage(); }
 
     std::vector<long> stack() {
         std::vector<long> ids;

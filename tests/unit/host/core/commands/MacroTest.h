@@ -27,7 +27,7 @@ protected:
         }
         return {};
     }
-    Frame& frame() { return *session.page().active(); }
+    Frame& frame() { return *session.silentPage().active(); }
 
     Host& program = host.program();
     Session& session = host.session();

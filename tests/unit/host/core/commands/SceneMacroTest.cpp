@@ -85,7 +85,7 @@ TEST_F(SceneMacroTest, bringsBackThePage) {
     EXPECT_EQ(frames[0]->placement, before.session().page().frames()[0]->placement);
     EXPECT_EQ(frames[0]->plotType, PlotType_Cartesian2D);
     EXPECT_EQ(frames[1]->placement, before.session().page().frames()[1]->placement);
-    EXPECT_EQ(after.session().page().active(), frames[1].get());
+    EXPECT_EQ(after.session().page().active(), frames[1]);
 }
 
 TEST_F(SceneMacroTest, bringsBackTheWorkArea) {
@@ -124,8 +124,8 @@ TEST_F(SceneMacroTest, bringsBackTheNumbersOfFramesAndTheirStack) {
     before.program().perform("FRAME", {"POP"});
     before.program().perform("FRAME", {"ACTIVATE", "=", "3"});
     replay();
-    Page& was = before.session().page();
-    Page& is = after.session().page();
+    Page& was = before.session().silentPage();
+    Page& is = after.session().silentPage();
     EXPECT_TRUE(std::equal(is.frames().begin(), is.frames().end(), was.frames().begin(),
                            was.frames().end(), [](const auto& a, const auto& b) {
                                return a->id() == b->id() && a->placement == b->placement;

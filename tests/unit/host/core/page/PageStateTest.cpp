@@ -21,10 +21,10 @@ protected:
         page.createFrame({1.0, 2.0, 3.0, 4.0});
     }
 
-    Frame& first() { return page.frames().empty() ? page.createFrame({}) : *page.frames().back(); }
+    Frame& first() { return page.find(1) == nullptr ? page.createFrame({}) : *page.find(1); }
     std::vector<long> stack() const {
         std::vector<long> numbers;
-        for (const auto& frame : page.frames()) {
+        for (const Frame* const frame : page.frames()) {
             numbers.push_back(frame->id());
         }
         return numbers;

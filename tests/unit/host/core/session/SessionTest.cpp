@@ -200,7 +200,7 @@ TEST_F(SessionTest, aNewFrameIsOnTopAndActive) {
     const Frame& created = session.createFrame({1, 2, 3, 4});
     EXPECT_EQ(created.placement, (Placement{1, 2, 3, 4}));
     EXPECT_EQ(session.page().active(), &created);
-    EXPECT_EQ(session.page().frames().front().get(), &created);
+    EXPECT_EQ(session.page().frames().front(), &created);
     EXPECT_THAT(told, ElementsAre(StateChange_FrameCreated, StateChange_FrameActivated));
     EXPECT_TRUE(session.drawing().isMarked());
 }

@@ -68,7 +68,7 @@ TEST_F(PageLayoutTilesTest, looksLikeThePictureDrawnAtOnce) {
 
 TEST_F(PageLayoutTilesTest, aWrongTileWouldBeSeen) {
     const host::Picture whole = draw(320, 180, 1);
-    page.frames().front()->view.theta += 5.0;
+    page.active()->view.theta += 5.0;
     EXPECT_GT(meanDifference(whole, drawTiled(320, 180, 1, 100)), 0.25);
 }
 
