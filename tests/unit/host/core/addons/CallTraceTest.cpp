@@ -12,7 +12,7 @@ using testing::IsEmpty;
 namespace corvane::host {
 namespace {
 
-TEST(CallTraceTest, showsCallResultAndDepth) {
+TEST_F(CallTraceTest, showsCallResultAndDepth) {
     EXPECT_EQ(toString(TraceRecord{"CorUtilExportStart()", "TRUE", 1}),
               "CorUtilExportStart() = TRUE [1]");
     EXPECT_EQ(toString(TraceRecord{"CorUtilDrawGraphics(FALSE)", "", 0}),
