@@ -171,7 +171,7 @@ TEST(MemoryHostTest, whatIsLeftBehindIsTold) {
     host.failNext("CorUtilMisspelt");
     EXPECT_THAT(host.leftBehind(),
                 ElementsAre("CorUtilMisspelt was to fail and was not called",
-                            "misuse: unit_host_api: CorUtilZoneGetStrandID: no such zone",
+                            "misuse: unit_support: CorUtilZoneGetStrandID: no such zone",
                             "no misuse although it was expected: never seen", "locks held: 1",
                             "drawing suspended: 1", "the percent-done display is open",
                             "a movie is being recorded"));
