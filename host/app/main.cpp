@@ -5,6 +5,7 @@
 #include "host/app/Signals.h"
 #include "host/app/StandardStreams.h"
 #include "host/app/WindowRun.h"
+#include "host/core/process/ProcessServer.h"
 #include "host/scene/DataReaders.h"
 
 #include <iostream>
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
     using namespace corvane;
     using namespace corvane::app;
     holdStandardStreams();
+    const host::ProcessServer server; // while there are no threads
     surviveFailedWrites();
     try {
         const Options options = parseCommandLine(argc, argv, scene::DataReaders().formats());

@@ -1,14 +1,26 @@
-// Work that may bring the process down, tried in a copy of the process.
+// Work that may bring the process down, tried in another process.
 #pragma once
 
-#include <functional>
+#include "host/core/process/Task.h"
+
+#include <chrono>
+#include <string>
+#include <vector>
 
 namespace corvane::scene {
 
-/// Whether the work comes to its end, be it by an exception. False when it crashes or takes longer
-/// than the seconds. It is done in a copy of this process and changes nothing here; of the threads,
-/// only the calling one is copied, so the work must need no lock that another one may hold. True,
-/// untried, when there can be no copy.
-bool survives(const std::function<void()>& work, unsigned seconds);
+/// How long a trial may take.
+struct TrialTime {
+    unsigned cpuSeconds;
+    /// For work that waits for ever. Generous, since a busy computer or a slow file server is no
+    /// reason to give up.
+    std::chrono::seconds patience;
+};
+
+/// Whether the task comes to its end, be it by an exception. False when it crashes or takes longer.
+/// It is done by a helper of the process server and changes nothing here. True, untried, when there
+/// can be no helper.
+bool survives(const host::Task& task, const std::vector<std::string>& arguments,
+              const TrialTime& time);
 
 } // namespace corvane::scene
