@@ -34,7 +34,7 @@ bool isDimmed(const Control& control) {
 
 std::string nameInTrace(const Control& control) {
     const Dialog& dialog = *control.dialog;
-    const std::string name = ofOwner("the dialog " + inQuotes(dialog.label), dialog.owner);
+    std::string name = ofOwner("the dialog " + inQuotes(dialog.label), dialog.owner);
     if (&control == &dialog) {
         return name;
     }
