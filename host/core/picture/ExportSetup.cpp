@@ -130,7 +130,7 @@ std::optional<StyleInput> exportSettingFromText(const std::string& name, const s
     if (setting == nullptr) {
         return std::nullopt;
     }
-    if (const auto keyword = keywordFromText(*setting, text)) {
+    if (auto keyword = keywordFromText(*setting, text)) {
         return keyword;
     }
     switch (setting->kind) {

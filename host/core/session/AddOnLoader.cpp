@@ -57,7 +57,7 @@ void loadAddOn(Session& session, const std::string& library) {
     if (!session.addOns().keepLibrary(handle.get())) {
         throw cannotLoad(library, "it is loaded already.");
     }
-    handle.release();
+    static_cast<void>(handle.release()); // the session keeps it from here on
     const std::string error = session.callAddOn(
         ofOwner(entryPoint, std::filesystem::path(library).filename().string()), start);
     if (!error.empty()) {
