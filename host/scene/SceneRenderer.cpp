@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -149,7 +148,9 @@ void SceneRenderer::Canvas::forgetDeletedFrames(const host::Page& page) {
 
 void SceneRenderer::Canvas::orderRenderers(const host::Page& page) {
     std::vector<vtkRenderer*> order{m_paper};
-    for (const host::Frame* const frame : page.frames() | std::views::reverse) {
+    std::vector<const host::Frame*> bottomUp = page.frames();
+    std::reverse(bottomUp.begin(), bottomUp.end());
+    for (const host::Frame* const frame : bottomUp) {
         for (vtkRenderer* const renderer : m_frames[frame->id()]->renderers()) {
             order.push_back(renderer);
         }

@@ -104,6 +104,15 @@ bool Page::deleteFrame(long id) {
     return true;
 }
 
+std::vector<const Frame*> Page::frames() const {
+    std::vector<const Frame*> frames;
+    frames.reserve(m_frames.size());
+    for (const std::unique_ptr<Frame>& frame : m_frames) {
+        frames.push_back(frame.get());
+    }
+    return frames;
+}
+
 const Frame* Page::find(long id) const {
     const auto found = findById(m_frames, id);
     return found == m_frames.end() ? nullptr : found->get();

@@ -7,7 +7,6 @@
 
 #include <memory>
 #include <optional>
-#include <ranges>
 #include <vector>
 
 namespace corvane::host {
@@ -36,11 +35,7 @@ public:
     bool deleteFrame(long id);
 
     /// Pointers to the frames, from the top of the stack down.
-    auto frames() const {
-        return m_frames | std::views::transform([](const std::unique_ptr<Frame>& frame) {
-                   return static_cast<const Frame*>(frame.get());
-               });
-    }
+    std::vector<const Frame*> frames() const;
     const Frame* active() const { return m_active; } ///< null without frames
     Frame* active() { return m_active; }
     const Frame* find(long id) const; ///< null without such a frame

@@ -1,7 +1,6 @@
 #include "host/scene/layout/PageLayout.h"
 
 #include <cmath>
-#include <ranges>
 
 namespace corvane::scene {
 
@@ -31,7 +30,9 @@ std::vector<FrameInPicture> framesInPicture(const host::Page& page,
     const PixelRect picture{0, 0, request.width * request.supersample,
                             request.height * request.supersample};
     std::vector<FrameInPicture> shown;
-    for (const host::Frame* const frame : page.frames() | std::views::reverse) {
+    std::vector<const host::Frame*> bottomUp = page.frames();
+    std::reverse(bottomUp.begin(), bottomUp.end());
+    for (const host::Frame* const frame : bottomUp) {
         if (request.region == ExportRegion_CurrentFrame && frame != page.active()) {
             continue;
         }

@@ -126,10 +126,9 @@ TEST_F(SceneMacroTest, bringsBackTheNumbersOfFramesAndTheirStack) {
     replay();
     Page& was = before.session().silentPage();
     Page& is = after.session().silentPage();
-    EXPECT_TRUE(std::equal(is.frames().begin(), is.frames().end(), was.frames().begin(),
-                           was.frames().end(), [](const auto& a, const auto& b) {
-                               return a->id() == b->id() && a->placement == b->placement;
-                           }));
+    EXPECT_TRUE(std::ranges::equal(is.frames(), was.frames(), [](const auto& a, const auto& b) {
+        return a->id() == b->id() && a->placement == b->placement;
+    }));
     EXPECT_EQ(is.active()->id(), 3);
     EXPECT_EQ(is.createFrame({}).id(), was.createFrame({}).id());
 }
