@@ -202,15 +202,19 @@ bool Session::placeFrame(long id, const Placement& placement) {
 }
 
 bool Session::raiseFrame(long id) {
-    const bool isRaised = m_page.raise(id);
-    m_drawing.mark();
-    return isRaised;
+    return markIf(m_page.raise(id));
 }
 
 bool Session::lowerFrame(long id) {
-    const bool isLowered = m_page.lower(id);
-    m_drawing.mark();
-    return isLowered;
+    return markIf(m_page.lower(id));
+}
+
+/// For changes that have no notice of their own.
+bool Session::markIf(bool isChanged) {
+    if (isChanged) {
+        m_drawing.mark();
+    }
+    return isChanged;
 }
 
 void Session::resizeWorkArea(const WorkArea& area) {

@@ -132,6 +132,7 @@ private:
     void bindOwnStyles();
     const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
+    bool markIf(bool isChanged);
     void announceIfMoved(const Frame& frame, const View3D& before);
     /// Makes the change, and tells when another frame is active than before. Answers what it did.
     bool announceIfActivated(const std::function<bool()>& change);

@@ -12,13 +12,6 @@ using testing::IsEmpty;
 namespace corvane::host {
 namespace {
 
-TEST_F(CallTraceTest, showsCallResultAndDepth) {
-    EXPECT_EQ(toString(TraceRecord{"CorUtilExportStart()", "TRUE", 1}),
-              "CorUtilExportStart() = TRUE [1]");
-    EXPECT_EQ(toString(TraceRecord{"CorUtilDrawGraphics(FALSE)", "", 0}),
-              "CorUtilDrawGraphics(FALSE) [0]");
-}
-
 class CallTraceTest : public testing::Test {
 protected:
     TraceSinks remembering() {
@@ -36,6 +29,13 @@ protected:
     CallTrace trace;
     std::vector<std::string> told;
 };
+
+TEST_F(CallTraceTest, showsCallResultAndDepth) {
+    EXPECT_EQ(toString(TraceRecord{"CorUtilExportStart()", "TRUE", 1}),
+              "CorUtilExportStart() = TRUE [1]");
+    EXPECT_EQ(toString(TraceRecord{"CorUtilDrawGraphics(FALSE)", "", 0}),
+              "CorUtilDrawGraphics(FALSE) [0]");
+}
 
 TEST_F(CallTraceTest, tellsItsSinks) {
     trace.connect(remembering());
