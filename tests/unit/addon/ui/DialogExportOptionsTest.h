@@ -7,7 +7,9 @@ namespace corvane::test {
 
 class DialogExportOptionsTest : public UiTest {
 protected:
-    DialogExportOptionsTest() { host.session().silentPage().workArea = {.width = 1600, .height = 900}; }
+    DialogExportOptionsTest() {
+        host.session().silentPage().workArea = {.width = 1600, .height = 900};
+    }
 
     void launch() {
         corutiltools::DialogExportOptions::instance().launch([this] { ++confirmations; });

@@ -73,7 +73,8 @@ TEST(FailureSweep, ofEditing) {
 TEST(FailureSweep, ofPlayingToAFile) {
     sweep([](Scene& scene) {
         // Small pictures, since hundreds of movies are made of them.
-        scene.host.session().silentPage().workArea = {.width = 32, .height = 18, .pixelsPerInch = 2.0};
+        scene.host.session().silentPage().workArea = {
+            .width = 32, .height = 18, .pixelsPerInch = 2.0};
         DialogMain::launch();
         for (int count = 0; count < 2; ++count) {
             act(scene, [](auto const& window) { window.button("Append").click(); });
