@@ -72,7 +72,7 @@ void EncoderThread::run() {
             m_sink->write(picture);
         }
     } catch (const std::exception& error) {
-        keepFailure(error.what());
+        keepFailure(host::messageOf(error));
     }
 }
 

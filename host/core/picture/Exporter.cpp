@@ -102,7 +102,8 @@ bool Exporter::guarded(void (Exporter::*step)()) {
     } catch (const std::bad_alloc&) {
         m_failure = "There is not enough memory for the movie. Choose a smaller width.";
     } catch (const std::exception& error) {
-        m_failure = m_file ? m_file->namingDestination(error.what()) : error.what();
+        const std::string cause = messageOf(error);
+        m_failure = m_file ? m_file->namingDestination(cause) : cause;
     } catch (...) {
         m_failure.clear();
     }
