@@ -5,7 +5,7 @@
 
 using namespace corvane::host;
 
-CorBool CorUtilMenuAddOption(const char* menu, const char* label, int one, void (*callback)(void)) {
+CorBool CorUtilMenuAddOption(const char* menu, const char* label, int one, void (*callback)()) {
     const TracedCall call("CorUtilMenuAddOption", menu, label, one, callback);
     return call.answer(false, [&](Session& session) {
         return menu && label && callback
