@@ -4,9 +4,9 @@
 #include "addon/base/HostLock.h"
 #include "addon/lists/PreMappedValue.h"
 #include "addon/ui/CurrentFileManager.h"
-#include "addon/ui/OptionMenuStaticManager.h"
-#include "addon/ui/StreamText.h"
-#include "addon/ui/TextFieldValidator.h"
+#include "addon/ui/controls/OptionMenuStaticManager.h"
+#include "addon/ui/controls/StreamText.h"
+#include "addon/ui/controls/TextFieldValidator.h"
 #include "hostapi/CorHost.h"
 
 #include <boost/function.hpp>

@@ -7,10 +7,10 @@
 #include "addon/model/Records.h"
 #include "addon/ui/CurrentFileManager.h"
 #include "addon/ui/DialogDropper.h"
-#include "addon/ui/ListSelectionModelObserverInterface.h"
-#include "addon/ui/ListView.h"
-#include "addon/ui/OptionMenuStaticManager.h"
-#include "addon/ui/TextFieldValidator.h"
+#include "addon/ui/controls/ListSelectionModelObserverInterface.h"
+#include "addon/ui/controls/ListView.h"
+#include "addon/ui/controls/OptionMenuStaticManager.h"
+#include "addon/ui/controls/TextFieldValidator.h"
 
 #include <memory>
 #include <string>

@@ -7,7 +7,7 @@
 #include "addon/model/Utilities.h"
 #include "addon/ui/ContinuousRun.h"
 #include "addon/ui/DialogExportOptions.h"
-#include "addon/ui/Message.h"
+#include "addon/ui/controls/Message.h"
 #include "hostapi/CorHost.h"
 
 #include <boost/bind/bind.hpp>

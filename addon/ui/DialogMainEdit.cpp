@@ -5,7 +5,7 @@
 #include "addon/base/KeyFrameError.h"
 #include "addon/ui/ContinuousRun.h"
 #include "addon/ui/DialogLayout.h"
-#include "addon/ui/Message.h"
+#include "addon/ui/controls/Message.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

@@ -6,8 +6,8 @@
 #include "addon/file/KeyFrameFile.h"
 #include "addon/ui/DialogLayout.h"
 #include "addon/ui/DialogTimeOptions.h"
-#include "addon/ui/Message.h"
 #include "addon/ui/OpenSettingsFile.h"
+#include "addon/ui/controls/Message.h"
 #include "hostapi/CorHost.h"
 
 #include <boost/bind/bind.hpp>

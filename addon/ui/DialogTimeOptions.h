@@ -2,7 +2,7 @@
 #pragma once
 
 #include "addon/model/Records.h"
-#include "addon/ui/TextFieldValidator.h"
+#include "addon/ui/controls/TextFieldValidator.h"
 
 #include <boost/function.hpp>
 

@@ -1,5 +1,5 @@
 // The part of a selection model that all selection models share.
-#include "addon/ui/ListSelectionModelAbstract.h"
+#include "addon/ui/controls/ListSelectionModelAbstract.h"
 
 #include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"

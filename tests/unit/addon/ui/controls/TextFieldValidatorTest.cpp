@@ -1,5 +1,5 @@
 // A text field of the host with a bounded number.
-#include "addon/ui/TextFieldValidator.h"
+#include "addon/ui/controls/TextFieldValidator.h"
 
 #include "tests/unit/addon/UiTest.h"
 #include "tests/unit/addon/file/KeyFrameTexts.h"

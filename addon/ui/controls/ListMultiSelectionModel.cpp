@@ -1,5 +1,5 @@
 // The selection of a list that may have many rows selected.
-#include "addon/ui/ListMultiSelectionModel.h"
+#include "addon/ui/controls/ListMultiSelectionModel.h"
 
 #include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"

@@ -1,7 +1,7 @@
 // The selection of a list that may have many rows selected.
 #pragma once
 
-#include "addon/ui/ListSelectionModelAbstract.h"
+#include "addon/ui/controls/ListSelectionModelAbstract.h"
 
 #include <vector>
 

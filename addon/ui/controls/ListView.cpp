@@ -1,9 +1,9 @@
 // Keeps a list of the host in step with a list model.
-#include "addon/ui/ListView.h"
+#include "addon/ui/controls/ListView.h"
 
 #include "addon/base/HostLock.h"
-#include "addon/ui/ListMultiSelectionModel.h"
-#include "addon/ui/ListSingleSelectionModel.h"
+#include "addon/ui/controls/ListMultiSelectionModel.h"
+#include "addon/ui/controls/ListSingleSelectionModel.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

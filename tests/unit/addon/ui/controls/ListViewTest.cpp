@@ -1,5 +1,5 @@
 // A list of the host in step with its model.
-#include "addon/ui/ListView.h"
+#include "addon/ui/controls/ListView.h"
 
 #include "tests/unit/addon/UiTest.h"
 

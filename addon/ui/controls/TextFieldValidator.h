@@ -2,8 +2,8 @@
 #pragma once
 
 #include "addon/base/HostLock.h"
-#include "addon/ui/Message.h"
-#include "addon/ui/StreamText.h"
+#include "addon/ui/controls/Message.h"
+#include "addon/ui/controls/StreamText.h"
 #include "hostapi/CorHost.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "addon/lists/ListModelObserverInterface.h"
-#include "addon/ui/ListSelectionModelInterface.h"
-#include "addon/ui/ListViewInterface.h"
+#include "addon/ui/controls/ListSelectionModelInterface.h"
+#include "addon/ui/controls/ListViewInterface.h"
 #include "hostapi/CorTypes.h"
 
 #include <memory>

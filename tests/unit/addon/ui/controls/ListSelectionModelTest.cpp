@@ -1,6 +1,6 @@
 // The selection of a list.
-#include "addon/ui/ListMultiSelectionModel.h"
-#include "addon/ui/ListSingleSelectionModel.h"
+#include "addon/ui/controls/ListMultiSelectionModel.h"
+#include "addon/ui/controls/ListSingleSelectionModel.h"
 #include "tests/unit/addon/UiTest.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 // The part of a selection model that all selection models share.
 #pragma once
 
-#include "addon/ui/ListSelectionModelInterface.h"
-#include "addon/ui/ListSelectionModelObserverInterface.h"
-#include "addon/ui/ListViewInterface.h"
+#include "addon/ui/controls/ListSelectionModelInterface.h"
+#include "addon/ui/controls/ListSelectionModelObserverInterface.h"
+#include "addon/ui/controls/ListViewInterface.h"
 
 #include <set>
 #include <vector>

@@ -1,5 +1,5 @@
 // Messages to the user, under the host's lock.
-#include "addon/ui/Message.h"
+#include "addon/ui/controls/Message.h"
 
 #include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"

@@ -1,5 +1,5 @@
 // An option menu of the host over a fixed table.
-#include "addon/ui/OptionMenuStaticManager.h"
+#include "addon/ui/controls/OptionMenuStaticManager.h"
 
 #include "tests/unit/addon/UiTest.h"
 

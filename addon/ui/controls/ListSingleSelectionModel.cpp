@@ -1,5 +1,5 @@
 // The selection of a list that has at most one row selected.
-#include "addon/ui/ListSingleSelectionModel.h"
+#include "addon/ui/controls/ListSingleSelectionModel.h"
 
 #include "addon/base/HostLock.h"
 #include "hostapi/CorHost.h"
