@@ -29,9 +29,9 @@ TEST_F(QtWidgetsTest, aButtonHasLineBreaksMnemonicAndPadding) {
     launch(kites);
     EXPECT_EQ(widget<QPushButton>(button)->text(), QStringLiteral("  Animate \n&Selected"));
     QTest::keyClick(widgets.widget(kites), Qt::Key_S, Qt::AltModifier);
-    std::vector<std::string> told; // Qt shows the button pressed for a while first
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !(told = take()).empty(); }));
-    EXPECT_THAT(told, ElementsAre("press"));
+    std::vector<std::string> pressed; // Qt shows the button pressed for a while first
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !(pressed = take()).empty(); }));
+    EXPECT_THAT(pressed, ElementsAre("press"));
 }
 
 TEST_F(QtWidgetsTest, labelsAndTitlesArePlain) {

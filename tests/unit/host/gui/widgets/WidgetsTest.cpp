@@ -2,19 +2,7 @@
 #include "tests/unit/host/gui/widgets/WidgetsTest.h"
 
 #include <QApplication>
-#include <map>
-#include <utility>
-
 namespace corvane::test {
-
-namespace {
-
-std::vector<std::string> told;
-std::map<std::string, std::function<void()>> works;
-
-} // namespace
-
-long WidgetsTest::textAnswer = 1;
 
 void startQt() {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
@@ -34,35 +22,12 @@ WidgetsTest::WidgetsTest()
                                        &help)),
       knots(CorGUIDialogCreateModal(COR_HANDLE_MAIN_WINDOW, 3000, 1000, "Knots", &init, &ok, &apply,
                                     &cancel, nullptr)) {
-    told.clear();
-    works.clear();
-    textAnswer = 1;
     mainWindow.show();
 }
 
 WidgetsTest::~WidgetsTest() {
     session.quit();
     settle();
-}
-
-std::vector<std::string> WidgetsTest::take() {
-    return std::exchange(told, {});
-}
-
-void WidgetsTest::on(const std::string& callback, std::function<void()> work) {
-    works[callback] = std::move(work);
-}
-
-void WidgetsTest::note(const std::string& what) {
-    told.push_back(what);
-    if (const auto found = works.find(what.substr(0, what.find(' '))); found != works.end()) {
-        found->second();
-    }
-}
-
-long WidgetsTest::text(const char* text) {
-    note(std::string("text ") + text);
-    return textAnswer;
 }
 
 void WidgetsTest::launch(int dialog) const {

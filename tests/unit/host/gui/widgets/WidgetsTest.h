@@ -8,6 +8,7 @@
 #include "tests/support/MemoryPictures.h"
 #include "tests/support/MemoryReader.h"
 #include "tests/support/MemoryRenderer.h"
+#include "tests/support/NotedCallbacks.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/ScriptedStatus.h"
 
@@ -24,32 +25,10 @@ namespace corvane::test {
 /// Starts Qt once for all tests of the program.
 void startQt();
 
-class WidgetsTest : public ::testing::Test {
+class WidgetsTest : public ::testing::Test, protected NotedCallbacks {
 protected:
     WidgetsTest();
     ~WidgetsTest() override;
-
-    /// What the callbacks were told since the last time, as in "press", "text abc", "list 2".
-    static std::vector<std::string> take();
-    static void on(const std::string& callback, std::function<void()> work);
-    static long textAnswer; ///< 1 at first
-
-    static void init() { note("init"); }
-    static void close() { note("close"); }
-    static void ok() { note("ok"); }
-    static void apply() { note("apply"); }
-    static void cancel() { note("cancel"); }
-    static void help() { note("help"); }
-    static void press() { note("press"); }
-    static void up() { note("up"); }
-    static void down() { note("down"); }
-    static void item() { note("item"); }
-    static long text(const char* text);
-    static void list(const long* positions) { note("list " + std::to_string(*positions)); }
-    static void option(const long* position) { note("option " + std::to_string(*position)); }
-    static void radio(const long* position) { note("radio " + std::to_string(*position)); }
-    static void toggle(const long* isOn) { note("toggle " + std::to_string(*isOn)); }
-    static void menuToggle(const long* isOn) { note("menuToggle " + std::to_string(*isOn)); }
 
     template <class T>
     T* widget(int handle) const {
@@ -81,9 +60,6 @@ protected:
     host::Session& session = program.session();
     int kites; ///< a modeless dialog
     int knots; ///< a modal one
-
-private:
-    static void note(const std::string& what);
 };
 
 } // namespace corvane::test
