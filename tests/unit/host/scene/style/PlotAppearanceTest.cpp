@@ -34,7 +34,7 @@ int differingPixels(const host::Picture& a, const host::Picture& b) {
 
 } // namespace
 
-class LookTest : public SceneTest {
+class PlotAppearanceTest : public SceneTest {
 protected:
     /// A slice through the box, seen straight from above; 160 pixels a unit, x = 0 at pixel 80.
     host::Frame& addSlice() {
@@ -54,7 +54,7 @@ protected:
     }
 };
 
-TEST_F(LookTest, eachValueHasTheColourOfTheMap) {
+TEST_F(PlotAppearanceTest, eachValueHasTheColourOfTheMap) {
     host::Frame& frame = addSlice();
     for (const char* map : {"Viridis", "Plasma", "CoolWarm", "Rainbow", "Gray"}) {
         frame.style.contour.colorMap = map;
@@ -64,7 +64,7 @@ TEST_F(LookTest, eachValueHasTheColourOfTheMap) {
     }
 }
 
-TEST_F(LookTest, theRangeCanBeChosen) {
+TEST_F(PlotAppearanceTest, theRangeCanBeChosen) {
     host::Frame& frame = addSlice();
     frame.style.contour.automaticRange = false;
     frame.style.contour.minimum = 0.2;
@@ -74,7 +74,7 @@ TEST_F(LookTest, theRangeCanBeChosen) {
     EXPECT_EQ(sliceAt(0.9, 0.5), tableColor("Viridis", 1.0));
 }
 
-TEST_F(LookTest, lengthAndComponentsOfVectors) {
+TEST_F(PlotAppearanceTest, lengthAndComponentsOfVectors) {
     host::Frame& frame = addSlice();
     const double x = 0.7;
     const double y = 0.3;
@@ -89,7 +89,7 @@ TEST_F(LookTest, lengthAndComponentsOfVectors) {
         largestDifference(sliceAt(0.75, 0.25), tableColor("Viridis", length / std::sqrt(14.0))), 6);
 }
 
-TEST_F(LookTest, valuesOfCells) {
+TEST_F(PlotAppearanceTest, valuesOfCells) {
     host::Frame& frame = addSlice();
     frame.style.contour.variable = "C";
     // The slice at z = 0.4 cuts the cells 16 to 31; at x = 0.6, y = 0.1 it is the third of them.
@@ -97,14 +97,14 @@ TEST_F(LookTest, valuesOfCells) {
     EXPECT_LE(largestDifference(sliceAt(0.1, 0.9), tableColor("Viridis", 28.0 / 63.0)), 4);
 }
 
-TEST_F(LookTest, anUnknownVariableLeavesThePlainColour) {
+TEST_F(PlotAppearanceTest, anUnknownVariableLeavesThePlainColour) {
     host::Frame& frame = addSlice();
     frame.style.contour.variable = "nothing";
     frame.style.slices[0].color = {1.0, 0.0, 0.0};
     EXPECT_EQ(sliceAt(0.5, 0.5), (Rgb{255, 0, 0}));
 }
 
-TEST_F(LookTest, isosurfacesOfScalarsLengthsComponentsAndCells) {
+TEST_F(PlotAppearanceTest, isosurfacesOfScalarsLengthsComponentsAndCells) {
     host::Frame& frame = addSlice();
     frame.style.slices[0].show = false;
     // Seen along +y, and turned a little: else planes across x would be seen edge-on.
@@ -128,7 +128,7 @@ TEST_F(LookTest, isosurfacesOfScalarsLengthsComponentsAndCells) {
     EXPECT_EQ(columnOfRed("nothing", 0.0), -1.0);
 }
 
-TEST_F(LookTest, slicesInTheFacesOfTheMeshAreShown) {
+TEST_F(PlotAppearanceTest, slicesInTheFacesOfTheMeshAreShown) {
     host::Frame& frame = addSlice();
     for (const double position : {0.0, 1.0}) {
         frame.style.slices[0].position = position;
@@ -138,7 +138,7 @@ TEST_F(LookTest, slicesInTheFacesOfTheMeshAreShown) {
     EXPECT_GT(sliceAt(0.3, 0.5).red, 200);
 }
 
-TEST_F(LookTest, onlyVolumesAreCut) {
+TEST_F(PlotAppearanceTest, onlyVolumesAreCut) {
     host::Frame& frame = addPlainFrame(load("cube.vtp", sampleCube({0.5, 0.5, 0.5}, 1.0)));
     frame.view.position = {0.5, 0.5, 3.0};
     frame.style.slices[0] = {true, 3, 0.5, false, {1.0, 0.0, 0.0}, 1.0};
@@ -147,7 +147,7 @@ TEST_F(LookTest, onlyVolumesAreCut) {
     EXPECT_EQ(statistics->sliceRuns, 0);
 }
 
-TEST_F(LookTest, translucentPlotsBlendInTheRightOrder) {
+TEST_F(PlotAppearanceTest, translucentPlotsBlendInTheRightOrder) {
     host::Frame& frame = addSlice();
     frame.style.annotations.background = {0.0, 0.0, 0.0};
     frame.style.slices[0] = {true, 3, 0.2, false, {0.0, 0.0, 1.0}, 1.0};
@@ -161,7 +161,7 @@ TEST_F(LookTest, translucentPlotsBlendInTheRightOrder) {
     EXPECT_LE(largestDifference(sliceAt(0.5, 0.5), {128, 0, 128}), 2);
 }
 
-TEST_F(LookTest, meshLinesAreThoseOfTheCells) {
+TEST_F(PlotAppearanceTest, meshLinesAreThoseOfTheCells) {
     host::Frame& frame = addSlice();
     frame.style.slices[0].show = false;
     frame.style.surfaces[0] = {true, false, {1.0, 1.0, 1.0}, 1.0, true};
@@ -174,7 +174,7 @@ TEST_F(LookTest, meshLinesAreThoseOfTheCells) {
     }
 }
 
-TEST_F(LookTest, pointsWithoutCellsAreDrawn) {
+TEST_F(PlotAppearanceTest, pointsWithoutCellsAreDrawn) {
     const auto cloud = vtkSmartPointer<vtkPolyData>::New();
     cloud->SetPoints(sampleCube({0.0, 0.0, 0.0}, 1.0)->GetPoints());
     const auto data = load("cloud.vtp", cloud);
@@ -186,13 +186,13 @@ TEST_F(LookTest, pointsWithoutCellsAreDrawn) {
                          [](const Rgb& color) { return color.red > 200 && color.green < 50; }));
 }
 
-TEST_F(LookTest, theBackgroundStartsWithItsColour) {
+TEST_F(PlotAppearanceTest, theBackgroundStartsWithItsColour) {
     addPlainFrame(nullptr, {0.0, 0.0, 8.0, 4.5}, {0.2, 0.4, 0.6});
     const host::Picture picture = draw(width, height);
     EXPECT_LE(largestDifference(pixelAt(picture, 10, height - 1), {51, 102, 153}), 1);
 }
 
-TEST_F(LookTest, annotationsAppearInTheirPlaces) {
+TEST_F(PlotAppearanceTest, annotationsAppearInTheirPlaces) {
     host::Frame& frame = addSlice();
     const host::Picture bare = draw(width, height);
     const auto rightPart = [&](const host::Picture& picture) {
@@ -235,7 +235,7 @@ TEST_F(LookTest, annotationsAppearInTheirPlaces) {
     EXPECT_GT(differingPixels(draw(width, height), bare), 100);
 }
 
-TEST_F(LookTest, theLegendKeepsAwayFromTheEdges) {
+TEST_F(PlotAppearanceTest, theLegendKeepsAwayFromTheEdges) {
     host::Frame& frame = addSlice();
     frame.style.contour.showLegend = true;
     frame.style.contour.automaticRange = false;
@@ -250,7 +250,7 @@ TEST_F(LookTest, theLegendKeepsAwayFromTheEdges) {
     }
 }
 
-TEST_F(LookTest, noLegendWithoutAPlotThatUsesIt) {
+TEST_F(PlotAppearanceTest, noLegendWithoutAPlotThatUsesIt) {
     host::Frame& frame = addSlice();
     frame.style.slices[0].useContour = false;
     const host::Picture bare = draw(width, height);
@@ -258,7 +258,7 @@ TEST_F(LookTest, noLegendWithoutAPlotThatUsesIt) {
     EXPECT_EQ(draw(width, height), bare);
 }
 
-TEST_F(LookTest, textIsReadableOnDarkAndLight) {
+TEST_F(PlotAppearanceTest, textIsReadableOnDarkAndLight) {
     host::Frame& frame = addPlainFrame(nullptr);
     frame.style.annotations.title = "MMMM";
     const auto darkest = [&] {
