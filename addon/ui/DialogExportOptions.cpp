@@ -19,7 +19,7 @@ namespace {
 constexpr long enterWidthPosition = 2; // in the radio box
 
 const std::map<ExportFormat_e, std::string>& formatToFileExtensionMap() {
-    const static std::map<ExportFormat_e, std::string> extensions{
+    static const std::map<ExportFormat_e, std::string> extensions{
         {ExportFormat_AVI, "avi"},           {ExportFormat_FlashFLV, "flv"},
         {ExportFormat_FlashSWF, "swf"},      {ExportFormat_MPEG4, "mp4"},
         {ExportFormat_RasterMetafile, "rm"}, {ExportFormat_WMV, "wmv"}};

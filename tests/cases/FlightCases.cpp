@@ -89,7 +89,7 @@ std::ostream& operator<<(std::ostream& out, const FlightCase& flight) {
 }
 
 const std::vector<FlightCase>& flightCases() {
-    const static std::vector<FlightCase> flights = makeFlights();
+    static const std::vector<FlightCase> flights = makeFlights();
     return flights;
 }
 

@@ -9,7 +9,7 @@
 namespace corvane::host {
 
 const std::vector<MacroCommand>& macroCommands() {
-    const static std::vector<MacroCommand> all{
+    static const std::vector<MacroCommand> all{
         {"READDATA",
          {"\"FILE\" [\"FILE\" ...]"},
          "Reads data into the active frame and chooses plots and view for them. Several files make "

@@ -63,7 +63,7 @@ struct ViewName {
 };
 
 const std::vector<ViewName>& viewNames() {
-    const static std::vector<ViewName> names{{"Psi", {"ThreeDView", "PSIAngle"}},
+    static const std::vector<ViewName> names{{"Psi", {"ThreeDView", "PSIAngle"}},
                                              {"Theta", {"ThreeDView", "ThetaAngle"}},
                                              {"Alpha", {"ThreeDView", "AlphaAngle"}},
                                              {"X", {"ThreeDView", "ViewerPosition", "X"}},

@@ -36,7 +36,7 @@ std::vector<Keyword> formatKeywords() {
 }
 
 const std::vector<Setting>& settings() {
-    const static std::vector<Setting> all{
+    static const std::vector<Setting> all{
         {"ExportFormat", Kind::Integer, formatKeywords()},
         {"ExportRegion",
          Kind::Integer,

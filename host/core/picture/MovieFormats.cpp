@@ -19,7 +19,7 @@ const MovieFormat* firstWhere(const Condition& condition) {
 } // namespace
 
 const std::vector<MovieFormat>& movieFormats() {
-    const static std::vector<MovieFormat> all{
+    static const std::vector<MovieFormat> all{
         {ExportFormat_MPEG4, "MPEG4", ".mp4", "MPEG-4"},
         {ExportFormat_AVI, "AVI", ".avi", "AVI"},
         {ExportFormat_FlashFLV, "FLV", ".flv", "Flash (FLV)"},

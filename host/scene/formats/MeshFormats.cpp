@@ -87,7 +87,7 @@ std::string knownExtensions() {
 } // namespace
 
 const std::vector<MeshFormat>& meshFormats() {
-    const static std::vector<MeshFormat> formats{
+    static const std::vector<MeshFormat> formats{
         {.format = {{".pvd"}, "Time series"}, .readList = readPvd},
         {.format = {{".vtu", ".vtp", ".vti", ".vtr", ".vts", ".vtm"}, "VTK XML file"},
          .open = openAs<VtkXmlFile>,

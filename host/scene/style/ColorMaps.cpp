@@ -25,7 +25,7 @@ struct ColorMap {
 const std::vector<ColorMap>& colorMaps() {
     // The lightness of Viridis and Plasma rises uniformly, so that they are readable in greyscale
     // and for colour-blind people. Interpolating in Lab preserves that.
-    const static std::vector<ColorMap> maps{
+    static const std::vector<ColorMap> maps{
         {"viridis",
          Blend::Lab,
          {0x440154, 0x482878, 0x3E4A89, 0x31688E, 0x26828E, 0x1F9E89, 0x35B779, 0x6DCD59, 0xB4DE2C,

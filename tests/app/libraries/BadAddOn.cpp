@@ -105,7 +105,7 @@ void listenBadly() {
 }
 
 const std::map<std::string, std::function<void()>>& deeds() {
-    const static std::map<std::string, std::function<void()>> all{
+    static const std::map<std::string, std::function<void()>> all{
         {"throw an exception", throwAnException},
         {"throw a number", throwANumber},
         {"leave a lock", leaveALock},

@@ -75,7 +75,7 @@ public:
 
 private:
     static bool isSection(const Words& words) {
-        const static std::set<std::string> sections{"FORMAT", "GEOMETRY", "VARIABLE", "TIME",
+        static const std::set<std::string> sections{"FORMAT", "GEOMETRY", "VARIABLE", "TIME",
                                                     "FILE",   "MATERIAL", "SCRIPTS"};
         return words.size() == 1 && sections.contains(words.front());
     }
@@ -125,8 +125,8 @@ private:
         }
         std::string place;
         text >> place;
-        const static std::set<std::string> known{"scalar", "vector", "tensor", "complex"};
-        const static std::set<std::string> places{"node", "element", "measured"};
+        static const std::set<std::string> known{"scalar", "vector", "tensor", "complex"};
+        static const std::set<std::string> places{"node", "element", "measured"};
         auto [files, words] = takeSets(values);
         if (!known.contains(what) || !places.contains(place) || words.size() < 2) {
             fail("describes no variable");

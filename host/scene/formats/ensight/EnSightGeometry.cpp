@@ -37,7 +37,7 @@ Shape shape(int cellType, std::size_t nodeCount) {
 
 const Shape* shapeOf(const std::string& kind) {
     // The first triangle of a wedge faces outwards in VTK.
-    const static std::map<std::string, Shape> shapes{
+    static const std::map<std::string, Shape> shapes{
         {"point", shape(VTK_VERTEX, 1)},
         {"bar2", shape(VTK_LINE, 2)},
         {"bar3", shape(VTK_QUADRATIC_EDGE, 3)},

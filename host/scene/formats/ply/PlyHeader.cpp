@@ -28,7 +28,7 @@ Value lookUp(const std::map<std::string, Value, std::less<>>& table, const std::
 }
 
 Type typeOf(const std::string& word, const std::string& line) {
-    const static std::map<std::string, Type, std::less<>> types{
+    static const std::map<std::string, Type, std::less<>> types{
         {"char", Type::Int8},       {"int8", Type::Int8},       {"uchar", Type::Uint8},
         {"uint8", Type::Uint8},     {"short", Type::Int16},     {"int16", Type::Int16},
         {"ushort", Type::Uint16},   {"uint16", Type::Uint16},   {"int", Type::Int32},
@@ -40,7 +40,7 @@ Type typeOf(const std::string& word, const std::string& line) {
 }
 
 Format formatOf(const std::string& word, const std::string& line) {
-    const static std::map<std::string, Format, std::less<>> formats{
+    static const std::map<std::string, Format, std::less<>> formats{
         {"ascii", Format::Ascii},
         {"binary_little_endian", Format::LittleEndian},
         {"binary_big_endian", Format::BigEndian},

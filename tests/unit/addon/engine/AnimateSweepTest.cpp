@@ -57,7 +57,7 @@ std::string nameOf(const std::string& call) {
 // The calls of the flight that a scope makes when it is left: the host failing there ends the
 // program, so they are not made to throw.
 bool isCleanUp(const std::string& call) {
-    const static std::set<std::string> names{"CorUtilLockFinish", "CorUtilStatusFinishPercentDone",
+    static const std::set<std::string> names{"CorUtilLockFinish", "CorUtilStatusFinishPercentDone",
                                              "CorUtilSetDealloc", "CorUtilExportFinish"};
     return call == "CorUtilDrawGraphics(TRUE)" || names.count(nameOf(call)) > 0;
 }

@@ -26,7 +26,7 @@ MovieKind swf(const char* name, FlashImageType_e type, FlashCompressionType_e co
 } // namespace
 
 const std::vector<MovieKind>& movieKinds() {
-    const static std::vector<MovieKind> all{
+    static const std::vector<MovieKind> all{
         {"mp4", ExportFormat_MPEG4, false, 16384, 2, 2},
         avi("aviLines", AVICompression_LinePreserving, true),
         avi("aviUncompressed", AVICompression_LosslessUncompressed, true),

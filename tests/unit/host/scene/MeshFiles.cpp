@@ -51,7 +51,7 @@ void writeParallel(const std::string& path, vtkDataObject* object) {
 }
 
 const std::map<std::string, Write>& writers() {
-    const static std::map<std::string, Write> table{
+    static const std::map<std::string, Write> table{
         {".vtu", writeWith<vtkXMLUnstructuredGridWriter>},
         {".vtp", writeWith<vtkXMLPolyDataWriter>},
         {".vti", writeWith<vtkXMLImageDataWriter>},
