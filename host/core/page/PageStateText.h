@@ -9,6 +9,9 @@
 
 namespace corvane::host {
 
+/// The first line, with the version of the form.
+inline constexpr const char* pageStateHeader = "corvane-page 1";
+
 /// Lines of words, quoted as in macros, with values by the paths of style values. Data are named by
 /// their files. It reads back as an equal state wherever the same files give the same data.
 std::string toText(const PageState& page);

@@ -39,8 +39,8 @@ private:
     void askFor(int stream);
 
     Descriptor m_requests;
-    pid_t
-        m_client; ///< a fork of the client has this object too, but not the right to end the server
+    /// A fork of the client has this object too, but not the right to end the server.
+    pid_t m_client;
     pid_t m_pid = -1;
     std::string m_error; ///< why there is none
 

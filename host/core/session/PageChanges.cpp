@@ -34,21 +34,20 @@ std::vector<StateChange_e> changesBetween(const PageState& before, const PageSta
         }
     };
     const auto any = [&](const auto& differs) { return anyFrame(before, after, differs); };
-    using Frame = FrameState;
     add(hasFrameOutside(before, after), StateChange_FrameDeleted);
     add(hasFrameOutside(after, before), StateChange_FrameCreated);
     add(before.active != after.active && after.active != 0, StateChange_FrameActivated);
-    add(any([](const Frame& a, const Frame& b) { return a.data != b.data && !b.data; }),
+    add(any([](const auto& a, const auto& b) { return a.data != b.data && !b.data; }),
         StateChange_DataSetRemoved);
-    add(any([](const Frame& a, const Frame& b) { return a.data != b.data && b.data; }),
+    add(any([](const auto& a, const auto& b) { return a.data != b.data && b.data; }),
         StateChange_DataSetAttached);
-    add(any([](const Frame& a, const Frame& b) { return a.plotType != b.plotType; }),
+    add(any([](const auto& a, const auto& b) { return a.plotType != b.plotType; }),
         StateChange_PlotTypeChanged);
-    add(any([](const Frame& a, const Frame& b) { return a.solutionTime != b.solutionTime; }),
+    add(any([](const auto& a, const auto& b) { return a.solutionTime != b.solutionTime; }),
         StateChange_SolutionTimeChanged);
-    add(any([](const Frame& a, const Frame& b) { return a.view != b.view; }),
+    add(any([](const auto& a, const auto& b) { return a.view != b.view; }),
         StateChange_ViewChanged);
-    add(any([](const Frame& a, const Frame& b) {
+    add(any([](const auto& a, const auto& b) {
             return a.style != b.style || a.placement != b.placement;
         }),
         StateChange_StyleChanged);
