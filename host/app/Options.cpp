@@ -131,6 +131,8 @@ Options parseCommandLine(int argc, const char* const* argv,
         ->type_name("MIB")
         ->check(CLI::Range(1, 16 * 1024 * 1024));
     app.add_flag("--quiet", options.quiet, "say nothing but what went wrong");
+    app.add_flag("--system", options.reportsSystem,
+                 "tell what draws, what libraries are used, and what this machine offers");
     bool wantsReference = false;
     app.add_flag("--macro-reference", wantsReference, "print the macro language (Markdown)");
     try {

@@ -29,6 +29,7 @@ struct Options {
     std::string record;                ///< a macro of what is done goes here
     std::optional<std::size_t> memory; ///< MiB for data that are kept
     bool quiet = false;
+    bool reportsSystem = false; ///< and does nothing else
 
     /// Nothing of what was asked for can be done without one.
     bool needsWindow() const { return !batch && keyFrames.empty() && output.empty(); }

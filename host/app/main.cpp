@@ -5,27 +5,54 @@
 #include "host/app/Signals.h"
 #include "host/app/StandardStreams.h"
 #include "host/app/WindowRun.h"
+#include "host/app/system/Bundle.h"
+#include "host/app/system/DriverChoice.h"
+#include "host/app/system/SystemReport.h"
 #include "host/core/process/ProcessServer.h"
 #include "host/scene/DataReaders.h"
 
 #include <iostream>
 
+namespace corvane::app {
+namespace {
+
+ExitCode print(const std::string& text) {
+    std::cout << text << std::flush;
+    if (!std::cout) {
+        say("Cannot write to standard output.");
+        return ExitFailed;
+    }
+    return ExitDone;
+}
+
+ExitCode printSystemReport() {
+    const SystemReport report = reportSystem();
+    const ExitCode printed = print(report.text);
+    return report.canDraw ? printed : ExitFailed;
+}
+
+ExitCode run(const Options& options) {
+    if (options.reportsSystem) {
+        return printSystemReport();
+    }
+    settleDriver();
+    return options.needsWindow() ? runWindow(options) : runBatch(options);
+}
+
+} // namespace
+} // namespace corvane::app
+
 int main(int argc, char** argv) {
     using namespace corvane;
     using namespace corvane::app;
     holdStandardStreams();
+    settleIn();
     const host::ProcessServer server; // while there are no threads
     surviveFailedWrites();
     try {
-        const Options options = parseCommandLine(argc, argv, scene::DataReaders().formats());
-        return options.needsWindow() ? runWindow(options) : runBatch(options);
+        return run(parseCommandLine(argc, argv, scene::DataReaders().formats()));
     } catch (const PrintAndExit& text) {
-        std::cout << text.what() << std::flush;
-        if (!std::cout) {
-            say("Cannot write to standard output.");
-            return ExitFailed;
-        }
-        return ExitDone;
+        return print(text.what());
     } catch (const UsageError& error) {
         say(error.what());
         return ExitUsage;

@@ -1,0 +1,28 @@
+#include "host/gui/base/WindowLibraries.h"
+
+#include "host/gui/base/QtText.h"
+
+#include <QDir>
+#include <QLibraryInfo>
+
+namespace corvane::gui {
+
+namespace {
+
+QString platforms() {
+    const QDir folder(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    QStringList names;
+    for (const QString& file : folder.entryList({QStringLiteral("libq*.so")}, QDir::Files)) {
+        names << file.mid(4).chopped(3);
+    }
+    return names.isEmpty() ? QStringLiteral("no display: there are no plug-ins in ") + folder.path()
+                           : names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+std::string windowLibraries() {
+    return std::string("Qt ") + qVersion() + " for " + fromQt(platforms());
+}
+
+} // namespace corvane::gui
