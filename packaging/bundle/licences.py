@@ -10,34 +10,34 @@ class LicenceError(OSError):
     pass
 
 
-def query(*command):
-    done = subprocess.run(command, capture_output=True, text=True, check=False)
-    return done.stdout if done.returncode == 0 else ""
-
-
-def package_of(file):
-    """The Debian package that a file came with. Its list may name it by the way /lib leads to
-    /usr/lib."""
-    for name in (str(file), str(file).removeprefix("/usr")):
-        owner = query("dpkg", "-S", name)
-        if owner:
-            return owner.split(": ")[0].split(",")[0]
-    raise LicenceError(f"{file} belongs to no Debian package, so that its licence is unknown")
+def owners_of(files):
+    """The package of each file, as dpkg tells for all of them at once. Its lists may name a file by the
+    way that /lib leads to /usr/lib."""
+    owners = {}
+    names = {name for file in files for name in (str(file), str(file).removeprefix("/usr"))}
+    done = subprocess.run(["dpkg", "-S", *sorted(names)], capture_output=True, text=True, check=False)
+    for line in done.stdout.splitlines():
+        packages, _, name = line.rpartition(": ")
+        owners[name.removeprefix("/usr")] = packages.split(",")[0]
+    return owners
 
 
 def packages_of(bundle):
     """The files of each package, by its name."""
-    files, known = {}, {}
+    owners = owners_of(set(bundle.origins.values()))
+    files = {}
     for target, origin in sorted(bundle.origins.items()):
-        if origin not in known:
-            known[origin] = package_of(origin)
-        files.setdefault(known[origin], []).append(target.relative_to(bundle.tree))
+        package = owners.get(str(origin).removeprefix("/usr"))
+        if package is None:
+            raise LicenceError(f"{origin} belongs to no Debian package, so that its licence is unknown")
+        files.setdefault(package, []).append(target.relative_to(bundle.tree))
     return files
 
 
 def source_of(package):
-    name, version = query("dpkg-query", "-W", "-f", "${source:Package} ${source:Version}", package).split()
-    return name, version
+    told = subprocess.run(["dpkg-query", "-W", "-f", "${source:Package} ${source:Version}", package],
+                          capture_output=True, text=True, check=True)
+    return tuple(told.stdout.split())
 
 
 def copy_copyright(package, folder):

@@ -9,6 +9,7 @@
 
 namespace fs = std::filesystem;
 using namespace corvane::test;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -128,6 +129,25 @@ TEST_F(Environment, isAFolderThatCannotBeWrittenTo) {
                 StartsWith("corvane: Cannot write /proc/movie.avi: "));
     EXPECT_THAT(complaintAbout(run(keyFrames + "/movie.avi")), HasSubstr("there is no folder"));
     EXPECT_THAT(complaintAbout(run("/dev/full.avi/movie.avi")), HasSubstr("there is no folder"));
+}
+
+TEST_F(Environment, isToldByOneOption) {
+    const ProgramResult result = runProgram({"--system"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    for (const char* told : {"pictures  ", "OpenGL ", "Qt 6", "libavcodec ", "VTK 9", "glibc "}) {
+        EXPECT_THAT(result.output, HasSubstr(told));
+    }
+}
+
+TEST_F(Environment, hasNoDriverThatDraws) {
+    const Surroundings without = through({"env", "__EGL_VENDOR_LIBRARY_FILENAMES=/none.json"});
+    const std::string complaint = "No picture can be drawn: ";
+    EXPECT_THAT(complaintAbout(run(folder.file("movie.avi")), without),
+                AllOf(HasSubstr(complaint), HasSubstr("libegl-mesa0"), HasSubstr("--system")));
+    const ProgramResult result = runProgram({"--system"}, without);
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr(complaint));
+    EXPECT_THAT(result.output, HasSubstr("VTK 9"));
 }
 
 TEST_F(Environment, hasADiskThatIsFull) {

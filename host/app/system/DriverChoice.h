@@ -11,11 +11,11 @@ class Bundle;
 /// What of a machine decides it.
 struct Graphics {
     /// Files of graphics devices that this user may open.
-    std::vector<std::string> devices;
+    std::vector<std::string> devices{};
     /// What the user tells EGL to choose from: files with colons between; empty: nothing special.
-    std::string driverFiles;
+    std::string driverFiles{};
     /// CORVANE_DRIVER: "system" or "bundled"; anything else: no wish.
-    std::string wish;
+    std::string wish{};
 
     static Graphics ofThisMachine();
 };

@@ -17,6 +17,7 @@
 #include <sys/sysinfo.h>
 #include <sys/utsname.h>
 #include <typeinfo>
+#include <vector>
 
 namespace corvane::app {
 
@@ -45,17 +46,45 @@ std::string place() {
                   : libraryOf(reinterpret_cast<const void*>(&reportSystem));
 }
 
+std::string inOneLine(const std::vector<std::string>& words) {
+    std::string text;
+    for (const std::string& word : words) {
+        text += (text.empty() ? "" : ", ") + word;
+    }
+    return text.empty() ? "none" : text;
+}
+
+/// The files that describe drivers, where libglvnd looks for them unless it is told otherwise.
+std::vector<std::string> installedDrivers() {
+    std::vector<std::string> files;
+    for (const char* folder : {"/etc/glvnd/egl_vendor.d", "/usr/share/glvnd/egl_vendor.d"}) {
+        std::error_code none;
+        for (const auto& entry : std::filesystem::directory_iterator(folder, none)) {
+            files.push_back(entry.path());
+        }
+    }
+    return files;
+}
+
+std::string foundForDrawing(const Graphics& graphics) {
+    return line("devices", inOneLine(graphics.devices)) +
+           line("drivers", graphics.driverFiles.empty() ? inOneLine(installedDrivers())
+                                                        : graphics.driverFiles);
+}
+
 SystemReport reportDrawing() {
+    const std::string found = foundForDrawing(Graphics::ofThisMachine());
     const DriverChoice choice = settleDriver();
     const std::string chosen =
         std::string(choice.isBundled ? "the bundled driver" : "the system's driver") + ": " +
         choice.reason;
     try {
         const scene::DrawingDriver driver = scene::EglContext().driver();
-        return {line("pictures", driver.renderer + ", OpenGL " + driver.version) + line("", chosen),
+        return {line("pictures", driver.renderer + ", OpenGL " + driver.version) +
+                    line("", chosen) + found,
                 true};
     } catch (const std::exception& error) {
-        return {line("pictures", host::messageOf(error)) + line("", chosen), false};
+        return {line("pictures", host::messageOf(error)) + line("", chosen) + found, false};
     }
 }
 

@@ -2,14 +2,20 @@
 
 #include "host/gui/base/QtText.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
+#include <array>
 
 namespace corvane::gui {
 
 namespace {
 
 QString platforms() {
+    // Which folder that is, a program's qt.conf may tell, and is read once there is an application.
+    int count = 1;
+    std::array<char*, 2> name{const_cast<char*>("corvane"), nullptr};
+    const QCoreApplication application(count, name.data());
     const QDir folder(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
     QStringList names;
     for (const QString& file : folder.entryList({QStringLiteral("libq*.so")}, QDir::Files)) {

@@ -6,7 +6,7 @@
 namespace corvane::gui {
 
 /// Its version, and the plug-ins that connect it with displays: "Qt 6.4.2 for xcb, wayland-generic".
-/// Needs no display.
+/// Needs no display, and that there is no QCoreApplication yet.
 std::string windowLibraries();
 
 } // namespace corvane::gui

@@ -1,0 +1,6 @@
+/* A driver that cannot even be loaded. */
+#include <stdlib.h>
+
+__attribute__((constructor)) static void crash(void) {
+    abort();
+}
