@@ -38,19 +38,19 @@ PreparedGeometry::PreparedGeometry(std::size_t budget, std::shared_ptr<SceneStat
 
 PreparedGeometry::Polygons PreparedGeometry::plot(const PlotRequest& request,
                                                   const SceneDataSet& data) {
-    if (m_plots.has(request.recipe)) {
-        return build(request, data);
+    if (const auto found = m_plots.find(request.recipe)) {
+        return *found;
     }
-    const std::lock_guard lock(m_ahead.meshMutex());
+    const ReadAhead::Pause pause(m_ahead);
     return build(request, data);
 }
 
 PreparedGeometry::Streams PreparedGeometry::streams(const StreamRequest& request,
                                                     const SceneDataSet& data) {
-    if (hasStreams(request)) {
-        return buildStreams(request, data);
+    if (const auto found = findStreams(request)) {
+        return *found;
     }
-    const std::lock_guard lock(m_ahead.meshMutex());
+    const ReadAhead::Pause pause(m_ahead);
     return buildStreams(request, data);
 }
 
@@ -67,11 +67,6 @@ void PreparedGeometry::prepare(const void* owner, std::shared_ptr<const SceneDat
         steps.emplace_back([this, data, request = *next.streams] { buildStreams(request, *data); });
     }
     m_ahead.start(owner, std::move(steps));
-}
-
-void PreparedGeometry::cancel(const void* owner) {
-    m_ahead.start(owner, {});
-    const std::lock_guard wait(m_ahead.meshMutex());
 }
 
 void PreparedGeometry::forget(long dataSet) {
@@ -118,9 +113,15 @@ PreparedGeometry::Streams PreparedGeometry::buildStreams(const StreamRequest& re
     return {traces, tubes};
 }
 
-bool PreparedGeometry::hasStreams(const StreamRequest& request) const {
-    return m_traces.has(request.recipe) &&
-           (request.tubeRadius <= 0.0 || m_tubes.has({request.recipe, request.tubeRadius}));
+std::optional<PreparedGeometry::Streams>
+PreparedGeometry::findStreams(const StreamRequest& request) {
+    const auto traces = m_traces.find(request.recipe);
+    const auto tubes = request.tubeRadius > 0.0 ? m_tubes.find({request.recipe, request.tubeRadius})
+                                                : std::optional<Polygons>(nullptr);
+    if (!traces || !tubes) {
+        return std::nullopt;
+    }
+    return Streams{*traces, *tubes};
 }
 
 } // namespace corvane::scene

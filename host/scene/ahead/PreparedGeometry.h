@@ -10,6 +10,7 @@
 #include <vtkSmartPointer.h>
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace corvane::scene {
@@ -36,9 +37,9 @@ public:
     /// that is shown. Replaces what the same owner requested before.
     void prepare(const void* owner, std::shared_ptr<const SceneDataSet> data,
                  const PictureContent& next, const PictureContent& shown);
-    /// Drops what is queued for this owner, and waits for the step that is running. To be called
-    /// before other content is shown.
-    void cancel(const void* owner);
+    /// Afterwards nothing of this owner is being built or will be. To be called before other
+    /// content is shown.
+    void cancel(const void* owner) { m_ahead.cancel(owner); }
     /// Waits until everything requested has been built.
     void wait() { m_ahead.wait(); }
 
@@ -48,7 +49,7 @@ private:
     Polygons build(const PlotRequest& request, const SceneDataSet& data);
     Polygons trace(const StreamRequest& request, const SceneDataSet& data);
     Streams buildStreams(const StreamRequest& request, const SceneDataSet& data);
-    bool hasStreams(const StreamRequest& request) const;
+    std::optional<Streams> findStreams(const StreamRequest& request);
 
     using TubeKey = std::pair<StreamRecipe, double>;
 

@@ -17,53 +17,80 @@ ReadAhead::~ReadAhead() {
 
 void ReadAhead::start(const void* owner, Steps steps) {
     const std::lock_guard lock(m_mutex);
-    m_waiting.remove_if([owner](const Work& work) { return work.owner == owner; });
-    if (!steps.empty()) {
-        m_waiting.push_back({owner, std::move(steps)});
+    dropWaiting(owner);
+    if (steps.empty()) {
+        return;
     }
+    m_waiting.push_back(std::make_shared<Work>(
+        Work{owner, {std::make_move_iterator(steps.begin()), std::make_move_iterator(steps.end())}}));
     if (!m_thread.joinable()) {
         m_thread = std::thread(&ReadAhead::work, this);
     }
     m_changed.notify_all();
 }
 
+void ReadAhead::cancel(const void* owner) {
+    std::unique_lock lock(m_mutex);
+    dropWaiting(owner);
+    m_changed.wait(lock, [this, owner] { return !m_running || m_running->owner != owner; });
+    // Whoever waits for everything waits for what was dropped as well.
+    m_changed.notify_all();
+}
+
 void ReadAhead::wait() {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [this] { return m_waiting.empty() && !m_isRunning; });
+    m_changed.wait(lock, [this] { return m_waiting.empty() && !m_running; });
+}
+
+ReadAhead::Pause::Pause(ReadAhead& ahead) : m_ahead(ahead) {
+    std::unique_lock lock(m_ahead.m_mutex);
+    ++m_ahead.m_pauses;
+    m_ahead.m_changed.wait(lock, [this] { return !m_ahead.m_running; });
+}
+
+ReadAhead::Pause::~Pause() {
+    const std::lock_guard lock(m_ahead.m_mutex);
+    --m_ahead.m_pauses;
+    m_ahead.m_changed.notify_all();
+}
+
+void ReadAhead::dropWaiting(const void* owner) {
+    m_waiting.remove_if([owner](const auto& work) { return work->owner == owner; });
 }
 
 void ReadAhead::work() {
-    while (const std::function<void()> step = nextStep()) {
-        try {
-            const std::lock_guard lock(m_meshes);
-            step();
-        } catch (...) {
-            giveUp(m_owner);
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock,
+                       [this] { return m_mustEnd || (m_pauses == 0 && !m_waiting.empty()); });
+        if (m_mustEnd) {
+            return;
         }
+        runStep(lock);
     }
 }
 
-std::function<void()> ReadAhead::nextStep() {
-    std::unique_lock lock(m_mutex);
-    m_isRunning = false;
-    m_changed.notify_all();
-    m_changed.wait(lock, [this] { return m_mustEnd || !m_waiting.empty(); });
-    if (m_mustEnd) {
-        return {};
-    }
-    Work& work = m_waiting.front();
-    m_owner = work.owner;
-    m_isRunning = true;
-    std::function<void()> step = std::move(work.steps[work.next]);
-    if (++work.next == work.steps.size()) {
+void ReadAhead::runStep(std::unique_lock<std::mutex>& lock) {
+    m_running = m_waiting.front();
+    std::function<void()> step = std::move(m_running->steps.front());
+    m_running->steps.pop_front();
+    if (m_running->steps.empty()) {
         m_waiting.pop_front();
     }
-    return step;
-}
-
-void ReadAhead::giveUp(const void* owner) {
-    const std::lock_guard lock(m_mutex);
-    m_waiting.remove_if([owner](const Work& work) { return work.owner == owner; });
+    lock.unlock();
+    bool hasFailed = false;
+    try {
+        step();
+    } catch (...) {
+        hasFailed = true;
+    }
+    step = nullptr; // with the data that it holds, before anybody goes on
+    lock.lock();
+    if (hasFailed) {
+        m_waiting.remove(m_running);
+    }
+    m_running.reset();
+    m_changed.notify_all();
 }
 
 } // namespace corvane::scene

@@ -7,6 +7,7 @@
 #include <list>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -29,9 +30,8 @@ public:
     Value get(const Key& key, const Maker& make) {
         std::unique_lock lock(m_mutex);
         m_made.wait(lock, [&] { return m_making.count(key) == 0; });
-        if (const auto found = m_entries.find(key); found != m_entries.end()) {
-            m_uses.splice(m_uses.begin(), m_uses, found->second.use);
-            return found->second.value;
+        if (const auto found = use(key)) {
+            return *found;
         }
         const Making making(*this, lock, key);
         lock.unlock();
@@ -40,6 +40,12 @@ public:
         lock.lock();
         keep(key, value, bytes);
         return value;
+    }
+
+    /// The value, if it is there, which counts as a use.
+    std::optional<Value> find(const Key& key) {
+        const std::lock_guard lock(m_mutex);
+        return use(key);
     }
 
     bool has(const Key& key) const {
@@ -88,6 +94,15 @@ private:
         std::unique_lock<std::mutex>& m_lock;
         const Key& m_key;
     };
+
+    std::optional<Value> use(const Key& key) {
+        const auto found = m_entries.find(key);
+        if (found == m_entries.end()) {
+            return std::nullopt;
+        }
+        m_uses.splice(m_uses.begin(), m_uses, found->second.use);
+        return found->second.value;
+    }
 
     void keep(const Key& key, const Value& value, std::size_t bytes) {
         m_uses.push_front(key);
