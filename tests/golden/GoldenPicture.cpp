@@ -39,12 +39,13 @@ host::Picture differencePicture(const host::Picture& a, const host::Picture& b) 
 } // namespace
 
 PictureDifference difference(const host::Picture& a, const host::Picture& b) {
+    constexpr int rounding = 1;
     PictureDifference result;
     double sum = 0.0;
     for (std::size_t i = 0; i < a.rgba.size(); ++i) {
         const int distance = std::abs(a.rgba[i] - b.rgba[i]);
         result.worst = std::max(result.worst, distance);
-        sum += distance;
+        sum += std::max(0, distance - rounding);
     }
     const std::size_t colors = a.rgba.size() / 4 * 3;
     result.mean = colors == 0 ? 0.0 : sum / static_cast<double>(colors);

@@ -28,7 +28,13 @@ TEST(GoldenPicture, worstAndMean) {
     EXPECT_EQ(difference(a, b).mean, 0.0);
     b.rgba[4] = 70;
     EXPECT_EQ(difference(a, b).worst, 30);
-    EXPECT_DOUBLE_EQ(difference(a, b).mean, 0.1);
+    EXPECT_DOUBLE_EQ(difference(a, b).mean, 29.0 / 300.0);
+}
+
+TEST(GoldenPicture, roundingIsNotInTheMean) {
+    const PictureDifference found = difference(grayPicture(10, 10, 100), grayPicture(10, 10, 101));
+    EXPECT_EQ(found.worst, 1);
+    EXPECT_EQ(found.mean, 0.0);
 }
 
 TEST(GoldenPicture, aMissingPictureFailsAndLeavesACandidate) {
