@@ -7,6 +7,10 @@ set(CORVANE_INSTALL_INCLUDE include/corvane)
 set(CORVANE_INSTALL_CMAKE lib/cmake/Corvane)
 set(CORVANE_INSTALL_DATA share/corvane)
 set(CORVANE_INSTALL_DOC share/doc/corvane)
+# The project has no domain, so the name that catalogues of programs know it by stands under one that
+# nobody can own. Once there is a domain, the new name takes its place, and the metainfo tells in
+# <provides> what the old one was.
+set(CORVANE_APPSTREAM_ID invalid.corvane.Corvane)
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME program)
 
@@ -26,7 +30,13 @@ function(corvane_install_shared_files)
     install(FILES docs/corvane.1 DESTINATION share/man/man1 COMPONENT program)
     install(FILES packaging/corvane.bash-completion
         DESTINATION share/bash-completion/completions COMPONENT program RENAME corvane)
-    install(FILES packaging/corvane.desktop DESTINATION share/applications COMPONENT program)
+    install(FILES packaging/corvane.desktop packaging/corvane-macro.desktop
+        DESTINATION share/applications COMPONENT program)
+    install(FILES packaging/corvane-mime.xml
+        DESTINATION share/mime/packages COMPONENT program RENAME corvane.xml)
+    set(metainfo ${PROJECT_BINARY_DIR}/packaging/${CORVANE_APPSTREAM_ID}.metainfo.xml)
+    configure_file(packaging/corvane.metainfo.xml.in ${metainfo} @ONLY)
+    install(FILES ${metainfo} DESTINATION share/metainfo COMPONENT program)
     install(FILES packaging/corvane.svg
         DESTINATION share/icons/hicolor/scalable/apps COMPONENT program)
     install(FILES docs/writing-add-ons.md DESTINATION ${CORVANE_INSTALL_DOC}/docs COMPONENT sdk)
