@@ -11,4 +11,4 @@ set(CPACK_CORVANE_BUNDLE ${PROJECT_SOURCE_DIR}/packaging/bundle/make-bundle)
 set(CPACK_CORVANE_LAUNCHER ${PROJECT_BINARY_DIR}/packaging/corvane_launcher)
 set(CPACK_CORVANE_MAINTAINER "${CORVANE_MAINTAINER}")
 # Runs when the tree is installed and before it is packed.
-set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/bundle/bundle.cmake)
+list(APPEND CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/bundle/bundle.cmake)

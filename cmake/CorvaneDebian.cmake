@@ -58,7 +58,7 @@ set(CPACK_DEBIAN_SDK_PACKAGE_DEPENDS "corvane (= ${CORVANE_DEBIAN_VERSION})")
 # What Debian wants in each package beyond what is installed elsewhere. cpack puts it there.
 set(CPACK_CORVANE_DEBIAN_FILES ${PROJECT_BINARY_DIR}/packaging/debian)
 set(CPACK_CORVANE_DEBIAN_SOURCES ${PROJECT_SOURCE_DIR}/packaging/debian)
-set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/CorvaneDebianFiles.cmake)
+list(APPEND CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/CorvaneDebianFiles.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/CorvaneDebianControl.cmake)
 
 # Packages of other add-ons that link to libcorvane need the program, this version or a later one of

@@ -1,5 +1,5 @@
 # Packages: cpack -G DEB makes one for each component, cpack -G TGZ a tree with all of them that runs
-# wherever it is unpacked.
+# wherever it is unpacked (CorvaneBundle).
 set(CPACK_PACKAGE_NAME corvane)
 set(CPACK_PACKAGE_VENDOR "The Corvane developers")
 set(CPACK_PACKAGE_CONTACT "${CORVANE_MAINTAINER}")
