@@ -1,8 +1,8 @@
 /* bin/corvane of the bundle: starts the program with the C++ library that it needs.
  *
  * Drivers of the system are loaded into the program and may need a newer C++ library than the one
- * that came with it; a system may also have an older one, or none. A process has only one, so that it
- * is chosen before the program starts. This file needs nothing but the C library. */
+ * that came with it; a system may also have an older one, or none. A process has only one, so that
+ * it is chosen before the program starts. This file needs nothing but the C library. */
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <errno.h>

@@ -11,10 +11,10 @@ namespace corvane::test {
 
 /// How far two pictures are apart, in steps of 0..255.
 struct PictureDifference {
-    int worst = 0;     ///< of any channel of any pixel
+    int worst = 0; ///< of any channel of any pixel
     /// Over all channels of all pixels, of what goes beyond one step. Versions of Mesa's renderer
-    /// round the colours between two others up or down, which nobody sees, but which would be all of
-    /// the mean where a background passes from one colour to another.
+    /// round the colours between two others up or down, which nobody sees, but which would be all
+    /// of the mean where a background passes from one colour to another.
     double mean = 0.0;
 };
 /// Both have the same size.

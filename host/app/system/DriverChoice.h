@@ -25,13 +25,13 @@ struct DriverChoice {
     std::string reason; ///< for people: "no graphics device was found"
 };
 
-/// The bundled driver needs no device and always works, a driver of the system may be faster. So that
-/// is taken where there is something to drive, or where the user asks for it, and only after it has
-/// drawn a picture in a process of its own.
+/// The bundled driver needs no device and always works, a driver of the system may be faster. So
+/// that is taken where there is something to drive, or where the user asks for it, and only after
+/// it has drawn a picture in a process of its own.
 DriverChoice chooseDriver(const Graphics& graphics);
 
-/// Chooses for this process. To be called before anything is drawn; without a bundle there is nothing
-/// to choose.
+/// Chooses for this process. To be called before anything is drawn; without a bundle there is
+/// nothing to choose.
 DriverChoice settleDriver();
 
 } // namespace corvane::app

@@ -107,8 +107,10 @@ int usableCores() {
 std::string machine() {
     struct sysinfo memory {};
     sysinfo(&memory);
-    const auto mebibytes = static_cast<unsigned long long>(memory.totalram) * memory.mem_unit >> 20U;
-    return std::to_string(usableCores()) + " cores, " + std::to_string(mebibytes) + " MiB of memory";
+    const auto mebibytes =
+        static_cast<unsigned long long>(memory.totalram) * memory.mem_unit >> 20U;
+    return std::to_string(usableCores()) + " cores, " + std::to_string(mebibytes) +
+           " MiB of memory";
 }
 
 std::string kernel() {

@@ -21,8 +21,8 @@ void ReadAhead::start(const void* owner, Steps steps) {
     if (steps.empty()) {
         return;
     }
-    m_waiting.push_back(std::make_shared<Work>(
-        Work{owner, {std::make_move_iterator(steps.begin()), std::make_move_iterator(steps.end())}}));
+    m_waiting.push_back(std::make_shared<Work>(Work{
+        owner, {std::make_move_iterator(steps.begin()), std::make_move_iterator(steps.end())}}));
     if (!m_thread.joinable()) {
         m_thread = std::thread(&ReadAhead::work, this);
     }
@@ -61,8 +61,7 @@ void ReadAhead::dropWaiting(const void* owner) {
 void ReadAhead::work() {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_changed.wait(lock,
-                       [this] { return m_mustEnd || (m_pauses == 0 && !m_waiting.empty()); });
+        m_changed.wait(lock, [this] { return m_mustEnd || (m_pauses == 0 && !m_waiting.empty()); });
         if (m_mustEnd) {
             return;
         }

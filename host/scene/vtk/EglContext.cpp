@@ -21,13 +21,14 @@ namespace {
 [[noreturn]] void fail(const char* operation) {
     std::array<char, 16> code{};
     std::snprintf(code.data(), code.size(), "0x%x", static_cast<unsigned>(eglGetError()));
-    throw host::HostError(std::string("No picture can be drawn: ") + operation +
-                          " failed with code " + code.data() +
-                          "; install Mesa's EGL and OpenGL drivers (libegl-mesa0, libgl1-mesa-dri), "
-                          "and see what corvane --system finds.");
+    throw host::HostError(
+        std::string("No picture can be drawn: ") + operation + " failed with code " + code.data() +
+        "; install Mesa's EGL and OpenGL drivers (libegl-mesa0, libgl1-mesa-dri), "
+        "and see what corvane --system finds.");
 }
 
-template <typename Function> Function eglFunction(const char* name) {
+template <typename Function>
+Function eglFunction(const char* name) {
     return reinterpret_cast<Function>(eglGetProcAddress(name));
 }
 
@@ -92,7 +93,8 @@ EglContext::EglContext() {
 
 bool EglContext::open(void* display) {
     // The whole process shares its displays, so that none is ever terminated.
-    if (eglInitialize(display, nullptr, nullptr) != EGL_TRUE || eglBindAPI(EGL_OPENGL_API) != EGL_TRUE) {
+    if (eglInitialize(display, nullptr, nullptr) != EGL_TRUE ||
+        eglBindAPI(EGL_OPENGL_API) != EGL_TRUE) {
         return false;
     }
     const EGLConfig config = anyConfig(display);

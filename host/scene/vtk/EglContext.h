@@ -11,9 +11,9 @@ struct DrawingDriver {
     std::string version;  ///< of OpenGL, and of the driver
 };
 
-/// Made through EGL: on a graphics device where one can be used, else on Mesa's surfaceless platform,
-/// else on whatever display the system's EGL has. Nothing is ever shown: whoever uses the context
-/// draws into framebuffer objects.
+/// Made through EGL: on a graphics device where one can be used, else on Mesa's surfaceless
+/// platform, else on whatever display the system's EGL has. Nothing is ever shown: whoever uses the
+/// context draws into framebuffer objects.
 class EglContext {
 public:
     EglContext(); ///< throws host::HostError when this machine has no usable OpenGL

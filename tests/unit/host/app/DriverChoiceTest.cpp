@@ -1,5 +1,5 @@
-// The driver of the system is used where it works. Drivers are made up as files that describe them to
-// EGL.
+// The driver of the system is used where it works. Drivers are made up as files that describe them
+// to EGL.
 #include "host/app/system/DriverChoice.h"
 #include "host/scene/vtk/DrawingTrial.h"
 #include "tests/support/TempFolder.h"
@@ -15,7 +15,8 @@ class DriverChoice : public testing::Test {
 protected:
     std::string driverFile(const std::string& library) const {
         return folder.write("driver.json", R"({"file_format_version": "1.0.0", "ICD": )"
-                                           R"({"library_path": ")" + library + "\"}}");
+                                           R"({"library_path": ")" +
+                                               library + "\"}}");
     }
 
     const test::TempFolder folder;
@@ -28,8 +29,8 @@ TEST_F(DriverChoice, isTheBundledOneWithoutAnythingToDrive) {
 }
 
 TEST_F(DriverChoice, isTheSystemsWhereThatDraws) {
-    const app::DriverChoice choice =
-        chooseDriver({.devices = {"/dev/dri/renderD128"}, .driverFiles = driverFile("libEGL_mesa.so.0")});
+    const app::DriverChoice choice = chooseDriver(
+        {.devices = {"/dev/dri/renderD128"}, .driverFiles = driverFile("libEGL_mesa.so.0")});
     EXPECT_FALSE(choice.isBundled) << choice.reason;
 }
 
@@ -47,7 +48,8 @@ TEST_F(DriverChoice, survivesADriverThatCrashes) {
 TEST_F(DriverChoice, isTheUsersBeforeAll) {
     EXPECT_FALSE(
         chooseDriver({.driverFiles = driverFile(CRASHING_DRIVER), .wish = "system"}).isBundled);
-    EXPECT_TRUE(chooseDriver({.driverFiles = driverFile("libEGL_mesa.so.0"), .wish = "bundled"}).isBundled);
+    EXPECT_TRUE(
+        chooseDriver({.driverFiles = driverFile("libEGL_mesa.so.0"), .wish = "bundled"}).isBundled);
     EXPECT_TRUE(chooseDriver({.wish = "neither"}).isBundled);
 }
 
