@@ -86,6 +86,16 @@ TEST_F(KeyFrameDialog, escStopsAndLeavesTheDialogUp) {
     EXPECT_FALSE(dialog.window().isVisible()) << "Esc closes again when nothing plays";
 }
 
+TEST_F(KeyFrameDialog, closingTheMainWindowStopsAndClosesAllAfterwards) {
+    const DialogUser dialog = openDialog();
+    capture(dialog, 2);
+    ASSERT_TRUE(isEnabledSoon(dialog, animateAll));
+    playAnd(dialog, animateAll, [&] { window().close(); });
+    EXPECT_THAT(errors(), ElementsAre("Animation canceled."));
+    EXPECT_LT(renderer.renders(), 30U);
+    EXPECT_TRUE(waitUntil([this] { return !window().isVisible(); }));
+}
+
 TEST_F(KeyFrameDialog, theStopButtonStops) {
     const DialogUser dialog = openDialog();
     capture(dialog, 2);

@@ -117,6 +117,19 @@ void WindowController::onIdle() {
     m_workArea.fit();
     m_commands.host().macros().uncommanded().catchUp();
     showExportFailure();
+    closeIfWanted();
+}
+
+void WindowController::closeAtRest() {
+    m_mustClose = true;
+    m_idle.requestIdle();
+}
+
+void WindowController::closeIfWanted() {
+    if (m_mustClose && !m_commands.isBusy()) {
+        m_mustClose = false;
+        m_window.close();
+    }
 }
 
 void WindowController::refresh() {

@@ -38,6 +38,9 @@ public:
     TimePlayer& time() { return m_time; }
     PlotSidebar& sidebar() { return *m_sidebar; }
 
+    /// Closes the window, unless the user decides against it, when nothing else is going on.
+    void closeAtRest();
+
     /// Decides whether the window may be closed, and ends the program when it is.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -46,6 +49,7 @@ private:
     void restoreWindow();
     void saveWindow() const;
     void onIdle();
+    void closeIfWanted();
     /// Updates everything that shows the state of the host.
     void refresh();
     void refreshTitle();
@@ -70,6 +74,7 @@ private:
     ViewMouse m_mouse;
     TimeBar* m_timeBar;
     QTimer m_refresh;
+    bool m_mustClose = false;
     StateWatcher m_watcher;
 };
 

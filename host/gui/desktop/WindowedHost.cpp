@@ -26,7 +26,10 @@ WindowedHost::WindowedHost(const WindowedHostParts& parts)
               .widgets = &m_widgets,
               .mainMenu = &m_mainMenu}),
       m_idle(m_host, m_screen, m_idleRequests),
-      m_controller(m_host, m_window, m_idle) {}
+      m_controller(m_host, m_window, m_idle) {
+    QObject::connect(&m_status, &StatusBarDisplay::closeRequested, &m_controller,
+                     &WindowController::closeAtRest);
+}
 
 void WindowedHost::showNotice(const std::string& notice) {
     m_window.progressStrip().showNotice(toQt(notice));

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
+#include <QWindow>
 
 namespace corvane::gui {
 
@@ -61,6 +62,9 @@ bool InputBlocker::eventFilter(QObject* receiver, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::Close) {
         event->ignore(); // an accepted event would close the window although it was filtered
+        if (isMainWindow(receiver)) {
+            Q_EMIT closeRequested();
+        }
         return true;
     }
     if (isKeyInput(type)) {
@@ -69,6 +73,11 @@ bool InputBlocker::eventFilter(QObject* receiver, QEvent* event) {
     }
     // Native windows pass their events on to widgets, where they are filtered.
     return isPointerInput(type) && receiver->isWidgetType() && !isForStopButton(receiver);
+}
+
+bool InputBlocker::isMainWindow(QObject* receiver) const {
+    const QWidget* const window = m_stopButton.window();
+    return receiver == window || receiver == window->windowHandle(); // which hears of it first
 }
 
 bool InputBlocker::isForStopButton(QObject* receiver) const {

@@ -13,7 +13,7 @@ class InputBlocker : public QObject {
     Q_OBJECT
 
 public:
-    /// The button keeps working; it must outlive the blocker.
+    /// The button keeps working, and closing its window is reported; it must outlive the blocker.
     explicit InputBlocker(QWidget& stopButton) : m_stopButton(stopButton) {}
     ~InputBlocker() override;
 
@@ -24,8 +24,10 @@ public:
 
 Q_SIGNALS:
     void escapePressed();
+    void closeRequested(); ///< nothing was closed
 
 private:
+    bool isMainWindow(QObject* receiver) const;
     bool isForStopButton(QObject* receiver) const;
     void handleKey(QEvent* event);
 

@@ -19,6 +19,10 @@ constexpr qint64 eventIntervalMs = 16;
 StatusBarDisplay::StatusBarDisplay(ProgressStrip& strip, FramePacer& pacer, host::IdleTimer& idle)
     : m_strip(strip), m_pacer(pacer), m_idle(idle), m_blocker(strip.stopButton()) {
     connect(&m_blocker, &InputBlocker::escapePressed, this, &StatusBarDisplay::requestStop);
+    connect(&m_blocker, &InputBlocker::closeRequested, this, [this] {
+        requestStop();
+        Q_EMIT closeRequested();
+    });
     connect(&strip.stopButton(), &QPushButton::clicked, this, &StatusBarDisplay::requestStop);
 }
 

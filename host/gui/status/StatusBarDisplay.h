@@ -29,6 +29,11 @@ public:
     /// As the Stop button does. Has no effect when nothing is running.
     void requestStop() { m_isStopped = true; }
 
+Q_SIGNALS:
+    /// The user closed the window while an animation ran: that is stopped, and the window is still
+    /// there.
+    void closeRequested();
+
 private:
     void processEvents();
 
