@@ -1,6 +1,7 @@
 #include "host/app/WindowRun.h"
 
 #include "host/app/AddOnLibraries.h"
+#include "host/app/DisplayLoss.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/Signals.h"
@@ -106,6 +107,9 @@ public:
 
 private:
     void watchSignals();
+    void writeRecording();
+    /// Nothing half-written stays, and what was recorded is there.
+    void rescue();
     void traceCalls();
     void openWhatWasAsked();
     void warn(const std::string& warning);
@@ -118,6 +122,7 @@ private:
     std::unique_ptr<TraceFile> m_trace;
     gui::WindowedHost m_windowedHost;
     std::unique_ptr<QSocketNotifier> m_stopSignal;
+    DisplayLoss m_displayLoss{[this] { rescue(); }};
 };
 
 void WindowRun::start() {
@@ -156,11 +161,27 @@ ExitCode WindowRun::end() {
     if (!isStopSignalled()) {
         return ExitDone;
     }
+    writeRecording();
+    return ExitStopped;
+}
+
+void WindowRun::writeRecording() {
     const QString recording = m_windowedHost.controller().macros().file();
     if (!recording.isEmpty()) {
         host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording));
     }
-    return ExitStopped;
+}
+
+void WindowRun::rescue() {
+    host::Exporter& exporter = m_windowedHost.host().session().exporter();
+    if (exporter.isRecording()) {
+        exporter.cancel();
+    }
+    try {
+        writeRecording();
+    } catch (const std::exception& error) {
+        say(host::messageOf(error));
+    }
 }
 
 void WindowRun::traceCalls() {

@@ -4,6 +4,7 @@
 #include "tests/support/TempFolder.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::UnorderedElementsAre;
 
-class StoppedWindow : public ::testing::TestWithParam<int> {
+class ProgramWindow : public ::testing::Test {
 protected:
     /// With the body of the wake, and this behind it.
     Program open(const std::string& macro) {
@@ -23,8 +24,52 @@ protected:
                         "--trace", "/dev/stderr"});
     }
 
+    std::string longMovie() const {
+        folder.write("long.keyframe", StandingFlight{.frames = 400}.keyFrameFile());
+        return "$!EXPORTSETUP ExportFName = \"" + folder.file("film.avi") +
+               "\"\n"
+               "$!EXPORTSETUP ImageWidth = 32\n"
+               "$!EXTCOMMAND \"Key Frame Animation\" \"OpenSettingsFile FileName=\\\"" +
+               folder.file("long.keyframe") +
+               "\\\"\"\n"
+               "$!EXTCOMMAND \"Key Frame Animation\" \"Animate "
+               "AnimationDestination=ToFile\"\n";
+    }
+
     const TempFolder folder;
 };
+
+class StoppedWindow : public ProgramWindow, public ::testing::WithParamInterface<int> {};
+
+/// Its display is gone: the server ends the connection of the program alone.
+class WindowWithoutDisplay : public ProgramWindow {
+protected:
+    static void takeDisplay() {
+        ASSERT_EQ(std::system("xdotool search --onlyvisible --class corvane windowkill"), 0);
+    }
+};
+
+TEST_F(WindowWithoutDisplay, writesItsRecording) {
+    Program program = open("$!STYLE Annotations/Title = last\n"
+                           "$!EXTCOMMAND \"Key Frame Animation\" \"OpenSettingsFile FileName=\\\"" +
+                           exampleFile("wake/flight.keyframe") + "\\\"\"\n");
+    ASSERT_TRUE(program.waitForError("CorUtilMacroRecordExtCommand"));
+    takeDisplay();
+    const ProgramResult result = program.finish();
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("corvane: The display is gone"));
+    EXPECT_THAT(folder.read("all.mcr"), HasSubstr("OpenSettingsFile"));
+    EXPECT_THAT(folder.names(), UnorderedElementsAre("all.mcr", "scene.mcr"));
+}
+
+TEST_F(WindowWithoutDisplay, dropsTheMovieThatIsUnderWay) {
+    Program program = open(longMovie());
+    ASSERT_TRUE(program.waitForError("CorUtilExportNextFrame"));
+    takeDisplay();
+    EXPECT_EQ(program.finish().exitCode, 1);
+    EXPECT_THAT(folder.read("all.mcr"), HasSubstr("ImageWidth = 32\n"));
+    EXPECT_THAT(folder.names(), UnorderedElementsAre("all.mcr", "scene.mcr", "long.keyframe"));
+}
 
 TEST_P(StoppedWindow, writesItsRecording) {
     Program program = open("$!STYLE Annotations/Title = last\n"
@@ -41,15 +86,7 @@ TEST_P(StoppedWindow, writesItsRecording) {
 }
 
 TEST_P(StoppedWindow, dropsTheMovieThatIsUnderWay) {
-    folder.write("long.keyframe", StandingFlight{.frames = 400}.keyFrameFile());
-    Program program =
-        open("$!EXPORTSETUP ExportFName = \"" + folder.file("film.avi") +
-             "\"\n"
-             "$!EXPORTSETUP ImageWidth = 32\n"
-             "$!EXTCOMMAND \"Key Frame Animation\" \"OpenSettingsFile FileName=\\\"" +
-             folder.file("long.keyframe") +
-             "\\\"\"\n"
-             "$!EXTCOMMAND \"Key Frame Animation\" \"Animate AnimationDestination=ToFile\"\n");
+    Program program = open(longMovie());
     ASSERT_TRUE(program.waitForError("CorUtilExportNextFrame"));
     // The trace of the frames that are left fills the pipe, which is read again after the signal.
     program.signal(GetParam());
