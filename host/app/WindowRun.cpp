@@ -108,6 +108,7 @@ private:
     void watchSignals();
     void traceCalls();
     void openWhatWasAsked();
+    void writeRecorded();
     void warn(const std::string& warning);
 
     const Options& m_options;
@@ -125,7 +126,7 @@ void WindowRun::start() {
     traceCalls();
     loadAddOns(m_windowedHost.host().session(), m_options, say);
     if (!m_options.record.empty()) {
-        host::expectWritable(m_options.record);
+        host::expectWritable(m_options.record, say);
     }
     if (m_options.isSizeGiven) {
         m_windowedHost.host().macros().keepPictureSize();
@@ -153,19 +154,25 @@ void WindowRun::watchSignals() {
 }
 
 ExitCode WindowRun::end() {
-    if (!isStopSignalled()) {
-        return ExitDone;
+    if (isStopSignalled()) {
+        writeRecorded();
     }
+    if (m_trace) {
+        m_trace->finish();
+    }
+    return isStopSignalled() ? ExitStopped : ExitDone;
+}
+
+void WindowRun::writeRecorded() {
     const QString recording = m_windowedHost.controller().macros().file();
     if (!recording.isEmpty()) {
-        host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording));
+        host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording), say);
     }
-    return ExitStopped;
 }
 
 void WindowRun::traceCalls() {
     if (!m_options.trace.empty()) {
-        m_trace = std::make_unique<TraceFile>(m_options.trace);
+        m_trace = std::make_unique<TraceFile>(m_options.trace, say);
         m_trace->attachTo(m_windowedHost.host().session().trace());
     }
 }
