@@ -4,6 +4,7 @@
 #include "host/app/AddOnLibraries.h"
 #include "host/app/BatchPrompts.h"
 #include "host/app/Flight.h"
+#include "host/app/Inputs.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/Signals.h"
@@ -18,6 +19,7 @@
 #include "host/scene/DataReaders.h"
 #include "host/scene/SceneRenderer.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <iostream>
@@ -31,33 +33,44 @@ class BatchRun {
 public:
     explicit BatchRun(const Options& options)
         : m_options(options),
-          m_scene(nullptr, memoryForPlots(options),
-                  [this](const std::string& warning) { tell(warning); }),
+          m_scene(nullptr, memoryForPlots(options), m_tell),
           m_renderer(m_scene),
           m_reader(memoryForData(options)),
           m_status(options.quiet ? m_silence : std::cerr,
                    !options.quiet && isatty(STDERR_FILENO) != 0, isStopSignalled),
           m_prompts(options.quiet),
-          m_host({m_renderer, m_reader, m_movies, m_status, m_prompts, m_pictures}) {}
+          m_host({.renderer = m_renderer,
+                  .reader = m_reader,
+                  .movies = m_movies,
+                  .status = m_status,
+                  .prompts = m_prompts,
+                  .pictures = m_pictures,
+                  .tell = m_tell}) {}
 
     ExitCode run();
 
 private:
+    ExitCode outcomeOf(void (BatchRun::*step)());
     void work();
     void openData();
     void startRecording();
     void writeRecorded();
     void traceCalls();
+    void finishTrace();
     void setUpPage();
     void sayWhatWasMade(double seconds);
-    void tell(const std::string& note) const; ///< unless quiet was asked for
     ExitCode failed(const std::string& message);
 
     const Options& m_options;
+    const host::PartFile::Tell m_tell = [this](const std::string& note) {
+        if (!m_options.quiet) {
+            say(note);
+        }
+    };
     scene::SceneRenderer m_scene;
     TimedRenderer m_renderer;
     scene::DataReaders m_reader;
-    movie::LibavMovieWriters m_movies{[this](const std::string& note) { tell(note); }};
+    movie::LibavMovieWriters m_movies{m_tell};
     movie::PngFiles m_pictures;
     std::ostream m_silence{nullptr};
     TerminalStatus m_status;
@@ -67,14 +80,19 @@ private:
 };
 
 ExitCode BatchRun::run() {
-    ExitCode code = ExitDone;
-    try {
-        work();
-    } catch (const std::exception& error) {
-        code = failed(host::messageOf(error));
-    }
+    const ExitCode code = outcomeOf(&BatchRun::work);
     m_host.session().quit();
-    return code;
+    // The trace of a run that failed is of use, too.
+    return std::max(code, outcomeOf(&BatchRun::finishTrace));
+}
+
+ExitCode BatchRun::outcomeOf(void (BatchRun::*step)()) {
+    try {
+        (this->*step)();
+        return ExitDone;
+    } catch (const std::exception& error) {
+        return failed(host::messageOf(error));
+    }
 }
 
 void BatchRun::work() {
@@ -107,21 +125,27 @@ void BatchRun::openData() {
 
 void BatchRun::startRecording() {
     if (!m_options.record.empty()) {
-        host::expectWritable(m_options.record);
+        host::expectWritable(m_options.record, m_tell);
         host::startRecording(m_host.session(), m_host.recorder());
     }
 }
 
 void BatchRun::writeRecorded() {
     if (!m_options.record.empty()) {
-        host::writeMacro(m_host.recorder().stop(), m_options.record);
+        host::writeMacro(m_host.recorder().stop(), m_options.record, m_tell);
     }
 }
 
 void BatchRun::traceCalls() {
     if (!m_options.trace.empty()) {
-        m_trace = std::make_unique<TraceFile>(m_options.trace);
+        m_trace = std::make_unique<TraceFile>(m_options.trace, m_tell);
         m_trace->attachTo(m_host.session().trace());
+    }
+}
+
+void BatchRun::finishTrace() {
+    if (m_trace) {
+        m_trace->finish();
     }
 }
 
@@ -133,12 +157,6 @@ void BatchRun::setUpPage() {
     }
 }
 
-void BatchRun::tell(const std::string& note) const {
-    if (!m_options.quiet) {
-        say(note);
-    }
-}
-
 void BatchRun::sayWhatWasMade(double seconds) {
     const unsigned long frames = m_host.session().exporter().frames();
     char figures[128];
@@ -146,7 +164,7 @@ void BatchRun::sayWhatWasMade(double seconds) {
                   ": %lu frames in %.1f s, %.1f frames a second, %.0f %% of it drawing", frames,
                   seconds, static_cast<double>(frames) / seconds,
                   100.0 * m_renderer.seconds() / seconds);
-    tell(m_options.output + figures);
+    m_tell(m_options.output + figures);
 }
 
 ExitCode BatchRun::failed(const std::string& message) {
@@ -162,6 +180,7 @@ ExitCode BatchRun::failed(const std::string& message) {
 
 ExitCode runBatch(const Options& options) {
     watchStopSignals();
+    noteInputs(options);
     try {
         return BatchRun(options).run();
     } catch (const std::exception& error) {

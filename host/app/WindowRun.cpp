@@ -2,6 +2,7 @@
 
 #include "host/app/AddOnLibraries.h"
 #include "host/app/DisplayLoss.h"
+#include "host/app/Inputs.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/Signals.h"
@@ -107,7 +108,7 @@ public:
 
 private:
     void watchSignals();
-    void writeRecording();
+    void writeRecorded();
     /// Nothing half-written stays, and what was recorded is there.
     void rescue();
     void traceCalls();
@@ -130,7 +131,7 @@ void WindowRun::start() {
     traceCalls();
     loadAddOns(m_windowedHost.host().session(), m_options, say);
     if (!m_options.record.empty()) {
-        host::expectWritable(m_options.record);
+        host::expectWritable(m_options.record, say);
     }
     if (m_options.isSizeGiven) {
         m_windowedHost.host().macros().keepPictureSize();
@@ -158,17 +159,19 @@ void WindowRun::watchSignals() {
 }
 
 ExitCode WindowRun::end() {
-    if (!isStopSignalled()) {
-        return ExitDone;
+    if (isStopSignalled()) {
+        writeRecorded();
     }
-    writeRecording();
-    return ExitStopped;
+    if (m_trace) {
+        m_trace->finish();
+    }
+    return isStopSignalled() ? ExitStopped : ExitDone;
 }
 
-void WindowRun::writeRecording() {
+void WindowRun::writeRecorded() {
     const QString recording = m_windowedHost.controller().macros().file();
     if (!recording.isEmpty()) {
-        host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording));
+        host::writeMacro(m_windowedHost.host().recorder().lines(), gui::fromQt(recording), say);
     }
 }
 
@@ -178,7 +181,10 @@ void WindowRun::rescue() {
         exporter.cancel();
     }
     try {
-        writeRecording();
+        writeRecorded();
+        if (m_trace) {
+            m_trace->finish();
+        }
     } catch (const std::exception& error) {
         say(host::messageOf(error));
     }
@@ -186,7 +192,7 @@ void WindowRun::rescue() {
 
 void WindowRun::traceCalls() {
     if (!m_options.trace.empty()) {
-        m_trace = std::make_unique<TraceFile>(m_options.trace);
+        m_trace = std::make_unique<TraceFile>(m_options.trace, say);
         m_trace->attachTo(m_windowedHost.host().session().trace());
     }
 }
@@ -228,6 +234,7 @@ ExitCode runWindow(const Options& options) {
     QApplication qt(count, arguments);
     start.reset();
     nameProgram();
+    noteInputs(options);
     try {
         WindowRun run(options);
         run.start();

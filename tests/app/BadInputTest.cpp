@@ -34,7 +34,7 @@ protected:
             EXPECT_THAT(lastLine, HasSubstr(part));
         }
         EXPECT_TRUE(readFile(movie) == "an older movie");
-        EXPECT_FALSE(fs::exists(movie + ".part"));
+        EXPECT_FALSE(folder.hasParts());
     }
 
     /// With a key frame file of this content.

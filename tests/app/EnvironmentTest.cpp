@@ -44,7 +44,7 @@ protected:
         const ProgramResult result = runProgram(run(movie), surroundings);
         EXPECT_EQ(result.exitCode, 0) << result.errors;
         EXPECT_EQ(result.output, "");
-        EXPECT_FALSE(fs::exists(movie + ".part"));
+        EXPECT_FALSE(folder.hasParts());
         EXPECT_TRUE(readFile(movie) == usual);
         fs::remove(movie);
         return result;
@@ -107,7 +107,7 @@ TEST_F(Environment, hasNobodyWhoReads) {
     program.closeErrors();
     EXPECT_EQ(program.finish().exitCode, 0);
     EXPECT_TRUE(readFile(movie) == usual);
-    EXPECT_FALSE(fs::exists(movie + ".part"));
+    EXPECT_FALSE(folder.hasParts());
 }
 
 TEST_F(Environment, isAFolderThatIsGone) {

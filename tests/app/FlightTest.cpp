@@ -37,7 +37,7 @@ TEST(Flight, becomesAMovieOfItsFramesSizeAndRate) {
     EXPECT_EQ(decoded.rateNumerator, 30);
     EXPECT_EQ(decoded.rateDenominator, 1);
     EXPECT_NEAR(decoded.duration, 12 / 30.0, 1e-3);
-    EXPECT_FALSE(fs::exists(movie + ".part"));
+    EXPECT_FALSE(folder.hasParts());
 }
 
 TEST(Flight, takesRateAndSizeFromTheCommandLine) {

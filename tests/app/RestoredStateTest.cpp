@@ -72,7 +72,7 @@ TEST_F(RestoredState, afterTheUserStopped) {
     expectRestored();
     expectSamePictureFrom(start, 3.0);
     EXPECT_FALSE(folder.has("flight.mp4"));
-    EXPECT_FALSE(folder.has("flight.mp4.part"));
+    EXPECT_FALSE(folder.hasParts());
 }
 
 TEST_F(RestoredState, afterEveryPictureThatCouldNotBeWritten) {
@@ -91,7 +91,7 @@ TEST_F(RestoredState, afterEveryPictureThatCouldNotBeWritten) {
         }
         expectRestored();
         expectSamePictureFrom(start, 3.0);
-        EXPECT_FALSE(folder.has("flight.mp4.part"));
+        EXPECT_FALSE(folder.hasParts());
     }
 }
 

@@ -18,7 +18,8 @@ MemoryHost::MemoryHost(bool hasWindows)
                       .screen = &m_renderer,
                       .idleTimer = &m_idleTimer,
                       .widgets = hasWindows ? &m_widgets : nullptr,
-                      .mainMenu = hasWindows ? &m_mainMenu : nullptr})) {
+                      .mainMenu = hasWindows ? &m_mainMenu : nullptr,
+                      .tell = [this](const std::string& note) { m_told.push_back(note); }})) {
     host::TraceSinks sinks = misuseAndScript();
     sinks.onCall = [this](const host::TraceRecord& record) { m_records.push_back(record); };
     m_program->session().trace().connect(std::move(sinks));

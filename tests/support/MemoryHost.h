@@ -111,6 +111,9 @@ public:
     /// Misuse with this text in it is part of the test; without it the test fails.
     void expectMisuse(std::string part = {}) { m_expectedMisuse.push_back(std::move(part)); }
 
+    /// What the host told besides.
+    const std::vector<std::string>& told() const { return m_told; }
+
     /// What an add-on must not leave behind, as sentences: unexpected misuse, locks, suspended
     /// drawing, an open percent-done display, a movie being recorded, scripted failures that never
     /// came.
@@ -135,6 +138,7 @@ private:
     std::vector<host::TraceRecord> m_records;
     std::vector<std::string> m_misuse;
     std::vector<std::string> m_expectedMisuse;
+    std::vector<std::string> m_told;
     std::unique_ptr<host::Host> m_program;
 };
 

@@ -1,6 +1,7 @@
 // A folder that lives as long as the object.
 #include "tests/support/TempFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -50,6 +51,12 @@ std::set<std::string> TempFolder::names() const {
         all.insert(entry.path().filename().string());
     }
     return all;
+}
+
+bool TempFolder::hasParts() const {
+    const std::set<std::string> all = names();
+    return std::any_of(all.begin(), all.end(),
+                       [](const std::string& name) { return name.ends_with(".part"); });
 }
 
 } // namespace corvane::test

@@ -22,6 +22,7 @@ public:
     std::string read(const std::string& name) const; ///< throws std::runtime_error without the file
     std::set<std::string> names() const;             ///< of what lies in it
     bool has(const std::string& name) const { return std::filesystem::exists(m_path / name); }
+    bool hasParts() const; ///< of files in the making
 
 private:
     std::filesystem::path m_path;

@@ -2,7 +2,7 @@
 #include "host/core/macro/MacroFile.h"
 
 #include "host/core/base/HostError.h"
-#include "host/core/base/PartFile.h"
+#include "host/core/files/InputFiles.h"
 
 #include <cerrno>
 #include <cstring>
@@ -33,6 +33,7 @@ std::unique_ptr<std::istream> openMacro(const std::string& fileName) {
     if (!fs::is_regular_file(status)) {
         throw cannotOpen(fileName, "it is not a regular file");
     }
+    inputFiles().add(fileName);
     auto file = std::make_unique<std::ifstream>(fileName, std::ios::binary);
     if (!*file) {
         throw cannotOpen(fileName, std::strerror(errno));
@@ -40,12 +41,13 @@ std::unique_ptr<std::istream> openMacro(const std::string& fileName) {
     return file;
 }
 
-void expectWritable(const std::string& fileName) {
-    const PartFile probe(fileName);
+void expectWritable(const std::string& fileName, const PartFile::Tell& tell) {
+    const PartFile probe(fileName, tell);
 }
 
-void writeMacro(const std::vector<std::string>& lines, const std::string& fileName) {
-    PartFile part(fileName);
+void writeMacro(const std::vector<std::string>& lines, const std::string& fileName,
+                const PartFile::Tell& tell) {
+    PartFile part(fileName, tell);
     std::ofstream file(part.path(), std::ios::binary);
     for (const std::string& line : lines) {
         file << line << '\n';

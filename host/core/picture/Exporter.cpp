@@ -2,7 +2,6 @@
 #include "host/core/picture/Exporter.h"
 
 #include "host/core/base/HostError.h"
-#include "host/core/base/PartFile.h"
 #include "host/core/page/Page.h"
 #include "host/core/picture/Drawing.h"
 #include "host/core/picture/ExportSetup.h"
@@ -11,6 +10,7 @@
 #include "host/core/ports/Ports.h"
 
 #include <new>
+#include <utility>
 
 namespace corvane::host {
 
@@ -37,8 +37,13 @@ MovieRequest movieRequest(const ExportSetup& setup, const std::string& path,
 } // namespace
 
 Exporter::Exporter(const Page& page, const ExportSetup& setup, Drawing& drawing, Renderer& renderer,
-                   MovieWriters& writers)
-    : m_page(page), m_setup(setup), m_drawing(drawing), m_renderer(renderer), m_writers(writers) {}
+                   MovieWriters& writers, PartFile::Tell tell)
+    : m_page(page),
+      m_setup(setup),
+      m_drawing(drawing),
+      m_renderer(renderer),
+      m_writers(writers),
+      m_tell(std::move(tell)) {}
 
 Exporter::~Exporter() = default;
 
@@ -85,7 +90,7 @@ PictureRequest Exporter::request() const {
 
 void Exporter::open() {
     m_request = request();
-    m_file = std::make_unique<PartFile>(m_setup.fileName);
+    m_file = std::make_unique<PartFile>(m_setup.fileName, m_tell);
     m_writer = m_writers.open(movieRequest(m_setup, m_file->path(), m_request));
     addPicture();
 }
@@ -115,9 +120,7 @@ bool Exporter::guarded(void (Exporter::*step)()) {
 
 void Exporter::complete() {
     m_writer->finish();
-    m_writer.reset();
     m_file->commit();
-    m_file.reset();
 }
 
 /// The writer goes first, since it may hold the file open.

@@ -1,6 +1,7 @@
 // Writes a movie picture by picture, as an add-on asks for it.
 #pragma once
 
+#include "host/core/files/PartFile.h"
 #include "host/core/ports/Picture.h"
 
 #include <memory>
@@ -12,7 +13,6 @@ class Drawing;
 class MovieWriter;
 class MovieWriters;
 class Page;
-class PartFile;
 class Renderer;
 struct ExportSetup;
 
@@ -20,7 +20,7 @@ struct ExportSetup;
 class Exporter {
 public:
     Exporter(const Page& page, const ExportSetup& setup, Drawing& drawing, Renderer& renderer,
-             MovieWriters& writers);
+             MovieWriters& writers, PartFile::Tell tell);
     ~Exporter();
 
     bool isRecording() const { return m_writer != nullptr; }
@@ -56,6 +56,7 @@ private:
     Drawing& m_drawing;
     Renderer& m_renderer;
     MovieWriters& m_writers;
+    PartFile::Tell m_tell;
     std::unique_ptr<PartFile> m_file;
     std::unique_ptr<MovieWriter> m_writer;
     PictureRequest m_request;

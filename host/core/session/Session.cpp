@@ -2,8 +2,8 @@
 #include "host/core/session/Session.h"
 
 #include "host/core/base/HostError.h"
-#include "host/core/base/PartFile.h"
 #include "host/core/base/Text.h"
+#include "host/core/files/PartFile.h"
 #include "host/core/picture/PictureRequests.h"
 #include "host/core/session/PageChanges.h"
 
@@ -29,7 +29,7 @@ Session::Session(Ports ports)
       m_idle(ports.idleTimer, addOnCaller()),
       m_stateChanges(addOnCaller()),
       m_status(ports.status, [this] { return m_exporter.isRecording() && m_exporter.hasFailed(); }),
-      m_exporter(m_page, m_exportSetup, m_drawing, ports.renderer, ports.movies),
+      m_exporter(m_page, m_exportSetup, m_drawing, ports.renderer, ports.movies, ports.tell),
       m_controls(ports.widgets, addOnCaller()),
       m_controlActions(m_controls),
       m_menuOptions(ports.mainMenu, addOnCaller()),
@@ -277,8 +277,13 @@ void Session::exportPicture(const std::string& fileName, ExportRegion_e region, 
                             int supersample) {
     const PictureRequest request =
         pictureRequest(m_page, m_ports.renderer, region, width, supersample);
-    PartFile file(fileName);
-    m_ports.pictures.write(m_drawing.picture(request), file.path());
+    PartFile file(fileName, m_ports.tell);
+    const Picture picture = m_drawing.picture(request);
+    try {
+        m_ports.pictures.write(picture, file.path());
+    } catch (const HostError& error) {
+        throw HostError(file.namingDestination(error.what()));
+    }
     file.commit();
 }
 

@@ -10,6 +10,7 @@
 #include "host/core/controls/ControlActions.h"
 #include "host/core/controls/Controls.h"
 #include "host/core/controls/MenuOptions.h"
+#include "host/core/files/PartFile.h"
 #include "host/core/page/Page.h"
 #include "host/core/page/StyleTree.h"
 #include "host/core/picture/Drawing.h"
@@ -37,6 +38,8 @@ struct Ports {
     IdleTimer* idleTimer = nullptr; ///< null: no event loop
     Widgets* widgets = nullptr;     ///< null: add-ons can make no dialogs
     MainMenu* mainMenu = nullptr;   ///< null: add-ons can add no menu options
+    /// For what users may want to know, but nobody has to answer. It may be told anywhere.
+    PartFile::Tell tell = [](const std::string&) {};
 };
 
 /// Everything here belongs to the one user-interface thread, the one that made it. Knows nothing of
@@ -66,6 +69,7 @@ public:
     AddOnCommands& addOnCommands() { return m_addOnCommands; }
     CallTrace& trace() { return m_trace; }
     UserPrompts& prompts() { return m_ports.prompts; }
+    const PartFile::Tell& tell() const { return m_ports.tell; }
     std::vector<DataFormat> dataFormats() const { return m_ports.reader.formats(); }
     Controls& controls() { return m_controls; }
     ControlActions& controlActions() { return m_controlActions; }

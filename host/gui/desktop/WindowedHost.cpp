@@ -24,7 +24,8 @@ WindowedHost::WindowedHost(const WindowedHostParts& parts)
               .screen = &m_screen,
               .idleTimer = &m_idleRequests,
               .widgets = &m_widgets,
-              .mainMenu = &m_mainMenu}),
+              .mainMenu = &m_mainMenu,
+              .tell = [this](const std::string& note) { showNotice(note); }}),
       m_idle(m_host, m_screen, m_idleRequests),
       m_controller(m_host, m_window, m_idle) {
     QObject::connect(&m_status, &StatusBarDisplay::closeRequested, &m_controller,

@@ -84,8 +84,8 @@ void MacroActions::askAndStop() {
 
 bool MacroActions::stopRecording(const QString& fileName) {
     host::MacroRecorder& recorder = m_commands.host().recorder();
-    const bool isWritten =
-        m_commands.attempt([&] { host::writeMacro(recorder.lines(), fromQt(fileName)); });
+    const bool isWritten = m_commands.attempt(
+        [&] { host::writeMacro(recorder.lines(), fromQt(fileName), m_commands.session().tell()); });
     if (isWritten) {
         recorder.stop();
         m_file.clear();

@@ -9,7 +9,7 @@ Mpeg4Movie::Mpeg4Movie(const host::MovieRequest& request, const VideoSettings& s
 
 void Mpeg4Movie::finish() {
     m_file.finish();
-    rearrangeAsPlainMp4(m_path);
+    m_plain = rearrangeAsPlainMp4(m_path);
 }
 
 } // namespace corvane::movie

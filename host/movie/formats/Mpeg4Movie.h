@@ -1,8 +1,10 @@
 // An MPEG-4 movie being written.
 #pragma once
 
+#include "host/core/files/ScratchFile.h"
 #include "host/movie/libav/MovieFile.h"
 
+#include <memory>
 #include <string>
 
 namespace corvane::movie {
@@ -20,6 +22,8 @@ public:
 private:
     std::string m_path;
     MovieFile m_file;
+    /// What stands at the path once it is finished: nobody may take it for a left-over.
+    std::unique_ptr<host::ScratchFile> m_plain;
 };
 
 } // namespace corvane::movie

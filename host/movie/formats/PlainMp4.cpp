@@ -7,31 +7,10 @@
 
 #include <filesystem>
 #include <system_error>
-#include <utility>
 
 namespace corvane::movie {
 
 namespace {
-
-/// Removes its file on destruction unless the file has been moved.
-class CopyFile {
-public:
-    explicit CopyFile(std::string path) : m_path(std::move(path)) {}
-    ~CopyFile() {
-        std::error_code ignored;
-        if (std::filesystem::is_regular_file(m_path, ignored)) {
-            std::filesystem::remove(m_path, ignored);
-        }
-    }
-    CopyFile(const CopyFile&) = delete;
-    CopyFile& operator=(const CopyFile&) = delete;
-
-    const std::string& path() const { return m_path; }
-    void replace(const std::string& original) const { std::filesystem::rename(m_path, original); }
-
-private:
-    std::string m_path;
-};
 
 InputHandle openInput(const LibavCheck& check) {
     AVFormatContext* input = nullptr;
@@ -73,20 +52,20 @@ void copyPlain(const std::string& from, const std::string& to) {
 
 } // namespace
 
-bool rearrangeAsPlainMp4(const std::string& path) {
+std::unique_ptr<host::ScratchFile> rearrangeAsPlainMp4(const std::string& path) {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(path, ignored)) {
-        return false; // never replace a device or pipe by a regular file
+        return nullptr; // never replace a device or pipe by a regular file
     }
-    const CopyFile copy(path + ".plain");
     try {
-        copyPlain(path, copy.path());
-        copy.replace(path);
-        return true;
+        auto copy = std::make_unique<host::ScratchFile>(path);
+        copyPlain(path, copy->path());
+        copy->moveTo(path);
+        return copy;
     } catch (const host::HostError&) {
-        return false;
-    } catch (const std::filesystem::filesystem_error&) {
-        return false;
+        return nullptr;
+    } catch (const std::system_error&) {
+        return nullptr;
     }
 }
 

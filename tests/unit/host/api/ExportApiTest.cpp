@@ -60,7 +60,7 @@ TEST_F(ExportApiTest, aCancelledMovieLeavesWhatStoodThere) {
     CorUtilExportStart();
     EXPECT_EQ(CorUtilExportCancel(), TRUE);
     EXPECT_EQ(folder.read("flight.avi"), "older");
-    EXPECT_FALSE(folder.has("flight.avi.part"));
+    EXPECT_FALSE(folder.hasParts());
     EXPECT_TRUE(host.movies().movies().front().abandoned);
 }
 

@@ -1,6 +1,6 @@
 // What goes wrong while a movie is written.
 #include "host/core/base/HostError.h"
-#include "host/core/base/PartFile.h"
+#include "host/core/files/PartFile.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "tests/unit/host/movie/MovieKind.h"
 #include "tests/unit/host/movie/TestFolder.h"

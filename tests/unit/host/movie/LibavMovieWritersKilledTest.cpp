@@ -1,5 +1,6 @@
 // What is on disk while a movie is being written.
-#include "host/core/base/PartFile.h"
+#include "host/core/files/PartFile.h"
+#include "host/core/files/PartName.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "tests/unit/host/movie/DecodedMovie.h"
 #include "tests/unit/host/movie/MovieKind.h"
@@ -17,6 +18,7 @@ namespace corvane::movie_test {
 namespace {
 
 using testing::ElementsAre;
+using testing::Truly;
 
 constexpr int width = 320;
 constexpr int height = 240;
@@ -62,12 +64,12 @@ TEST_P(KilledWriterOfAnyKindDeathTest, leavesWhatWasWrittenAndTheMovieThatWasThe
             writeUntilKilled(movieRequest(GetParam(), part.path(), width, height, 10.0), 50);
         },
         testing::KilledBySignal(SIGKILL), "");
-    EXPECT_THAT(m_folder.names(), ElementsAre("movie", "movie.part"));
+    ASSERT_THAT(m_folder.names(), ElementsAre("movie", Truly(host::isPartName)));
     std::string content;
     std::ifstream(path) >> content;
     EXPECT_EQ(content, "older");
 
-    const DecodedMovie movie(m_folder.path("movie.part"), MovieEnd::CutOff);
+    const DecodedMovie movie(m_folder.path(m_folder.names().back()), MovieEnd::CutOff);
     const auto pictures = movie.pictures();
     ASSERT_GE(pictures.size(), 20U);
     EXPECT_LE(pictures.size(), 50U);

@@ -99,9 +99,10 @@ TEST_F(MacroPlayerTest, recordsAMacroThatIsPlayedLineByLine) {
 
 TEST_F(MacroPlayerTest, aMacroFileIsWrittenWholeOrNotAtAll) {
     const test::TempFolder folder;
-    writeMacro({"$!REDRAW", "$!VIEW FIT"}, folder.file("a.mcr"));
+    const auto tellNobody = [](const std::string&) {};
+    writeMacro({"$!REDRAW", "$!VIEW FIT"}, folder.file("a.mcr"), tellNobody);
     EXPECT_EQ(folder.read("a.mcr"), "$!REDRAW\n$!VIEW FIT\n");
-    EXPECT_THROW(writeMacro({"$!REDRAW"}, folder.file("none/a.mcr")), HostError);
+    EXPECT_THROW(writeMacro({"$!REDRAW"}, folder.file("none/a.mcr"), tellNobody), HostError);
     EXPECT_THAT(folder.names(), ElementsAre("a.mcr"));
 }
 

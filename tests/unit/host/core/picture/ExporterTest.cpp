@@ -3,6 +3,8 @@
 
 #include "host/core/addons/Locks.h"
 #include "host/core/base/HostError.h"
+#include "host/core/files/InputFiles.h"
+#include "host/core/files/PartName.h"
 #include "host/core/page/Page.h"
 #include "host/core/picture/Drawing.h"
 #include "host/core/picture/ExportSetup.h"
@@ -15,6 +17,8 @@
 
 #include <exception>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace corvane::host {
 namespace {
@@ -48,13 +52,16 @@ protected:
     }
 
     test::TempFolder folder;
+    const std::string part = PartName("movie.avi", 255).numbered(1);
     Page page;
     Locks locks;
     ExportSetup setup;
     test::MemoryRenderer renderer;
     test::MemoryMovies movies;
     Drawing drawing{page, locks, renderer, nullptr, nullptr};
-    Exporter exporter{page, setup, drawing, renderer, movies};
+    std::vector<std::string> told;
+    Exporter exporter{page,     setup,  drawing,
+                      renderer, movies, [this](const std::string& note) { told.push_back(note); }};
 };
 
 TEST_F(ExporterTest, recordsTheCurrentPictureFirstAndOneForEachCall) {
@@ -84,7 +91,7 @@ TEST_F(ExporterTest, handsTheSetupToTheWriter) {
     setup.flashCompressionType = FlashCompressionType_SmallestSize;
     ASSERT_TRUE(exporter.start());
     const MovieRequest& request = movie().request;
-    EXPECT_EQ(request.path, folder.file("movie.avi.part"));
+    EXPECT_EQ(request.path, folder.file(part));
     EXPECT_EQ(request.format, ExportFormat_FlashSWF);
     EXPECT_EQ(request.width, 40);
     EXPECT_EQ(request.height, 30);
@@ -190,9 +197,22 @@ TEST_F(ExporterTest, aWriterThatCannotBeOpenedLeavesNothing) {
 }
 
 TEST_F(ExporterTest, aWriterThatCannotBeOpenedIsToldWithTheNameOfTheDestination) {
-    movies.failOpen("The movie \"" + folder.file("movie.avi.part") + "\" has no encoder.");
+    movies.failOpen("The movie \"" + folder.file(part) + "\" has no encoder.");
     EXPECT_FALSE(exporter.start());
     EXPECT_EQ(exporter.failure(), "The movie \"" + folder.file("movie.avi") + "\" has no encoder.");
+}
+
+TEST_F(ExporterTest, whatAKilledRunHasLeftIsRemovedAndTold) {
+    folder.write(part, "left");
+    ASSERT_TRUE(exporter.start());
+    EXPECT_THAT(told, ElementsAre(HasSubstr("Removed " + part)));
+    EXPECT_TRUE(exporter.finish());
+    EXPECT_THAT(folder.names(), ElementsAre("movie.avi"));
+}
+
+TEST_F(ExporterTest, aFileThatIsReadIsRefused) {
+    inputFiles().add(folder.file("movie.avi"));
+    expectRefused("this run reads that file");
 }
 
 TEST_F(ExporterTest, aFirstPictureThatCannotBeDrawnLeavesNothing) {
@@ -262,7 +282,7 @@ TEST_F(ExporterTest, aMovieThatCannotTakeItsPlaceLeavesNothing) {
 
 TEST_F(ExporterTest, cancelClosesTheWriterAndRemovesThePart) {
     ASSERT_TRUE(exporter.start());
-    EXPECT_THAT(folder.names(), ElementsAre("movie.avi", "movie.avi.part"));
+    EXPECT_THAT(folder.names(), ElementsAre("movie.avi", part));
     EXPECT_TRUE(exporter.cancel());
     EXPECT_TRUE(movie().abandoned);
     EXPECT_FALSE(exporter.hasFailed());
@@ -287,7 +307,7 @@ TEST_F(ExporterTest, aNewMovieForgetsTheFailureOfTheLast) {
 
 TEST_F(ExporterTest, itsEndRemovesAMovieThatIsNotComplete) {
     {
-        Exporter other(page, setup, drawing, renderer, movies);
+        Exporter other(page, setup, drawing, renderer, movies, {});
         ASSERT_TRUE(other.start());
     }
     EXPECT_TRUE(movie().abandoned);

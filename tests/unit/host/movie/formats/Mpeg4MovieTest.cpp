@@ -1,4 +1,6 @@
 // Movies written and decoded again by a program that is not ours.
+#include "host/core/files/Leftovers.h"
+#include "host/core/files/PartFile.h"
 #include "host/movie/LibavMovieWriters.h"
 #include "tests/unit/host/movie/DecodedMovie.h"
 #include "tests/unit/host/movie/TestFolder.h"
@@ -110,6 +112,20 @@ TEST(Mpeg4Movie, keepsTheOrderOfPictures) {
     for (std::size_t n = 1; n < originals.size(); ++n) {
         EXPECT_GT(psnr(pictures[n], originals[n]), psnr(pictures[n], originals[n - 1]) + 3.0);
     }
+}
+
+TEST(Mpeg4Movie, isNoLeftOverBetweenItsEndAndItsName) {
+    const TestFolder folder;
+    const std::string path = folder.path("movie.mp4");
+    host::PartFile part(path);
+    movie::LibavMovieWriters writers;
+    const auto writer = writers.open(movieRequest(part.path(), 64, 48));
+    writer->add(movingPicture(64, 48, 0));
+    writer->finish();
+    EXPECT_THAT(host::removeLeftovers(path), testing::IsEmpty());
+    part.commit();
+    EXPECT_THAT(folder.names(), ElementsAre("movie.mp4"));
+    EXPECT_EQ(DecodedMovie(path).frames, 1);
 }
 
 TEST(Mpeg4Movie, givesTheSamePicturesOneByOne) {
