@@ -29,18 +29,20 @@ bool isOwn(const std::string& library) {
 
 } // namespace
 
-void loadAddOns(host::Session& session, const Options& options,
+bool loadAddOns(host::Session& session, const Options& options,
                 const std::function<void(const std::string&)>& tell) {
+    bool haveStarted = true;
     if (std::none_of(options.addOns.begin(), options.addOns.end(), isOwn)) {
         try {
-            host::loadAddOn(session, ownLibrary());
+            haveStarted = host::loadAddOn(session, ownLibrary());
         } catch (const std::exception& error) {
             tell(host::messageOf(error));
         }
     }
     for (const std::string& library : options.addOns) {
-        host::loadAddOn(session, library);
+        haveStarted = host::loadAddOn(session, library) && haveStarted;
     }
+    return haveStarted;
 }
 
 } // namespace corvane::app

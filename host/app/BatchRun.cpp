@@ -76,6 +76,7 @@ private:
     TerminalStatus m_status;
     BatchPrompts m_prompts;
     std::unique_ptr<TraceFile> m_trace;
+    bool m_haveAddOnsStarted = true;
     host::Host m_host;
 };
 
@@ -83,7 +84,8 @@ ExitCode BatchRun::run() {
     const ExitCode code = outcomeOf(&BatchRun::work);
     m_host.session().quit();
     // The trace of a run that failed is of use, too.
-    return std::max(code, outcomeOf(&BatchRun::finishTrace));
+    const ExitCode ofTrace = outcomeOf(&BatchRun::finishTrace);
+    return std::max({code, ofTrace, m_haveAddOnsStarted ? ExitDone : ExitFailed});
 }
 
 ExitCode BatchRun::outcomeOf(void (BatchRun::*step)()) {
@@ -98,7 +100,7 @@ ExitCode BatchRun::outcomeOf(void (BatchRun::*step)()) {
 void BatchRun::work() {
     traceCalls();
     setUpPage();
-    loadAddOns(m_host.session(), m_options, say);
+    m_haveAddOnsStarted = loadAddOns(m_host.session(), m_options, say);
     startRecording();
     openData();
     m_host.macros().stopWhen(isStopSignalled);

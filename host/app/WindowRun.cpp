@@ -121,6 +121,7 @@ private:
     movie::LibavMovieWriters m_movies;
     movie::PngFiles m_pictures;
     std::unique_ptr<TraceFile> m_trace;
+    bool m_haveAddOnsStarted = true;
     gui::WindowedHost m_windowedHost;
     std::unique_ptr<QSocketNotifier> m_stopSignal;
     DisplayLoss m_displayLoss{[this] { rescue(); }};
@@ -129,7 +130,7 @@ private:
 void WindowRun::start() {
     watchSignals();
     traceCalls();
-    loadAddOns(m_windowedHost.host().session(), m_options, say);
+    m_haveAddOnsStarted = loadAddOns(m_windowedHost.host().session(), m_options, say);
     if (!m_options.record.empty()) {
         host::expectWritable(m_options.record, say);
     }
@@ -165,7 +166,10 @@ ExitCode WindowRun::end() {
     if (m_trace) {
         m_trace->finish();
     }
-    return isStopSignalled() ? ExitStopped : ExitDone;
+    if (isStopSignalled()) {
+        return ExitStopped;
+    }
+    return m_haveAddOnsStarted ? ExitDone : ExitFailed;
 }
 
 void WindowRun::writeRecorded() {

@@ -1,4 +1,5 @@
 // corvane: shows 3D simulation results, and flies a camera through them.
+#include "host/app/AddOnExit.h"
 #include "host/app/BatchRun.h"
 #include "host/app/Messages.h"
 #include "host/app/Options.h"
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
     settleIn();
     const host::ProcessServer server; // while there are no threads
     surviveFailedWrites();
+    distrustExitOfAddOns();
     try {
         return run(parseCommandLine(argc, argv, scene::DataReaders().formats()));
     } catch (const PrintAndExit& text) {

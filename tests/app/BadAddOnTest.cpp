@@ -57,6 +57,23 @@ TEST_F(BadAddOnTest, stopsTheMacroWithWhatItThrew) {
     EXPECT_EQ(perform({"throw a number"}).exitCode, 1);
 }
 
+TEST_F(BadAddOnTest, doesNotEndTheRunAsIfAllWereDone) {
+    const ProgramResult result = perform({"exit"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("corvane: An add-on ended the program: exit() was called "
+                                         "in the command \"Bad Add-On\" of BadAddOn.so"));
+}
+
+TEST_F(BadAddOnTest, thatFailsToStartDoesNotEndTheRunButCounts) {
+    const std::string throwing = builtFile("tests/libraries/Throwing.so");
+    folder.write("picture.mcr", "$!PICTURE \"" + folder.file("made.png") + "\"\n");
+    const ProgramResult result =
+        runProgram({"--batch", "--add-on", throwing, "--macro", folder.file("picture.mcr")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("failed when it started"));
+    EXPECT_TRUE(folder.has("made.png"));
+}
+
 TEST_F(BadAddOnTest, mayHandOverTextsThatAreNotTheHosts) {
     const ProgramResult result = perform({"hand over a message of its own"});
     EXPECT_EQ(result.exitCode, 1);

@@ -6,6 +6,7 @@
 #include "host/core/picture/Drawing.h"
 
 #include <exception>
+#include <utility>
 
 namespace corvane::host {
 
@@ -20,9 +21,28 @@ std::string fromTo(int now, int before) {
     return std::to_string(before) + " before, " + std::to_string(now) + " after";
 }
 
+const std::string* innermostCall = nullptr;
+
+/// Add-ons call the host, which may call add-ons again.
+class Underway {
+public:
+    explicit Underway(const std::string& what) : m_outer(std::exchange(innermostCall, &what)) {}
+    ~Underway() { innermostCall = m_outer; }
+    Underway(const Underway&) = delete;
+    Underway& operator=(const Underway&) = delete;
+
+private:
+    const std::string* m_outer;
+};
+
 } // namespace
 
+std::string addOnCallUnderway() {
+    return innermostCall == nullptr ? std::string() : *innermostCall;
+}
+
 std::string AddOnCallGuard::call(const std::string& what, const std::function<void()>& work) {
+    const Underway underway(what);
     const State before = state();
     std::string error;
     try {

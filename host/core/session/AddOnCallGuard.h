@@ -12,6 +12,10 @@ class CallTrace;
 class Controls;
 class Drawing;
 
+/// Which call into an add-on the process is in, as it was called for the trace; empty when in none.
+/// Tells at the end of the process whether an add-on ended it.
+std::string addOnCallUnderway();
+
 /// Whatever an add-on throws ends here, and what it leaves behind is put back: locks and suspended
 /// drawing are afterwards what they were before, so that one careless call does not leave the
 /// picture frozen for good. The trace is told of all that. One lock may stay behind for each modal

@@ -4,6 +4,7 @@
 #include "host/core/addons/AddOnCaller.h"
 #include "host/core/base/HostError.h"
 #include "host/core/files/InputFiles.h"
+#include "host/core/session/LibraryTrial.h"
 #include "host/core/session/Session.h"
 
 #include <dlfcn.h>
@@ -55,6 +56,9 @@ using Library = std::unique_ptr<void, int (*)(void*)>;
 
 Library open(const std::string& library) {
     refusePipesAndDevices(library);
+    if (const std::string harm = harmOfLoading(loaderPath(library)); !harm.empty()) {
+        throw cannotLoad(library, harm + "; it is damaged or made for something else.");
+    }
     Library handle(::dlopen(loaderPath(library).c_str(), RTLD_NOW | RTLD_LOCAL), &::dlclose);
     if (!handle) {
         throw cannotLoad(library, loaderError() + ".");
@@ -65,7 +69,7 @@ Library open(const std::string& library) {
 
 } // namespace
 
-void loadAddOn(Session& session, const std::string& library) {
+bool loadAddOn(Session& session, const std::string& library) {
     Library handle = open(library);
     const auto start = reinterpret_cast<EntryPoint>(::dlsym(handle.get(), entryPoint));
     if (start == nullptr) {
@@ -81,6 +85,7 @@ void loadAddOn(Session& session, const std::string& library) {
     if (!error.empty()) {
         session.prompts().showError("The add-on " + library + " failed when it started: " + error);
     }
+    return error.empty();
 }
 
 } // namespace corvane::host

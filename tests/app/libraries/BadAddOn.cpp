@@ -104,6 +104,10 @@ void listenBadly() {
     CorUtilStateChangeAddListener(StateChangeMode_Synchronous, &throwInAListener, &ears);
 }
 
+void exitAsIfAllWereWell() {
+    std::exit(EXIT_SUCCESS);
+}
+
 const std::map<std::string, std::function<void()>>& deeds() {
     static const std::map<std::string, std::function<void()>> all{
         {"throw an exception", throwAnException},
@@ -118,6 +122,7 @@ const std::map<std::string, std::function<void()>>& deeds() {
         {"call from a thread", callFromAThread},
         {"use an id of nobody", useAnIdOfNobody},
         {"listen badly", listenBadly},
+        {"exit", exitAsIfAllWereWell},
     };
     return all;
 }

@@ -74,6 +74,27 @@ TEST_F(AddOnLoaderTest, loadsALibraryOnce) {
     EXPECT_EQ(session.addOns().all().size(), 1U);
 }
 
+TEST_F(AddOnLoaderTest, survivesLibrariesThatEndTheProgram) {
+    for (const char* name : {"AbortingEarly", "ThrowingEarly"}) {
+        EXPECT_THAT(failureOf(library(name)),
+                    AllOf(HasSubstr(name), HasSubstr("loading it ends a program with a signal")));
+    }
+    EXPECT_THAT(failureOf(library("ExitingEarly")), HasSubstr("it ends a program that loads it"));
+}
+
+// The loader maps what is not there, and finds out by a signal.
+TEST_F(AddOnLoaderTest, survivesALibraryThatIsCutOff) {
+    const test::TempFolder folder;
+    const std::string cut = folder.file("Cut.so");
+    const std::uintmax_t whole = std::filesystem::file_size(library("WellBehaved"));
+    for (std::uintmax_t part = 1; part < 8; ++part) {
+        std::filesystem::copy_file(library("WellBehaved"), cut,
+                                   std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::resize_file(cut, whole * part / 8);
+        EXPECT_THAT(failureOf(cut), HasSubstr("Cannot load the add-on " + cut)) << part;
+    }
+}
+
 TEST_F(AddOnLoaderTest, aBareNameMeansAFileHere) {
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(test::builtFile("tests/libraries"));
