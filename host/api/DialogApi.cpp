@@ -3,6 +3,7 @@
 
 #include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
+#include "host/core/files/InputFiles.h"
 #include "hostapi/CorMemory.h"
 
 #include <cstring>
@@ -63,9 +64,13 @@ CorBool CorUtilDialogGetFileName(SelectFileOption_e option, char** fileName,
         const std::optional<std::string> chosen =
             session.prompts().askFileName(option == SelectFile_Write, textOf(fileTypeName),
                                           textOf(defaultFileName), textOf(filter));
-        if (chosen) {
-            *fileName = copyForAddOn(*chosen);
+        if (!chosen) {
+            return false;
         }
+        if (option != SelectFile_Write) {
+            inputFiles().add(*chosen);
+        }
+        *fileName = copyForAddOn(*chosen);
         return *fileName != nullptr;
     });
 }

@@ -4,6 +4,7 @@
 #include "host/app/AddOnLibraries.h"
 #include "host/app/BatchPrompts.h"
 #include "host/app/Flight.h"
+#include "host/app/Inputs.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/Signals.h"
@@ -179,6 +180,7 @@ ExitCode BatchRun::failed(const std::string& message) {
 
 ExitCode runBatch(const Options& options) {
     watchStopSignals();
+    noteInputs(options);
     try {
         return BatchRun(options).run();
     } catch (const std::exception& error) {

@@ -1,6 +1,7 @@
 #include "host/app/WindowRun.h"
 
 #include "host/app/AddOnLibraries.h"
+#include "host/app/Inputs.h"
 #include "host/app/MemoryLimits.h"
 #include "host/app/Messages.h"
 #include "host/app/Signals.h"
@@ -214,6 +215,7 @@ ExitCode runWindow(const Options& options) {
     QApplication qt(count, arguments);
     start.reset();
     nameProgram();
+    noteInputs(options);
     try {
         WindowRun run(options);
         run.start();

@@ -3,9 +3,11 @@
 
 #include "host/core/addons/AddOnCaller.h"
 #include "host/core/base/HostError.h"
+#include "host/core/files/InputFiles.h"
 #include "host/core/session/Session.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <filesystem>
 #include <utility>
@@ -34,14 +36,30 @@ std::string loaderPath(const std::string& library) {
     return isHere ? "./" + library : library;
 }
 
+/// The loader would wait for whoever writes to a pipe.
+void refusePipesAndDevices(const std::string& library) {
+    std::error_code error;
+    if (std::filesystem::is_other(library, error)) {
+        throw cannotLoad(library, "it is not a regular file.");
+    }
+}
+
+/// Where the loader has found it.
+std::string placeOf(void* handle, const std::string& library) {
+    const link_map* place = nullptr;
+    return ::dlinfo(handle, RTLD_DI_LINKMAP, &place) == 0 ? place->l_name : library;
+}
+
 /// Closes the library again unless it was taken.
 using Library = std::unique_ptr<void, int (*)(void*)>;
 
 Library open(const std::string& library) {
+    refusePipesAndDevices(library);
     Library handle(::dlopen(loaderPath(library).c_str(), RTLD_NOW | RTLD_LOCAL), &::dlclose);
     if (!handle) {
         throw cannotLoad(library, loaderError() + ".");
     }
+    inputFiles().add(placeOf(handle.get(), library));
     return handle;
 }
 

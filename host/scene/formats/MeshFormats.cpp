@@ -1,6 +1,7 @@
 #include "host/scene/formats/MeshFormats.h"
 
 #include "host/core/base/Text.h"
+#include "host/core/files/InputFiles.h"
 #include "host/scene/formats/CgnsFile.h"
 #include "host/scene/formats/ExodusFile.h"
 #include "host/scene/formats/OpenFoamFile.h"
@@ -109,6 +110,7 @@ const std::vector<MeshFormat>& meshFormats() {
 }
 
 const MeshFormat& formatOf(const std::string& path) {
+    host::inputFiles().add(path);
     const MeshFormat* const byName = formatByName(path);
     if (byName == nullptr || !byName->mayBeEmpty || !isEmptyFile(path)) {
         checkReadable(path);

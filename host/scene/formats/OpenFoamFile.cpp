@@ -1,6 +1,7 @@
 #include "host/scene/formats/OpenFoamFile.h"
 
 #include "host/core/base/Text.h"
+#include "host/core/files/InputFiles.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellData.h>
@@ -28,6 +29,42 @@ std::ptrdiff_t countTimes(const fs::path& folder) {
     std::error_code error;
     const fs::directory_iterator entries(folder, error);
     return std::count_if(begin(entries), end(entries), isTimeFolder);
+}
+
+bool isRead(const fs::directory_entry& entry) {
+    const std::string name = entry.path().filename().string();
+    return entry.is_directory() && (name == "constant" || name == "system" ||
+                                    name.starts_with("processor") || isTimeFolder(entry));
+}
+
+/// VTK's reader would wait for whoever writes to a pipe.
+void refusePipesIn(const fs::path& folder) {
+    constexpr int deepest = 8; // links may lead in circles
+    constexpr auto options = fs::directory_options::follow_directory_symlink |
+                             fs::directory_options::skip_permission_denied;
+    std::error_code error;
+    for (fs::recursive_directory_iterator entry(folder, options, error), end;
+         !error && entry != end; entry.increment(error)) {
+        std::error_code ignored;
+        if (entry->is_other(ignored)) {
+            throw ReadFailure("its case has " + entry->path().string() +
+                              ", which is not a regular file");
+        }
+        if (entry.depth() == deepest) {
+            entry.disable_recursion_pending();
+        }
+    }
+}
+
+/// The reader looks at all files of these folders.
+void checkCase(const fs::path& folder) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+        if (isRead(entry)) {
+            host::inputFiles().add(entry.path().string());
+            refusePipesIn(entry.path());
+        }
+    }
 }
 
 /// Leaves out groups of patches, since each of their patches is a part of its own.
@@ -70,6 +107,8 @@ vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
     if (!fs::is_directory(constant)) {
         throw ReadFailure("no OpenFOAM case is around it: there is no folder " + constant.string());
     }
+
+    std::call_once(m_checked, [&folder] { checkCase(folder); });
 
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
     const vtkNew<vtkDummyController> controller;

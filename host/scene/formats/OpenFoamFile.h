@@ -3,6 +3,8 @@
 
 #include "host/scene/mesh/TimedMeshFile.h"
 
+#include <mutex>
+
 namespace corvane::scene {
 
 /// The folder that contains the file is the case; the file itself only marks it, and is usually
@@ -20,6 +22,9 @@ protected:
     vtkSmartPointer<vtkAlgorithm> openReader() const override;
     std::vector<MeshPart> partsOf(vtkAlgorithm& reader) const override;
     bool mayMissVariables(double time) const override;
+
+private:
+    mutable std::once_flag m_checked;
 };
 
 } // namespace corvane::scene

@@ -65,13 +65,15 @@ PvdPart::Step stepOf(vtkXMLDataElement& entry, const std::string& path) {
     return step;
 }
 
-void checkFilesExist(const std::vector<PvdPart>& parts) {
+void checkFiles(const std::vector<PvdPart>& parts, const std::string& list) {
     std::string firstMissing;
     int missing = 0;
     for (const auto& part : parts) {
         for (const auto& step : part.steps) {
-            if (!std::filesystem::exists(step.path) && missing++ == 0) {
-                firstMissing = step.path;
+            if (!std::filesystem::exists(step.path)) {
+                firstMissing = missing++ == 0 ? step.path : firstMissing;
+            } else if (std::filesystem::equivalent(step.path, list)) {
+                throw ReadFailure("it names itself as one of its files");
             }
         }
     }
@@ -120,7 +122,7 @@ std::vector<PvdPart> readList(const std::string& path) {
         }
         parts[found->second].steps.push_back(stepOf(*entry, path));
     }
-    checkFilesExist(parts);
+    checkFiles(parts, path);
     for (std::size_t i = 0; i < parts.size(); ++i) {
         parts[i].name = nameOf(parts[i].name, keys[i], path, parts.size());
         sortSteps(parts[i].steps);

@@ -1,5 +1,6 @@
 #include "host/scene/formats/VtkFiles.h"
 
+#include "host/scene/formats/NamedFilesCheck.h"
 #include "host/scene/formats/ParallelXmlCheck.h"
 
 #include <vtkDataSetAttributes.h>
@@ -24,6 +25,7 @@ vtkSmartPointer<vtkDataObject> outputOf(Reader& reader, const std::string& path)
 } // namespace
 
 vtkSmartPointer<vtkDataObject> VtkXmlFile::readObject() const {
+    checkNamedFiles(path());
     checkParallelXml(path());
     const vtkNew<vtkXMLGenericDataObjectReader> reader;
     return outputOf(*reader, path());

@@ -56,6 +56,10 @@ void checkReadable(const std::string& path) {
     if (std::filesystem::is_directory(status)) {
         throw readError(path, "it is a folder");
     }
+    // A pipe may have nobody who writes to it, and a device no end.
+    if (!std::filesystem::is_regular_file(status)) {
+        throw readError(path, "it is not a regular file");
+    }
     errno = 0;
     std::ifstream stream(path, std::ios::binary);
     if (!stream) {

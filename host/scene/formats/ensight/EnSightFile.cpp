@@ -1,5 +1,6 @@
 #include "host/scene/formats/ensight/EnSightFile.h"
 
+#include "host/core/files/InputFiles.h"
 #include "host/scene/formats/ensight/EnSightCase.h"
 #include "host/scene/formats/ensight/EnSightGeometry.h"
 #include "host/scene/formats/ensight/EnSightValues.h"
@@ -19,6 +20,7 @@ auto aboutFile(const std::string& path, const Work& work) {
     if (!std::filesystem::is_regular_file(path, error)) {
         throw ReadFailure("it names " + path + ", which is no file");
     }
+    host::inputFiles().add(path);
     try {
         return work();
     } catch (const ReadFailure& failure) {

@@ -1,6 +1,8 @@
 // Messages, questions, file names, help.
+#include "host/core/files/InputFiles.h"
 #include "hostapi/CorHost.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/TempFolder.h"
 
 namespace corvane::test {
 namespace {
@@ -44,6 +46,17 @@ TEST_F(DialogApiTest, aFileNameBelongsToTheCaller) {
     CorUtilStringDealloc(&fileName);
     EXPECT_THAT(host.prompts().shown(),
                 ElementsAre(ShownDialog{Kind::FileToWrite, "Movie", "/tmp/f.mp4", "*.mp4"}));
+}
+
+TEST_F(DialogApiTest, aFileToReadIsAnInputOfTheProcess) {
+    const TempFolder folder;
+    for (const SelectFileOption_e option : {SelectFile_Read, SelectFile_Write}) {
+        const std::string file = folder.file(std::to_string(option));
+        host.prompts().answerFile(file);
+        EXPECT_EQ(CorUtilDialogGetFileName(option, &fileName, "a", "b", "c"), TRUE);
+        EXPECT_EQ(host::inputFiles().contains(file), option == SelectFile_Read);
+        CorUtilStringDealloc(&fileName);
+    }
 }
 
 TEST_F(DialogApiTest, otherOptionsThanWriteRead) {

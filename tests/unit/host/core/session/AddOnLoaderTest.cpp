@@ -1,6 +1,7 @@
 // Tests of loading the libraries of add-ons.
 #include "host/core/session/AddOnLoader.h"
 
+#include "host/core/files/InputFiles.h"
 #include "tests/support/Folders.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/TempFolder.h"
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -50,6 +52,20 @@ TEST_F(AddOnLoaderTest, loadsALibraryAndCallsItsEntryPoint) {
     ASSERT_EQ(session.addOns().all().size(), 1U);
     EXPECT_EQ(session.addOns().all()[0]->name, "Well behaved");
     EXPECT_TRUE(isLoaded(library("WellBehaved")));
+}
+
+TEST_F(AddOnLoaderTest, whatIsLoadedIsAnInputOfTheProcess) {
+    loadAddOn(session, library("WellBehaved"));
+    EXPECT_TRUE(inputFiles().contains(library("WellBehaved")));
+}
+
+TEST_F(AddOnLoaderTest, refusesPipesAndDevices) {
+    const test::TempFolder folder;
+    ASSERT_EQ(::mkfifo(folder.file("pipe.so").c_str(), 0600), 0);
+    for (const std::string& file : {folder.file("pipe.so"), std::string("/dev/zero")}) {
+        EXPECT_EQ(failureOf(file),
+                  "Cannot load the add-on " + file + ": it is not a regular file.");
+    }
 }
 
 TEST_F(AddOnLoaderTest, loadsALibraryOnce) {

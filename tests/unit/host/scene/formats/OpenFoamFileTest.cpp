@@ -4,6 +4,7 @@
 #include "tests/unit/host/scene/formats/SampleBox.h"
 
 #include "host/core/base/HostError.h"
+#include "host/core/files/InputFiles.h"
 #include "host/scene/formats/MeshFormats.h"
 #include "host/scene/geometry/Geometry.h"
 
@@ -11,6 +12,7 @@
 #include <vtkPointData.h>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 namespace corvane::test {
 
@@ -30,6 +32,26 @@ TEST_F(OpenFoamFileTest, blocksAreTheInsideAndThePatches) {
     EXPECT_THAT(timesOfBlock(*data, "case/walls"), ElementsAre(0.0, 0.25, 1.5));
     EXPECT_EQ(data->bounds.min, (host::Vec3{0.0, 0.0, 0.0}));
     EXPECT_EQ(data->bounds.max, (host::Vec3{2.0, 2.0, 2.0}));
+}
+
+TEST_F(OpenFoamFileTest, pipesInTheCaseAreRefused) {
+    for (const char* name : {"0.25/T", "constant/polyMesh/zones"}) {
+        const TempFolder caseFolder;
+        const std::string file = writeFoamBox(caseFolder.path());
+        const std::string pipe = caseFolder.file(name);
+        ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+        EXPECT_EQ(errorOf(file), file + " cannot be read: its case has " + pipe +
+                                     ", which is not a regular file.");
+    }
+}
+
+TEST_F(OpenFoamFileTest, theFilesOfTheCaseAreInputs) {
+    const std::string marker = writeFoamBox(folder.path());
+    reader.read({marker});
+    EXPECT_TRUE(host::inputFiles().contains(marker));
+    EXPECT_TRUE(host::inputFiles().contains(folder.file("1.5/p")));
+    EXPECT_TRUE(host::inputFiles().contains(folder.file("constant/polyMesh/faces")));
+    EXPECT_FALSE(host::inputFiles().contains(folder.write("movie.avi", "")));
 }
 
 TEST_F(OpenFoamFileTest, variablesAreKnownThoughTheFirstTimeLacksThem) {

@@ -1,5 +1,7 @@
 // Lists of files through time.
 #include "host/scene/formats/PvdFile.h"
+#include "host/core/base/HostError.h"
+#include "host/core/files/InputFiles.h"
 #include "host/scene/DataReaders.h"
 #include "host/scene/data/SceneDataSet.h"
 #include "tests/support/TempFolder.h"
@@ -12,6 +14,7 @@
 #include <vtkPointData.h>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace corvane::test {
 
@@ -49,6 +52,39 @@ TEST(Pvd, namelessPartsAreNumbered) {
     ASSERT_EQ(parts.size(), 2U);
     EXPECT_EQ(parts[0].name, "list 0");
     EXPECT_EQ(parts[1].name, "list 7");
+}
+
+TEST(Pvd, aListThatNamesItselfIsRefused) {
+    const TempFolder folder;
+    const std::string list = writePvd(
+        folder, "list.pvd", {{0.0, 0, "../" + folder.path().filename().string() + "/list.pvd"}});
+    try {
+        scene::readPvd(list);
+        FAIL();
+    } catch (const host::HostError& error) {
+        EXPECT_EQ(error.what(), list + " cannot be read: it names itself as one of its files.");
+    }
+}
+
+TEST(Pvd, aPipeInAListIsRefused) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.file("a.vtu").c_str(), 0600), 0);
+    const std::string list = writePvd(folder, "list.pvd", {{0.0, 0, "a.vtu"}});
+    try {
+        scene::DataReaders().read({list});
+        FAIL();
+    } catch (const host::HostError& error) {
+        EXPECT_EQ(error.what(),
+                  folder.file("a.vtu") + " cannot be read: it is not a regular file.");
+    }
+}
+
+TEST(Pvd, listsAndTheirFilesAreInputs) {
+    const TempFolder folder;
+    scene::DataReaders().read({writeSeries(folder, 3)});
+    for (const char* name : {"series.pvd", "flow_0.vtu", "flow_2.vtu", "body.vtp"}) {
+        EXPECT_TRUE(host::inputFiles().contains(folder.file(name))) << name;
+    }
 }
 
 TEST(Pvd, absoluteFileNames) {

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <vtkNew.h>
 
 namespace corvane::test {
@@ -53,6 +54,16 @@ TEST(ReadError, folder) {
     std::filesystem::create_directory(folder.path() / "a.vtu");
     EXPECT_EQ(errorOf(folder.file("a.vtu")),
               folder.file("a.vtu") + " cannot be read: it is a folder.");
+}
+
+TEST(ReadError, pipesAndDevices) {
+    const TempFolder folder;
+    for (const char* name : {"a.vtu", "a.vtk", "a.stl", "a.pvd", "a.foam", "a.case", "a.e", "a"}) {
+        const std::string path = folder.file(name);
+        ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+        EXPECT_EQ(errorOf(path), path + " cannot be read: it is not a regular file.");
+    }
+    EXPECT_EQ(errorOf("/dev/zero"), "/dev/zero cannot be read: it is not a regular file.");
 }
 
 TEST(ReadError, emptyFile) {
