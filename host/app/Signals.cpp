@@ -10,23 +10,40 @@
 namespace corvane::app {
 namespace {
 
-volatile std::sig_atomic_t signalled = 0;
-volatile std::sig_atomic_t bell = -1; // the end of a pipe at which an event loop listens
+volatile std::sig_atomic_t signalled = 0; // the first signal
+volatile std::sig_atomic_t bell = -1;     // the end of a pipe at which an event loop listens
 
-extern "C" void rememberStop(int) {
+/// A terminal that goes may say so twice: its shell does, and then the system itself.
+bool repeatsHangUp(int signal, const siginfo_t& information) {
+    return signal == SIGHUP && signalled == SIGHUP && information.si_code == SI_KERNEL;
+}
+
+/// As if it had never been watched, once the handler returns.
+void endBy(int signal) {
+    struct sigaction usual {};
+    usual.sa_handler = SIG_DFL;
+    sigaction(signal, &usual, nullptr);
+    raise(signal);
+}
+
+extern "C" void rememberStop(int signal, siginfo_t* information, void*) {
     const int error = errno;
-    signalled = 1;
-    if (bell >= 0) {
-        [[maybe_unused]] const ssize_t count = write(bell, "", 1);
+    if (signalled == 0) {
+        signalled = signal;
+        if (bell >= 0) {
+            [[maybe_unused]] const ssize_t count = write(bell, "", 1);
+        }
+    } else if (!repeatsHangUp(signal, *information)) {
+        endBy(signal);
     }
     errno = error;
 }
 
 /// Reads and writes in progress go on, since the flight unwinds by itself.
-void watch(int signal, unsigned flags) {
+void watch(int signal) {
     struct sigaction action {};
-    action.sa_handler = rememberStop;
-    action.sa_flags = static_cast<int>(SA_RESTART | flags);
+    action.sa_sigaction = rememberStop;
+    action.sa_flags = SA_RESTART | SA_SIGINFO;
     sigaction(signal, &action, nullptr);
 }
 
@@ -43,12 +60,10 @@ void surviveFailedWrites() {
 }
 
 void watchStopSignals() {
-    // Back to the default after the first: whoever presses Ctrl-C twice wants the process gone.
-    watch(SIGINT, SA_RESETHAND);
-    watch(SIGTERM, SA_RESETHAND);
-    // A terminal that goes may say so twice, by itself and by its shell.
+    watch(SIGINT);
+    watch(SIGTERM);
     if (!isIgnored(SIGHUP)) {
-        watch(SIGHUP, 0);
+        watch(SIGHUP);
     }
 }
 

@@ -8,8 +8,8 @@ namespace corvane::app {
 /// which is told and cleaned up after, instead of the end of the process.
 void surviveFailedWrites();
 
-/// From now on SIGINT, SIGTERM and, unless it is ignored as by nohup, SIGHUP are remembered. A
-/// second SIGINT or SIGTERM ends the process at once.
+/// From now on SIGINT, SIGTERM and, unless it is ignored as by nohup, SIGHUP are remembered. The
+/// second one, of whatever kind, ends the process at once.
 void watchStopSignals();
 bool isStopSignalled();
 /// For an event loop: can be read from once such a signal has come. -1 when there is none to be
