@@ -54,6 +54,11 @@ void checkFramesPerSecond(const Options& options) {
     }
 }
 
+/// Of a file, which an empty variable of a script may have stood for.
+std::string complaintAboutName(const std::string& name) {
+    return name.empty() ? "the name of a file is missing" : "";
+}
+
 void checkCombination(const Options& options) {
     if (options.needsWindow()) {
         return;
@@ -97,16 +102,20 @@ Options parseCommandLine(int argc, const char* const* argv,
     std::vector<std::string> settings;
     CLI::App app{"Shows 3D simulation results, and flies a camera smoothly through them.",
                  "corvane"};
+    const CLI::Validator named(complaintAboutName, "");
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
-                   "data files: one data set together (" + extensionsOf(dataFormats) + ")");
-    app.add_option("--macro", options.macro, "play this macro first");
+                   "data files: one data set together (" + extensionsOf(dataFormats) + ")")
+        ->check(named);
+    app.add_option("--macro", options.macro, "play this macro first")->check(named);
     app.add_option("--set", settings, "give a variable of macros a value, ${NAME} there")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
     app.add_flag("--batch", options.batch, "work without a window");
-    app.add_option("--keyframes", options.keyFrames, "the key frame file to fly through");
-    app.add_option("--output", options.output, "the movie to write; its extension is the format");
+    app.add_option("--keyframes", options.keyFrames, "the key frame file to fly through")
+        ->check(named);
+    app.add_option("--output", options.output, "the movie to write; its extension is the format")
+        ->check(named);
     app.add_option(
            "--size", size,
            "size of the picture in pixels (1280x720, or what the macro sets; in a window, what "
@@ -122,9 +131,12 @@ Options parseCommandLine(int argc, const char* const* argv,
     app.add_option("--add-on", options.addOns,
                    "load this library beside Key Frame Animation; may be given several times")
         ->type_name("LIBRARY")
-        ->allow_extra_args(false);
-    app.add_option("--trace", options.trace, "write every call of the add-ons to this file");
-    app.add_option("--record", options.record, "write a macro of all that is done to this file");
+        ->allow_extra_args(false)
+        ->check(named);
+    app.add_option("--trace", options.trace, "write every call of the add-ons to this file")
+        ->check(named);
+    app.add_option("--record", options.record, "write a macro of all that is done to this file")
+        ->check(named);
     app.add_option("--memory", options.memory,
                    "MiB for time steps that are kept (a quarter of the machine's memory); what is "
                    "built from them gets a fourth of it on top")

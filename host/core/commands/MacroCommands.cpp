@@ -73,7 +73,9 @@ const std::vector<MacroCommand>& macroCommands() {
         {"PICTURE",
          {"\"FILE.png\" [Region = CURRENTFRAME | ALLFRAMES | WORKAREA] [Width = N] "
           "[Supersample = N]"},
-         "Writes a picture: of the work area, as wide as it is, unless other values are given. "
+         "Writes a picture, whose name must end in .png: of the work area, as wide as it is, "
+         "unless "
+         "other values are given. "
          "Width is " +
              rangeText(limits::pictureSide) + " pixels; Supersample draws " +
              rangeText(limits::supersampling) + " times larger and filters down.",

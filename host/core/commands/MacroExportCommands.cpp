@@ -4,6 +4,8 @@
 #include "host/core/commands/MacroCommands.h"
 #include "host/core/commands/MacroPlayer.h"
 
+#include <filesystem>
+
 namespace corvane::host {
 
 namespace {
@@ -16,11 +18,21 @@ ExportRegion_e regionFrom(const std::string& text) {
     return static_cast<ExportRegion_e>(std::get<long>(*value));
 }
 
+void expectPictureName(const std::string& fileName) {
+    if (fileName.empty()) {
+        reject("The picture has no file name. Give it one that ends in .png.");
+    }
+    if (!equalIgnoringCase(std::filesystem::path(fileName).extension().string(), ".png")) {
+        reject("Pictures are PNG files, and the name \"" + fileName + "\" does not end in .png.");
+    }
+}
+
 } // namespace
 
 void exportPicture(const MacroCall& call) {
     constexpr const char* form = "\"file\" and settings, name = value";
     expect(!call.words.empty(), form);
+    expectPictureName(call.words[0]);
     ExportRegion_e region = ExportRegion_WorkArea;
     int width = call.session.page().workArea.width;
     int supersample = 1;

@@ -25,7 +25,8 @@ and paths may be written in capitals or not. Numbers have a decimal point in eve
 folder of the macro, except those of movies and of key frame files, which are relative to the folder in which Corvane was
 started.
 
-The first line that fails stops the macro; the message names file and line and tells the cause.
+The first line that fails stops the macro; the message names file and line and tells the cause. Pictures and movies appear
+under their names when they are complete, and never go over data, macros and add-ons that the run reads.
 
 **Macro > Record Macro** in the window, and `--record FILE` with or without one, write down what is done. The recording begins
 with what is there: the size of the pictures, frames, data, styles, views. Played without a window it makes the same pictures

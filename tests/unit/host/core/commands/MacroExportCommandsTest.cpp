@@ -1,5 +1,6 @@
 // Tests of the commands that write pictures and run commands of add-ons, and of the movies that
 // those make.
+#include "host/core/files/PartName.h"
 #include "tests/support/TempFolder.h"
 #include "tests/unit/host/core/commands/MacroTest.h"
 
@@ -32,6 +33,37 @@ TEST_F(MacroExportCommandsTest, writesPictures) {
     EXPECT_EQ(causeOf("$!PICTURE " + quoted(file)), "The disk is full.");
     EXPECT_EQ(folder.read("a b.png"), "1280 x 720") << "the older picture stays";
     EXPECT_THAT(folder.names(), ElementsAre("a b.png"));
+}
+
+TEST_F(MacroExportCommandsTest, picturesNeedANameOfTheirKind) {
+    const test::TempFolder folder;
+    for (const char* name : {"body.vtp", "picture", "picture.png.mcr"}) {
+        const std::string file = folder.write(name, "precious");
+        EXPECT_EQ(causeOf("$!READDATA x\n$!PICTURE " + quoted(file)),
+                  "Pictures are PNG files, and the name \"" + file + "\" does not end in .png.");
+        EXPECT_EQ(folder.read(name), "precious");
+    }
+    EXPECT_EQ(causeOf("$!PICTURE \"\""),
+              "The picture has no file name. Give it one that ends in .png.");
+    play("$!PICTURE " + quoted(folder.file("A.PNG")) + "\n");
+    EXPECT_TRUE(folder.has("A.PNG"));
+}
+
+TEST_F(MacroExportCommandsTest, tellsWhatAKilledRunHasLeftOfAPicture) {
+    const test::TempFolder folder;
+    const std::string part = folder.write(PartName("a.png", 255).numbered(1), "half");
+    play("$!READDATA x\n$!PICTURE " + quoted(folder.file("a.png")) + "\n");
+    EXPECT_THAT(host.told(), ElementsAre(HasSubstr("Removed a.png.")));
+    EXPECT_THAT(folder.names(), ElementsAre("a.png"));
+}
+
+TEST_F(MacroExportCommandsTest, pictureFilesThatFailAreToldByTheirName) {
+    const test::TempFolder folder;
+    const std::string file = folder.file("a.png");
+    const std::string part = folder.file(PartName("a.png", 255).numbered(1));
+    host.pictures().failNext("Cannot write the picture " + part + ": the disk is full.");
+    EXPECT_EQ(causeOf("$!READDATA x\n$!PICTURE " + quoted(file)),
+              "Cannot write the picture " + file + ": the disk is full.");
 }
 
 TEST_F(MacroExportCommandsTest, runsCommandsOfAddOns) {
