@@ -5,8 +5,30 @@
 
 namespace corvane::app {
 
+namespace {
+
+bool isStandardStream(const std::string& fileName) {
+    return fileName == "/dev/stdout" || fileName == "/dev/stderr";
+}
+
+} // namespace
+
 TraceFile::TraceFile(const std::string& fileName, const host::PartFile::Tell& tell)
-    : m_part(fileName, tell), m_file(m_part.path()) {}
+    : m_name(fileName) {
+    if (!isStandardStream(fileName)) {
+        m_part.emplace(fileName, tell);
+    }
+    // Behind what a standard stream that is a file holds already.
+    m_file.open(m_part ? m_part->path() : fileName, std::ios::app);
+    expectSound();
+}
+
+void TraceFile::expectSound() const {
+    if (!m_file) {
+        throw host::HostError("Cannot write the trace " + m_name +
+                              ". Is the disk full, or the file not yours to write to?");
+    }
+}
 
 void TraceFile::attachTo(host::CallTrace& trace) {
     trace.connect(
@@ -17,11 +39,10 @@ void TraceFile::attachTo(host::CallTrace& trace) {
 
 void TraceFile::finish() {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_file) {
-        throw host::HostError("Cannot write the trace " + m_part.destination() +
-                              ". Is the disk full?");
+    expectSound();
+    if (m_part) {
+        m_part->commit();
     }
-    m_part.commit();
 }
 
 // Flushed at once, since the trace is looked at when an add-on has brought the process down.

@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <mutex>
+#include <optional>
 #include <string>
 
 namespace corvane::host {
@@ -14,7 +15,7 @@ class CallTrace;
 namespace corvane::app {
 
 /// It stands under its name when finish() was called. What a run that crashes has left of it can be
-/// read as far as it came.
+/// read as far as it came. "/dev/stdout" and "/dev/stderr" show the lines as they come.
 class TraceFile {
 public:
     /// Throws HostError when the file cannot be written.
@@ -26,10 +27,12 @@ public:
     void finish();
 
 private:
+    void expectSound() const;
     void writeLine(const std::string& line);
 
     std::mutex m_mutex; ///< add-ons may break the rules on any thread
-    host::PartFile m_part;
+    std::string m_name;
+    std::optional<host::PartFile> m_part; ///< none for a standard stream
     std::ofstream m_file;
 };
 

@@ -8,8 +8,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <iostream>
 #include <optional>
 
 namespace corvane::test {
@@ -49,8 +51,34 @@ TEST_F(TraceFileTest, canBeReadWhileItGrows) {
     EXPECT_TRUE(folder.hasParts());
 }
 
+TEST_F(TraceFileTest, tellsAtItsEndThatItIsNotWhole) {
+    open();
+    file->attachTo(trace);
+    // The largest file that this process may write from now on.
+    const rlimit none{0, RLIM_INFINITY};
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &none);
+    trace.misuse("one");
+    setrlimit(RLIMIT_FSIZE, &usual);
+    EXPECT_THROW(file->finish(), host::HostError);
+    file.reset();
+    EXPECT_THAT(folder.names(), testing::IsEmpty());
+}
+
 TEST_F(TraceFileTest, refusesWhatIsNoRegularFile) {
     EXPECT_THROW(app::TraceFile("/dev/null", [](const std::string&) {}), host::HostError);
+}
+
+TEST_F(TraceFileTest, standardStreamsShowItAsItComes) {
+    testing::internal::CaptureStderr();
+    std::cerr << "before" << std::endl;
+    file.emplace("/dev/stderr", [](const std::string&) {});
+    file->attachTo(trace);
+    trace.misuse("one");
+    file->finish();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "before\nmisuse: one\n");
 }
 
 } // namespace
