@@ -145,6 +145,16 @@ TEST_F(Outputs, ofATraceThatIsKilledCanBeRead) {
                 ElementsAre("calls.txt", "flight.avi", "long.keyframe", "short.keyframe"));
 }
 
+TEST_F(Outputs, areDrawnAtTheLargestWidth) {
+    const std::string macro =
+        folder.write("scene.mcr", "$!READDATA \"" + exampleFile("wake/body.vtp") +
+                                      "\"\n$!PICTURE \"wide.png\"\n");
+    const ProgramResult result = runProgram({"--batch", "--macro", macro, "--size", "32766x16"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    // The size stands behind the signature, and the length and kind of the first chunk.
+    EXPECT_EQ(folder.read("wide.png").substr(16, 8), std::string("\0\0\x7F\xFE\0\0\0\x10", 8));
+}
+
 TEST_F(Outputs, ofAFailedRunAreNoneButItsTrace) {
     auto arguments = shortFlightTo("flight.avi");
     arguments[0] = folder.file("missing.vtu");

@@ -3,11 +3,11 @@
 
 #include <sys/types.h>
 
-#include <compare>
 #include <map>
 #include <mutex>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace corvane::host {
 
@@ -22,11 +22,7 @@ public:
     bool contains(const std::string& path) const;
 
 private:
-    struct Identity {
-        dev_t device;
-        ino_t number;
-        auto operator<=>(const Identity&) const = default;
-    };
+    using Identity = std::pair<dev_t, ino_t>;
 
     static bool identify(const std::string& path, Identity& identity);
     bool isOneOfThem(const std::string& path) const;

@@ -3,13 +3,14 @@
 #include "host/core/files/Folder.h"
 #include "host/core/files/PartName.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
-#include <system_error>
+#include <memory>
 
 namespace corvane::host {
 
@@ -44,6 +45,23 @@ private:
     int m_file;
 };
 
+/// Films are made picture by picture, in folders that hold thousands: a path for each of them would
+/// take longer than a picture.
+std::vector<std::string> namesIn(const fs::path& folder, const PartName& name) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), &::closedir);
+    std::vector<std::string> names;
+    while (open != nullptr) {
+        const dirent* const entry = ::readdir(open.get());
+        if (entry == nullptr) {
+            break;
+        }
+        if (name.matches(entry->d_name)) {
+            names.emplace_back(entry->d_name);
+        }
+    }
+    return names;
+}
+
 bool isOwnRegularFile(const fs::path& path) {
     struct stat status {};
     return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
@@ -65,12 +83,9 @@ std::vector<std::string> removeLeftovers(const std::string& destination) {
     const fs::path folder = folderOf(destination);
     const PartName name(fs::path(destination).filename().string(), longestNameIn(folder));
     std::vector<std::string> removed;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string entryName = entry->path().filename().string();
-        if (name.matches(entryName) && removeIfLeft(entry->path())) {
-            removed.push_back(entryName);
+    for (const std::string& found : namesIn(folder, name)) {
+        if (removeIfLeft(folder / found)) {
+            removed.push_back(found);
         }
     }
     return removed;
