@@ -66,7 +66,8 @@ TEST_F(BadAddOnTest, doesNotEndTheRunAsIfAllWereDone) {
 
 TEST_F(BadAddOnTest, thatFailsToStartDoesNotEndTheRunButCounts) {
     const std::string throwing = builtFile("tests/libraries/Throwing.so");
-    folder.write("picture.mcr", "$!PICTURE \"" + folder.file("made.png") + "\"\n");
+    folder.write("picture.mcr", "$!READDATA \"" + exampleFile("wake/body.vtp") +
+                                    "\"\n$!PICTURE \"" + folder.file("made.png") + "\"\n");
     const ProgramResult result =
         runProgram({"--batch", "--add-on", throwing, "--macro", folder.file("picture.mcr")});
     EXPECT_EQ(result.exitCode, 1);

@@ -28,6 +28,9 @@ public:
 
     pid_t pid() const { return m_pid; } ///< -1: it could not be started
 
+    /// Whether this process has made one, which may still have failed to start.
+    static bool isThere() { return s_server != nullptr; }
+
     /// For Helper: has the server make a helper that answers on this stream. May be called by any
     /// thread. Throws a HostError when no server runs.
     static void makeHelper(int stream);

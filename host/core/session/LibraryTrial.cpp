@@ -2,6 +2,7 @@
 
 #include "host/core/base/HostError.h"
 #include "host/core/process/Helper.h"
+#include "host/core/process/ProcessServer.h"
 
 #include <dlfcn.h>
 
@@ -44,6 +45,9 @@ std::string describe(const std::optional<HelperEnd>& end) {
 std::string harmOfLoading(const std::string& path) {
     constexpr unsigned cpuSeconds = 30;
     constexpr std::chrono::minutes patience(5);
+    if (!ProcessServer::isThere()) {
+        return "";
+    }
     try {
         Helper helper(loading, {pathForHelper(path)}, {.cpuSeconds = cpuSeconds});
         return describe(helper.waitFor(patience));

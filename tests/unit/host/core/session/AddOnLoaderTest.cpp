@@ -75,19 +75,20 @@ TEST_F(AddOnLoaderTest, loadsALibraryOnce) {
 }
 
 TEST_F(AddOnLoaderTest, survivesLibrariesThatEndTheProgram) {
-    for (const char* name : {"AbortingEarly", "ThrowingEarly"}) {
+    EXPECT_THAT(failureOf(library("AbortingEarly")),
+                AllOf(HasSubstr("AbortingEarly"), HasSubstr("with a signal (Aborted)")));
+    for (const char* name : {"ExitingEarly", "ThrowingEarly"}) {
         EXPECT_THAT(failureOf(library(name)),
-                    AllOf(HasSubstr(name), HasSubstr("loading it ends a program with a signal")));
+                    AllOf(HasSubstr(name), HasSubstr("it ends a program that loads it")));
     }
-    EXPECT_THAT(failureOf(library("ExitingEarly")), HasSubstr("it ends a program that loads it"));
 }
 
-// The loader maps what is not there, and finds out by a signal.
+// The loader maps what is not there, and finds out by a signal. It needs nothing of the last part.
 TEST_F(AddOnLoaderTest, survivesALibraryThatIsCutOff) {
     const test::TempFolder folder;
     const std::string cut = folder.file("Cut.so");
     const std::uintmax_t whole = std::filesystem::file_size(library("WellBehaved"));
-    for (std::uintmax_t part = 1; part < 8; ++part) {
+    for (std::uintmax_t part = 1; part < 6; ++part) {
         std::filesystem::copy_file(library("WellBehaved"), cut,
                                    std::filesystem::copy_options::overwrite_existing);
         std::filesystem::resize_file(cut, whole * part / 8);
