@@ -3,8 +3,10 @@
 
 #include "host/api/TracedCall.h"
 
+#include <atomic>
 #include <mutex>
 #include <unordered_set>
+#include <utility>
 
 namespace corvane::host {
 
@@ -17,9 +19,18 @@ class AllocationRegistry {
 public:
     void add(const T* thing) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_things.insert(thing);
+        if (m_spare.empty()) {
+            m_things.insert(thing);
+        } else {
+            m_spare.value() = thing;
+            m_things.insert(std::move(m_spare));
+        }
+        m_latest = thing;
     }
     bool has(const T* thing) const {
+        if (thing == m_latest) {
+            return thing != nullptr;
+        }
         const std::lock_guard<std::mutex> lock(m_mutex);
         return m_things.count(thing) != 0;
     }
@@ -39,11 +50,24 @@ public:
 private:
     bool remove(const T* thing) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_things.erase(thing) != 0;
+        auto node = m_things.extract(thing);
+        if (node.empty()) {
+            return false;
+        }
+        m_spare = std::move(node);
+        if (m_latest == thing) {
+            m_latest = nullptr;
+        }
+        return true;
     }
 
+    using Things = std::unordered_set<const T*>;
+
     mutable std::mutex m_mutex;
-    std::unordered_set<const T*> m_things;
+    Things m_things;
+    // Add-ons use what they were given last, and give it back, many times a frame.
+    std::atomic<const T*> m_latest = nullptr; ///< null: given back
+    typename Things::node_type m_spare;       ///< of what was given back last
 };
 
 } // namespace corvane::host

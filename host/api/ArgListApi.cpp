@@ -4,14 +4,16 @@
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
 
+#include <string>
 #include <utility>
 
 using namespace corvane::host;
 
 namespace {
 
-template <class T>
-CorBool append(const Operation& operation, CorArgList l, const char* name, T value) {
+/// A T is made of the value.
+template <class T, class Source>
+CorBool append(const Operation& operation, CorArgList l, const char* name, Source value) {
     if (!mayProceedUntraced(operation, true)) {
         return FALSE;
     }
@@ -24,7 +26,7 @@ CorBool append(const Operation& operation, CorArgList l, const char* name, T val
         return FALSE;
     }
     try {
-        l->set(name, value);
+        l->set<T>(name, value);
         return TRUE;
     } catch (...) {
         reportException(operation);
@@ -39,27 +41,27 @@ CorArgList CorUtilArgListAlloc(void) {
 }
 
 CorBool CorUtilArgListAppendFunction(CorArgList l, const char* name, CorGenericFunc f) {
-    return append("CorUtilArgListAppendFunction", l, name, f);
+    return append<CorGenericFunc>("CorUtilArgListAppendFunction", l, name, f);
 }
 
 CorBool CorUtilArgListAppendInt(CorArgList l, const char* name, int value) {
-    return append("CorUtilArgListAppendInt", l, name, value);
+    return append<int>("CorUtilArgListAppendInt", l, name, value);
 }
 
 CorBool CorUtilArgListAppendDouble(CorArgList l, const char* name, double value) {
-    return append("CorUtilArgListAppendDouble", l, name, value);
+    return append<double>("CorUtilArgListAppendDouble", l, name, value);
 }
 
 CorBool CorUtilArgListAppendString(CorArgList l, const char* name, const char* value) {
-    return append("CorUtilArgListAppendString", value ? l : nullptr, name, value);
+    return append<std::string>("CorUtilArgListAppendString", value ? l : nullptr, name, value);
 }
 
 CorBool CorUtilArgListAppendIntPtr(CorArgList l, const char* name, int* result) {
-    return append("CorUtilArgListAppendIntPtr", result ? l : nullptr, name, result);
+    return append<int*>("CorUtilArgListAppendIntPtr", result ? l : nullptr, name, result);
 }
 
 CorBool CorUtilArgListAppendDoublePtr(CorArgList l, const char* name, double* result) {
-    return append("CorUtilArgListAppendDoublePtr", result ? l : nullptr, name, result);
+    return append<double*>("CorUtilArgListAppendDoublePtr", result ? l : nullptr, name, result);
 }
 
 void CorUtilArgListDealloc(CorArgList* l) {

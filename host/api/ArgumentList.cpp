@@ -3,19 +3,12 @@
 
 #include "host/api/AllocationRegistry.h"
 
+#include <array>
+#include <cstddef>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <utility>
-
-void CorArgList_s::set(std::string_view name, Value value) {
-    for (Entry& entry : entries) {
-        if (entry.name == name) {
-            entry.value = std::move(value);
-            return;
-        }
-    }
-    entries.push_back({std::string(name), std::move(value)});
-}
 
 namespace corvane::host {
 
@@ -27,11 +20,42 @@ AllocationRegistry<CorArgList_s>& lists() {
     return *given;
 }
 
+/// Lists that were freed, with the room that they had: an animation makes a dozen of them for each
+/// view. Safe on any thread.
+class SpareLists {
+public:
+    std::unique_ptr<CorArgList_s> take() {
+        const std::lock_guard lock(m_mutex);
+        if (m_count == 0) {
+            return std::make_unique<CorArgList_s>();
+        }
+        return std::move(m_lists[--m_count]);
+    }
+    void put(std::unique_ptr<CorArgList_s> list) {
+        list->entries.clear();
+        const std::lock_guard lock(m_mutex);
+        if (m_count < m_lists.size()) {
+            m_lists[m_count++] = std::move(list);
+        }
+    }
+
+private:
+    std::mutex m_mutex;
+    std::array<std::unique_ptr<CorArgList_s>, 8> m_lists;
+    std::size_t m_count = 0;
+};
+
+/// Never destroyed either.
+SpareLists& spareLists() {
+    static auto* spare = new SpareLists;
+    return *spare;
+}
+
 } // namespace
 
 CorArgList newArgumentList() {
     try {
-        auto list = std::make_unique<CorArgList_s>();
+        auto list = spareLists().take();
         lists().add(list.get());
         return list.release();
     } catch (const std::bad_alloc&) {
@@ -44,7 +68,9 @@ CorArgList known(CorArgList list) {
 }
 
 void freeArgumentList(const Operation& operation, CorArgList list) {
-    lists().takeBack(operation, list, std::default_delete<CorArgList_s>());
+    lists().takeBack(operation, list, [](CorArgList_s* freed) {
+        spareLists().put(std::unique_ptr<CorArgList_s>(freed));
+    });
 }
 
 } // namespace corvane::host

@@ -5,20 +5,37 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 struct CorArgList_s {
     using Value = std::variant<int, double, std::string, CorGenericFunc, int*, double*>;
     struct Entry {
+        template <class T, class Source>
+        Entry(std::string_view itsName, std::in_place_type_t<T> type, const Source& source)
+            : name(itsName), value(type, source) {}
+
         std::string name;
         Value value;
     };
 
     std::vector<Entry> entries; ///< in the order in which their names came first
 
-    /// The last value of a name counts, whatever the types.
-    void set(std::string_view name, Value value);
+    /// The last value of a name counts, whatever the types. A T is made of the source.
+    template <class T, class Source>
+    void set(std::string_view name, const Source& source) {
+        for (Entry& entry : entries) {
+            if (entry.name == name) {
+                entry.value.emplace<T>(source);
+                return;
+            }
+        }
+        if (entries.empty()) {
+            entries.reserve(8); // a path and a value
+        }
+        entries.emplace_back(name, std::in_place_type<T>, source);
+    }
 
     /// Null when there is no such name, or its value has another type.
     template <class T>

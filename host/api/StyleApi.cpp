@@ -4,54 +4,79 @@
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
 
+#include <array>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
 
 using namespace corvane::host;
 
 namespace {
 
-constexpr int longestPath = 8;
-
-StylePath pathOf(const CorArgList_s& args) {
-    StylePath path;
-    for (int depth = 1; depth <= longestPath; ++depth) {
-        const auto* const keyword = args.find<std::string>("Path" + std::to_string(depth));
-        if (!keyword) {
-            break;
+/// The keywords of a path, which live in the list.
+class PathWords {
+public:
+    explicit PathWords(const CorArgList_s& args) {
+        for (const char* const name : names) {
+            const auto* const keyword = args.find<std::string>(name);
+            if (!keyword) {
+                break;
+            }
+            m_words[m_count++] = *keyword;
         }
-        path.push_back(*keyword);
     }
-    return path;
+
+    StyleKeywords words() const { return {m_words.data(), m_count}; }
+
+private:
+    static constexpr std::array names{"Path1", "Path2", "Path3", "Path4",
+                                      "Path5", "Path6", "Path7", "Path8"};
+
+    std::array<std::string_view, names.size()> m_words;
+    std::size_t m_count = 0;
+};
+
+/// Null without a frame that has styles.
+const StyleTree* stylesFor(const Session& session, const PathWords& path) {
+    return session.stylesFor(path.words().empty() ? std::string_view() : path.words().front());
 }
 
-/// The argument that a value of this kind takes: callers may send several, such as a boolean both
-/// as an integer and as a number.
-std::optional<StyleInput> inputLike(const StyleInput& kind, const CorArgList_s& args) {
-    if (std::holds_alternative<long>(kind)) {
-        const int* const value = args.find<int>("IValue");
-        return value ? std::optional<StyleInput>(static_cast<long>(*value)) : std::nullopt;
-    }
-    if (std::holds_alternative<double>(kind)) {
+/// The argument that a value takes: callers may send several, such as a boolean both as an integer
+/// and as a number.
+struct InputFor {
+    const CorArgList_s& args;
+
+    std::optional<StyleInput> operator()(const bool*) const { return integer(); }
+    std::optional<StyleInput> operator()(const int*) const { return integer(); }
+    std::optional<StyleInput> operator()(const double*) const {
         const double* const value = args.find<double>("DValue");
         return value ? std::optional<StyleInput>(*value) : std::nullopt;
     }
-    const auto* const value = args.find<std::string>("SValue");
-    return value ? std::optional<StyleInput>(*value) : std::nullopt;
-}
+    std::optional<StyleInput> operator()(const std::string*) const {
+        const auto* const value = args.find<std::string>("SValue");
+        return value ? std::optional<StyleInput>(*value) : std::nullopt;
+    }
+
+private:
+    std::optional<StyleInput> integer() const {
+        const int* const value = args.find<int>("IValue");
+        return value ? std::optional<StyleInput>(static_cast<long>(*value)) : std::nullopt;
+    }
+};
 
 StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
-    const StylePath path = pathOf(args);
-    StyleInput present;
-    switch (session.getStyle(path, present)) {
-    case StyleGet_Ok: {
-        const std::optional<StyleInput> input = inputLike(present, args);
-        return input ? session.setStyle(path, *input) : StyleSet_BadValue;
-    }
-    case StyleGet_NotAvailable:
+    const PathWords path(args);
+    const StyleTree* const styles = stylesFor(session, path);
+    if (!styles) {
         return StyleSet_NotAllowed;
-    default:
+    }
+    const StyleLeaf* const leaf = styles->find(path.words());
+    if (!leaf) {
         return StyleSet_BadPath;
     }
+    const std::optional<StyleInput> input = std::visit(InputFor{args}, leaf->target);
+    return input ? session.setStyle(*leaf, *input) : StyleSet_BadValue;
 }
 
 /// False when the caller left no room for a value of this kind.
@@ -69,6 +94,19 @@ bool deliver(const StyleInput& value, const CorArgList_s& args) {
         }
     }
     return false;
+}
+
+StyleGetResult_e getByPath(const Session& session, const CorArgList_s& args) {
+    const PathWords path(args);
+    const StyleTree* const styles = stylesFor(session, path);
+    if (!styles) {
+        return StyleGet_NotAvailable;
+    }
+    const StyleLeaf* const leaf = styles->find(path.words());
+    if (!leaf) {
+        return StyleGet_BadPath;
+    }
+    return deliver(StyleTree::get(*leaf), args) ? StyleGet_Ok : StyleGet_NotAvailable;
 }
 
 } // namespace
@@ -91,8 +129,6 @@ int CorUtilStyleGet(CorArgList args) {
             call.misuse("args is no list of arguments");
             return StyleGet_BadPath;
         }
-        StyleInput value;
-        const StyleGetResult_e result = session.getStyle(pathOf(*args), value);
-        return result != StyleGet_Ok || deliver(value, *args) ? result : StyleGet_NotAvailable;
+        return getByPath(session, *args);
     });
 }

@@ -33,9 +33,10 @@ public:
         if (canAppend(name))
             CorUtilArgListAppendIntPtr(m_list, name, v);
     }
-    void appendString(const char* name, const std::string& v) {
+    void appendString(const char* name, const std::string& v) { appendString(name, v.c_str()); }
+    void appendString(const char* name, const char* v) {
         if (canAppend(name))
-            CorUtilArgListAppendString(m_list, name, v.c_str());
+            CorUtilArgListAppendString(m_list, name, v);
     }
     void appendFunction(const char* name, CorGenericFunc f) {
         if (canAppend(name))

@@ -69,12 +69,14 @@ public:
 
     // Appends the root path and s1, s2 to args, as "Path1", "Path2" and so on.
     void setupSetValueArgList(ArgList& args, const char* s1, const char* s2 = 0) const {
-        long depth = 0;
-        const auto appendKeyword = [&](const std::string& keyword) {
-            args.appendString(("Path" + std::to_string(++depth)).c_str(), keyword);
+        static constexpr const char* names[] = {"Path1", "Path2", "Path3",
+                                                "Path4", "Path5", "Path6"};
+        int depth = 0;
+        const auto appendKeyword = [&](const char* keyword) {
+            args.appendString(names[depth++], keyword);
         };
         for (long n = 1; n <= m_root.count(); ++n)
-            appendKeyword(m_root.string(n));
+            appendKeyword(m_root.string(n).c_str());
         for (const char* keyword : {s1, s2}) {
             if (!keyword)
                 break;

@@ -5,6 +5,7 @@
 #include "hostapi/CorEnums.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,21 +33,26 @@ public:
 private:
     struct CallbackEntry {
         Callback callback;
-        std::string owner;
+        std::string what; ///< of the call, for the trace
     };
     struct ListenerEntry {
         Listener listener;
         void* clientData;
-        std::string owner;
+        std::string what;
         friend bool operator==(const ListenerEntry& a, const ListenerEntry& b) {
             return a.listener == b.listener && a.clientData == b.clientData;
         }
     };
-    void call(const std::string& owner, const std::function<void()>& work) const;
+    /// Replaced when one comes or goes, and never changed: who is being told may come and go
+    /// meanwhile.
+    template <class Entry>
+    using Entries = std::shared_ptr<const std::vector<Entry>>;
+
+    bool hasListener(const ListenerEntry& entry) const;
 
     AddOnCaller m_caller;
-    std::vector<CallbackEntry> m_callbacks;
-    std::vector<ListenerEntry> m_listeners;
+    Entries<CallbackEntry> m_callbacks = std::make_shared<std::vector<CallbackEntry>>();
+    Entries<ListenerEntry> m_listeners = std::make_shared<std::vector<ListenerEntry>>();
 };
 
 } // namespace corvane::host

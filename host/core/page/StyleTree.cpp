@@ -18,9 +18,11 @@ constexpr char separator = '/';
 /// The lower-case joined path, built in place: an animation looks up a dozen paths a frame.
 class Key {
 public:
-    explicit Key(const StylePath& path) {
-        for (const std::string& keyword : path) {
-            m_valid = m_valid && keyword.find(separator) == std::string::npos &&
+    /// Of strings, or of views of some.
+    template <class Path>
+    explicit Key(const Path& path) {
+        for (const std::string_view keyword : path) {
+            m_valid = m_valid && keyword.find(separator) == std::string_view::npos &&
                       m_length + keyword.size() < m_text.size();
             if (!m_valid) {
                 return;
@@ -163,6 +165,15 @@ StyleInput StyleTree::get(const StyleLeaf& leaf) {
 }
 
 const StyleLeaf* StyleTree::find(const StylePath& path) const {
+    return leafAt(path);
+}
+
+const StyleLeaf* StyleTree::find(StyleKeywords path) const {
+    return leafAt(path);
+}
+
+template <class Path>
+const StyleLeaf* StyleTree::leafAt(const Path& path) const {
     const Key key(path);
     if (!key.isValid()) {
         return nullptr;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -16,6 +17,9 @@ namespace corvane::host {
 
 /// A path of keywords, "ThreeDView" "ViewerPosition" "X". Letter case (ASCII) is ignored.
 using StylePath = std::vector<std::string>;
+
+/// The same, of keywords that live elsewhere.
+using StyleKeywords = std::span<const std::string_view>;
 
 /// A value on its way in or out. Integers carry booleans too (0 and 1).
 using StyleInput = std::variant<long, double, std::string>;
@@ -65,6 +69,7 @@ public:
 
     /// Valid until something is bound or unbound; null without such a leaf.
     const StyleLeaf* find(const StylePath& path) const;
+    const StyleLeaf* find(StyleKeywords path) const;
     const std::vector<StyleLeaf>& leaves() const { return m_leaves; } ///< in order of binding
 
 private:
@@ -77,6 +82,8 @@ private:
     };
 
     void rebuildIndex();
+    template <class Path>
+    const StyleLeaf* leafAt(const Path& path) const;
 
     std::vector<StyleLeaf> m_leaves;
     /// From the lower-case path, joined.

@@ -15,6 +15,10 @@ namespace corvane::host {
 
 namespace {
 
+std::string_view firstOf(const StylePath& path) {
+    return path.empty() ? std::string_view() : path.front();
+}
+
 /// A page that is not shown yet has no work area; a frame needs an extent all the same.
 Placement firstPlacement(const Page& page) {
     const Placement area = page.regionOf(ExportRegion_WorkArea);
@@ -51,9 +55,9 @@ void Session::bindOwnStyles() {
     bindExportSetup(m_styles, m_exportSetup, [this] { return !m_exporter.isRecording(); });
 }
 
-const StyleTree* Session::treeFor(const StylePath& path) const {
-    if (!path.empty() && (equalIgnoringCase(path.front(), "ExportSetup") ||
-                          equalIgnoringCase(path.front(), "Interface"))) {
+const StyleTree* Session::stylesFor(std::string_view firstKeyword) const {
+    if (equalIgnoringCase(firstKeyword, "ExportSetup") ||
+        equalIgnoringCase(firstKeyword, "Interface")) {
         return &m_styles;
     }
     const Frame* frame = m_page.currentSpatial();
@@ -61,28 +65,29 @@ const StyleTree* Session::treeFor(const StylePath& path) const {
 }
 
 const StyleLeaf* Session::findStyle(const StylePath& path) const {
-    const StyleTree* tree = treeFor(path);
+    const StyleTree* tree = stylesFor(firstOf(path));
     return tree != nullptr ? tree->find(path) : nullptr;
 }
 
 StyleSetResult_e Session::setStyle(const StylePath& path, const StyleInput& value) {
-    const StyleTree* tree = treeFor(path);
+    const StyleTree* tree = stylesFor(firstOf(path));
     if (tree == nullptr) {
         return StyleSet_NotAllowed;
     }
     const StyleLeaf* leaf = tree->find(path);
-    if (leaf == nullptr) {
-        return StyleSet_BadPath;
-    }
-    const StyleSetResult_e result = StyleTree::set(*leaf, value);
+    return leaf == nullptr ? StyleSet_BadPath : setStyle(*leaf, value);
+}
+
+StyleSetResult_e Session::setStyle(const StyleLeaf& leaf, const StyleInput& value) {
+    const StyleSetResult_e result = StyleTree::set(leaf, value);
     if (result == StyleSet_Ok) {
-        announce(leaf->effect);
+        announce(leaf.effect);
     }
     return result;
 }
 
 StyleGetResult_e Session::getStyle(const StylePath& path, StyleInput& value) const {
-    const StyleTree* tree = treeFor(path);
+    const StyleTree* tree = stylesFor(firstOf(path));
     if (tree == nullptr) {
         return StyleGet_NotAvailable;
     }

@@ -79,9 +79,14 @@ public:
     /// "ExportSetup"). Without a frame, or with one that is not 3D, the frame's paths answer
     /// StyleSet_NotAllowed and StyleGet_NotAvailable.
     StyleSetResult_e setStyle(const StylePath& path, const StyleInput& value);
+    /// The same for a leaf that was found.
+    StyleSetResult_e setStyle(const StyleLeaf& leaf, const StyleInput& value);
     StyleGetResult_e getStyle(const StylePath& path, StyleInput& value) const;
     /// What kind of value stands there; null without one, and where the others do not answer.
     const StyleLeaf* findStyle(const StylePath& path) const;
+    /// Where paths that begin with this keyword lead: to the session's own styles, or to those of
+    /// the frame that is shown; null without one.
+    const StyleTree* stylesFor(std::string_view firstKeyword) const;
 
     /// Reads the files into the active frame (made when there is none), chooses plots and view, and
     /// tells the listeners. Throws HostError; the data loaded before stay then.
@@ -134,7 +139,6 @@ public:
 
 private:
     void bindOwnStyles();
-    const StyleTree* treeFor(const StylePath& path) const;
     void announce(StyleEffect effect);
     bool markIf(bool isChanged);
     void announceIfMoved(const Frame& frame, const View3D& before);

@@ -88,7 +88,7 @@ TEST_F(SessionTest, aWriteThatChangesNothingTellsNobody) {
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, frame().view.psi), StyleSet_Unchanged);
     EXPECT_EQ(session.setStyle({"ThreeDView", "PSIAngle"}, 1L), StyleSet_BadValue);
     EXPECT_EQ(session.setStyle({"ThreeDView", "Nothing"}, 1.0), StyleSet_BadPath);
-    EXPECT_EQ(session.setStyle({}, 1.0), StyleSet_BadPath);
+    EXPECT_EQ(session.setStyle(StylePath{}, 1.0), StyleSet_BadPath);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_FALSE(session.drawing().isMarked());
 }
