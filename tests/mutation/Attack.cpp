@@ -16,6 +16,7 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <iostream>
 #include <random>
 #include <stdexcept>
 #include <sys/mman.h>
@@ -133,12 +134,16 @@ void openAndDraw(scene::SceneRenderer& renderer, const std::string& file) {
     renderer.waitForReadAhead();
 }
 
-void tryOne(scene::SceneRenderer& renderer, Progress& progress, const std::string& file) {
+void tryOne(scene::SceneRenderer& renderer, Progress& progress, const std::string& file,
+            bool tellsRefusals) {
     try {
         openAndDraw(renderer, file);
         ++progress.opened;
     } catch (const host::HostError& error) {
         ++progress.refused;
+        if (tellsRefusals) {
+            std::cout << progress.index << " " << error.what() << std::endl;
+        }
         progress.isNotOneLine = std::strchr(error.what(), '\n') != nullptr;
     }
     rusage used{};
@@ -147,16 +152,16 @@ void tryOne(scene::SceneRenderer& renderer, Progress& progress, const std::strin
 }
 
 /// Until all are tried, or one is worth telling.
-[[noreturn]] void tryAll(Target& target, Progress& progress, int count) {
+[[noreturn]] void tryAll(Target& target, Progress& progress, const AttackOptions& options) {
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     const rlimit memory{mostAddressSpace, mostAddressSpace};
     setrlimit(RLIMIT_AS, &memory);
     scene::SceneRenderer renderer;
-    for (; progress.index < count; ++progress.index) {
+    for (; progress.index < options.count; ++progress.index) {
         target.damage(progress.index);
         allowSeconds(secondsForOneFile);
-        tryOne(renderer, progress, target.opened());
+        tryOne(renderer, progress, target.opened(), options.tellsRefusals);
         if (progress.isNotOneLine || progress.isGreedy) {
             break;
         }
@@ -203,7 +208,7 @@ AttackResult attack(const MutationSample& sample, const AttackOptions& options) 
         const pid_t process = fork();
         if (process == 0) {
             try {
-                tryAll(target, *progress.operator->(), options.count);
+                tryAll(target, *progress.operator->(), options);
             } catch (...) {
                 _exit(99);
             }

@@ -14,6 +14,7 @@ struct AttackOptions {
     std::uint64_t seed = 1;
     int count = 100;            ///< mutations of each sample
     std::filesystem::path kept; ///< the folder for inputs that bring the program down
+    bool tellsRefusals = false; ///< with their numbers, on standard output
 };
 
 /// What one sample came to.

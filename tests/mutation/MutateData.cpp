@@ -1,8 +1,9 @@
 // Damages data files of all formats in some thousand ways, and opens them.
-//   mutate_data [--seed N] [--count N] [--only NAME] [--keep FOLDER]
+//   mutate_data [--seed N] [--count N] [--only NAME] [--keep FOLDER] [--tell yes]
 // --count  mutations of each sample
 // --only   samples whose names begin so
 // --keep   where inputs go that bring the program down; by default mutation-findings
+// --tell   what is said of those that are refused
 // Ends with 1 when one does.
 #include "tests/mutation/Attack.h"
 
@@ -33,6 +34,8 @@ Options parsed(int argc, char** argv) {
             options.only = value;
         } else if (name == "--keep") {
             options.attack.kept = value;
+        } else if (name == "--tell") {
+            options.attack.tellsRefusals = value == "yes";
         } else {
             throw std::invalid_argument("unknown option " + name);
         }

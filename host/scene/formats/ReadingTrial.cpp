@@ -20,11 +20,14 @@ void readStep(const std::vector<std::string>& arguments) {
     // What is read before it was written is never zero by chance.
     mallopt(M_PERTURB, 0x5a);
     const std::string& path = arguments.at(0);
+    const int step = std::stoi(arguments.at(1));
     const MeshFormat& format = formatOf(path);
     if (format.readList != nullptr) {
         format.readList(path);
+    } else if (step == contentsOnly) {
+        format.open(path)->times();
     } else {
-        format.open(path)->read(std::stoi(arguments.at(1)));
+        format.open(path)->read(step);
     }
 }
 

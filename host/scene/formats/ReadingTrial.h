@@ -12,6 +12,9 @@ using FileCheck = FileLook (*)(const std::string& path);
 /// For formats of which no look can know.
 FileLook alwaysUnknown(const std::string& path);
 
+/// In place of a step: what the file tells of its contents.
+constexpr int contentsOnly = -1;
+
 /// Makes sure that reading this step of the file comes to an end: by the look, and where that does
 /// not know, by reading it in a helper of the process server. A file that passed is not looked at
 /// again before it changes. Throws ReadFailure, or the HostError that reading it in the helper

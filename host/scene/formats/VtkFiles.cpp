@@ -1,6 +1,9 @@
 #include "host/scene/formats/VtkFiles.h"
 
 #include "host/scene/formats/ReadingTrial.h"
+#include "host/scene/formats/legacy/LegacyCheck.h"
+#include "host/scene/formats/surface/ObjCheck.h"
+#include "host/scene/formats/surface/StlCheck.h"
 #include "host/scene/formats/xml/XmlFileCheck.h"
 
 #include <vtkDataSetAttributes.h>
@@ -31,6 +34,7 @@ vtkSmartPointer<vtkDataObject> VtkXmlFile::readObject() const {
 }
 
 vtkSmartPointer<vtkDataObject> LegacyVtkFile::readObject() const {
+    expectHarmless(path(), 0, checkLegacyFile);
     const vtkNew<vtkGenericDataObjectReader> reader;
     // Otherwise it keeps the first array of each kind alone.
     reader->ReadAllScalarsOn();
@@ -40,11 +44,13 @@ vtkSmartPointer<vtkDataObject> LegacyVtkFile::readObject() const {
 }
 
 vtkSmartPointer<vtkDataObject> StlFile::readObject() const {
+    expectHarmless(path(), 0, checkStlFile);
     const vtkNew<vtkSTLReader> reader;
     return outputOf(*reader, path());
 }
 
 vtkSmartPointer<vtkDataObject> ObjFile::readObject() const {
+    expectHarmless(path(), 0, checkObjFile);
     const vtkNew<vtkOBJReader> reader;
     auto surface = outputOf(*reader, path());
     // The reader numbers groups and materials, which are no quantities.
