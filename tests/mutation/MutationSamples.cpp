@@ -6,13 +6,17 @@
 #include "tests/unit/host/scene/formats/SampleFiles.h"
 
 #include <vtkCellArray.h>
-#include <vtkDataSetWriter.h>
 #include <vtkMultiBlockDataSet.h>
 #include <vtkNew.h>
 #include <vtkOBJWriter.h>
 #include <vtkPLYWriter.h>
+#include <vtkPolyDataWriter.h>
+#include <vtkRectilinearGridWriter.h>
 #include <vtkSTLWriter.h>
+#include <vtkStructuredGridWriter.h>
+#include <vtkStructuredPointsWriter.h>
 #include <vtkUnstructuredGrid.h>
+#include <vtkUnstructuredGridWriter.h>
 #include <vtkXMLImageDataWriter.h>
 #include <vtkXMLMultiBlockDataWriter.h>
 #include <vtkXMLPolyDataWriter.h>
@@ -80,6 +84,7 @@ void addXml(std::vector<MutationSample>& samples, const std::string& extension,
     }
 }
 
+template <class Writer>
 void addLegacy(std::vector<MutationSample>& samples, const std::string& name,
                const vtkSmartPointer<vtkDataObject>& object) {
     for (const bool isText : {true, false}) {
@@ -89,7 +94,7 @@ void addLegacy(std::vector<MutationSample>& samples, const std::string& name,
                 {"vtk." + name + (isText ? ".text" : ".binary") +
                      (version == vtkDataWriter::VTK_LEGACY_READER_VERSION_4_2 ? "42" : "51"),
                  [=](const Folder& folder) {
-                     const vtkNew<vtkDataSetWriter> writer;
+                     const vtkNew<Writer> writer;
                      isText ? writer->SetFileTypeToASCII() : writer->SetFileTypeToBinary();
                      writer->SetFileVersion(version);
                      return write(*writer, folder / "mesh.vtk", object);
@@ -247,12 +252,12 @@ std::vector<MutationSample> mutationSamples() {
     samples.push_back({"pvti", writeImagePieces});
     samples.push_back({"pvts", writeStructuredPieces});
     samples.push_back({"pvd", writeSteps});
-    addLegacy(samples, "grid", sampleGrid());
-    addLegacy(samples, "polyhedron", polyhedron());
-    addLegacy(samples, "surface", sampleCube({0.0, 0.0, 0.0}, 1.0));
-    addLegacy(samples, "image", sampleImage());
-    addLegacy(samples, "rectilinear", sampleRectilinearGrid());
-    addLegacy(samples, "structured", sampleStructuredGrid());
+    addLegacy<vtkUnstructuredGridWriter>(samples, "grid", sampleGrid());
+    addLegacy<vtkUnstructuredGridWriter>(samples, "polyhedron", polyhedron());
+    addLegacy<vtkPolyDataWriter>(samples, "surface", sampleCube({0.0, 0.0, 0.0}, 1.0));
+    addLegacy<vtkStructuredPointsWriter>(samples, "image", sampleImage());
+    addLegacy<vtkRectilinearGridWriter>(samples, "rectilinear", sampleRectilinearGrid());
+    addLegacy<vtkStructuredGridWriter>(samples, "structured", sampleStructuredGrid());
     addSurfaces(samples);
     samples.push_back({"case.text", writeEnSightBox});
     samples.push_back({"case.binary", writeBinaryEnSightBox});

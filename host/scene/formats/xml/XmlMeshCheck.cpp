@@ -32,7 +32,8 @@ bool isPlainKey(const XmlElement& key) {
 std::optional<XmlArrayKind> kindOf(const XmlElement& array) {
     const bool isSingle = !array.has("NumberOfComponents");
     const auto components = isSingle ? std::optional(1) : array.number<int>("NumberOfComponents");
-    const bool isArray = array.name == "DataArray" || array.name == "Array";
+    constexpr std::array names{"DataArray", "Array", "PDataArray", "PArray"};
+    const bool isArray = std::ranges::find(names, array.name) != names.end();
     if (!isArray || !components || *components < 1 || *components > mostComponents ||
         !xmlType(array.attribute("type")) || array.has("TimeStep") ||
         !std::ranges::all_of(array.children, isPlainKey)) {
