@@ -5,8 +5,10 @@
 #include "host/scene/mesh/ForkedCheck.h"
 #include "host/scene/mesh/KnownFiles.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <malloc.h>
+#include <unistd.h>
 
 namespace corvane::scene {
 
@@ -15,8 +17,17 @@ namespace {
 /// Whether this process is one that tries.
 bool isHelper = false;
 
+/// Libraries that crash say so in words that are not for users.
+void closeMouth() {
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
+        dup2(nowhere, stream);
+    }
+}
+
 void readStep(const std::vector<std::string>& arguments) {
     isHelper = true;
+    closeMouth();
     // What is read before it was written is never zero by chance.
     mallopt(M_PERTURB, 0x5a);
     const std::string& path = arguments.at(0);

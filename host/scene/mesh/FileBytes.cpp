@@ -51,6 +51,27 @@ bool FileBytes::read(void* bytes, std::size_t count) {
     return true;
 }
 
+bool FileBytes::readLine(std::string& line) {
+    line.clear();
+    if (peek() == end) {
+        return false;
+    }
+    while (peek() != end) {
+        const auto* const start = m_buffer.data() + m_at;
+        const auto* const found =
+            static_cast<const unsigned char*>(std::memchr(start, '\n', m_buffered - m_at));
+        const std::size_t length =
+            found != nullptr ? static_cast<std::size_t>(found - start) : m_buffered - m_at;
+        line.append(reinterpret_cast<const char*>(start), length);
+        m_at += length;
+        if (found != nullptr) {
+            ++m_at;
+            return true;
+        }
+    }
+    return true;
+}
+
 bool FileBytes::skipTo(char wanted) {
     while (peek() != end) {
         const void* const found = std::memchr(m_buffer.data() + m_at, wanted, m_buffered - m_at);

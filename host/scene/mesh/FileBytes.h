@@ -33,6 +33,8 @@ public:
     }
     /// False when the file ends before.
     bool read(void* bytes, std::size_t count);
+    /// The bytes up to the next line, without the mark between them. False at the end.
+    bool readLine(std::string& line);
     /// To the next such byte, which is not read, or to the end; false then.
     bool skipTo(char wanted);
 

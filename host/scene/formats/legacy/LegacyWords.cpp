@@ -24,6 +24,13 @@ std::optional<std::uint64_t> sizeOf(const std::string& type) {
     return found == sizes.end() ? std::nullopt : std::optional(found->second);
 }
 
+LegacyNumber numberOf(const std::string& type, std::uint64_t size) {
+    static const std::map<std::uint64_t, std::uint64_t> largest{{2, INT16_MAX}, {8, INT64_MAX}};
+    const auto found = largest.find(size);
+    return {type != "float" && type != "double",
+            found == largest.end() ? LegacyNumber{}.largest : found->second};
+}
+
 bool isSpace(int byte) {
     return byte == ' ' || (byte >= '\t' && byte <= '\r');
 }
@@ -105,17 +112,20 @@ void LegacyWords::skipArray(const std::string& type, std::uint64_t tuples,
         throw LegacyStrange();
     }
     constexpr std::uint64_t bitsOfByte = 8;
-    skipValues(values, size ? cappedProduct(values, *size)
-                            : values / bitsOfByte + (values % bitsOfByte == 0 ? 0 : 1));
+    skipValues(values,
+               size ? cappedProduct(values, *size)
+                    : values / bitsOfByte + (values % bitsOfByte == 0 ? 0 : 1),
+               numberOf(known, size.value_or(1)));
     skipMetaData(components);
 }
 
-void LegacyWords::skipValues(std::uint64_t values, std::uint64_t bytesInBinary) {
+void LegacyWords::skipValues(std::uint64_t values, std::uint64_t bytesInBinary,
+                             const LegacyNumber& number) {
     if (values == 0) {
         return;
     }
     if (m_isText) {
-        skipWords(values);
+        skipNumbers(values, number);
         return;
     }
     endTypeLine();
@@ -123,17 +133,65 @@ void LegacyWords::skipValues(std::uint64_t values, std::uint64_t bytesInBinary) 
     m_bytes.seek(m_bytes.position() + bytesInBinary);
 }
 
-void LegacyWords::skipWords(std::uint64_t count) {
+void LegacyWords::skipNumbers(std::uint64_t count, const LegacyNumber& number) {
     expectBytes(count); // each is a byte at least
     for (; count > 0; --count) {
         skipSpaces();
         if (m_bytes.peek() == FileBytes::end) {
             refuse("the file ends before its data do");
         }
-        while (m_bytes.peek() != FileBytes::end && !isSpace(m_bytes.peek())) {
+        if (m_bytes.peek() == '-') {
             m_bytes.next();
         }
+        number.isWhole ? skipWhole(number.largest) : skipReal();
+        if (m_bytes.peek() != FileBytes::end && !isSpace(m_bytes.peek())) {
+            throw LegacyStrange();
+        }
     }
+}
+
+void LegacyWords::skipWhole(std::uint64_t largest) {
+    std::uint64_t value = 0;
+    if (skipDigits(value) == 0 || value > largest) {
+        throw LegacyStrange();
+    }
+}
+
+/// What is too large for its type is no number to VTK either.
+void LegacyWords::skipReal() {
+    constexpr std::uint64_t largestExponent = 30;
+    std::uint64_t value = 0;
+    std::size_t digits = skipDigits(value);
+    bool isSmall = digits < largestExponent;
+    if (m_bytes.peek() == '.') {
+        m_bytes.next();
+        digits += skipDigits(value);
+    }
+    if (m_bytes.peek() == 'e' || m_bytes.peek() == 'E') {
+        m_bytes.next();
+        const bool isNegative = m_bytes.peek() == '-';
+        if (isNegative || m_bytes.peek() == '+') {
+            m_bytes.next();
+        }
+        std::uint64_t exponent = 0;
+        isSmall = skipDigits(exponent) > 0 && isSmall &&
+                  (isNegative || exponent + digits < largestExponent);
+    }
+    if (digits == 0 || !isSmall) {
+        throw LegacyStrange();
+    }
+}
+
+/// Their number, and that which they make, or the largest where it is larger.
+std::size_t LegacyWords::skipDigits(std::uint64_t& value) {
+    constexpr std::uint64_t base = 10;
+    std::size_t digits = 0;
+    value = 0;
+    for (; m_bytes.peek() >= '0' && m_bytes.peek() <= '9'; ++digits) {
+        const auto digit = static_cast<std::uint64_t>(m_bytes.next() - '0');
+        value = value > INT64_MAX / base ? UINT64_MAX : base * value + digit;
+    }
+    return digits;
 }
 
 void LegacyWords::walkIntegers(std::uint64_t count,
@@ -158,7 +216,7 @@ void LegacyWords::walkIntegers(std::uint64_t count,
             refuse("its cells have more points than are listed");
         }
         if (m_isText) {
-            skipWords(skipped);
+            skipNumbers(skipped, {true});
         } else {
             m_bytes.seek(m_bytes.position() + size * skipped);
         }

@@ -14,6 +14,13 @@ namespace corvane::scene {
 /// Something in a legacy file that only VTK understands.
 struct LegacyStrange {};
 
+/// What numbers of an array have to be where they are text: VTK goes wrong after the first that is
+/// not.
+struct LegacyNumber {
+    bool isWhole = false;
+    std::uint64_t largest = INT32_MAX; ///< whole numbers
+};
+
 /// Walks through the file as VTK's reader does, skipping values. Numbers that cannot be are thrown
 /// as ReadFailure, everything that VTK may read in another way as LegacyStrange.
 class LegacyWords {
@@ -35,7 +42,8 @@ public:
     /// Values of a type that is named as in the file. Everything about them that follows too.
     void skipArray(const std::string& type, std::uint64_t tuples, std::uint64_t components);
     /// The same without a name, of so many bytes in a binary file. Nothing follows them.
-    void skipValues(std::uint64_t values, std::uint64_t bytesInBinary);
+    void skipValues(std::uint64_t values, std::uint64_t bytesInBinary,
+                    const LegacyNumber& number = {});
     /// Whole numbers of four bytes each; the callback is given them in turn, and answers how many
     /// of the next are not worth looking at.
     void walkIntegers(std::uint64_t count, const std::function<std::uint64_t(std::int64_t)>& visit);
@@ -43,7 +51,10 @@ public:
 private:
     std::string line();
     void skipSpaces();
-    void skipWords(std::uint64_t count);
+    void skipNumbers(std::uint64_t count, const LegacyNumber& number);
+    void skipWhole(std::uint64_t largest);
+    void skipReal();
+    std::size_t skipDigits(std::uint64_t& value);
     void skipMetaData(std::uint64_t components);
     void skipInformation(const std::string& header);
     void endTypeLine();

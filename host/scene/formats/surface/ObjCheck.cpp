@@ -3,7 +3,6 @@
 #include "host/scene/mesh/FileBytes.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <optional>
@@ -44,7 +43,7 @@ private:
 };
 
 bool isSpace(char c) {
-    return std::isspace(static_cast<unsigned char>(c)) != 0;
+    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 /// What is left of a line.
@@ -120,15 +119,7 @@ public:
     }
 
 private:
-    bool readLine() {
-        m_line.clear();
-        int byte = m_bytes.next();
-        const bool isThere = byte != FileBytes::end;
-        for (; byte != FileBytes::end && byte != '\n'; byte = m_bytes.next()) {
-            m_line.push_back(static_cast<char>(byte));
-        }
-        return isThere;
-    }
+    bool readLine() { return m_bytes.readLine(m_line); }
 
     void checkLine() {
         Rest rest(m_line);

@@ -52,6 +52,20 @@ TEST(FileBytes, aByteIsFoundBehindTheBuffer) {
     EXPECT_FALSE(bytes.skipTo('<'));
 }
 
+TEST(FileBytes, lines) {
+    const TempFolder folder;
+    const std::string longLine(200'000, 'a');
+    FileBytes bytes(folder.write("lines", "one\n\n" + longLine + "\nlast"));
+    std::string line;
+    for (const std::string& expected : {std::string("one"), std::string(), longLine}) {
+        EXPECT_TRUE(bytes.readLine(line));
+        EXPECT_EQ(line, expected);
+    }
+    EXPECT_TRUE(bytes.readLine(line));
+    EXPECT_EQ(line, "last");
+    EXPECT_FALSE(bytes.readLine(line));
+}
+
 TEST(FileBytes, aFileThatIsNotThere) {
     const TempFolder folder;
     EXPECT_THROW(FileBytes(folder.file("none")), scene::ReadFailure);
