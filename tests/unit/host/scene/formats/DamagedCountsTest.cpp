@@ -70,8 +70,7 @@ TEST_P(DamagedCountsTest, areRefusedWithOneSentence) {
     const auto at = content.find(text);
     ASSERT_NE(at, std::string::npos) << content.substr(0, 2000);
     folder.write(damaged, content.replace(at, text.size(), by));
-    EXPECT_THAT(refusalOf(opened),
-                AllOf(HasSubstr(" cannot be read: "), Not(HasSubstr("\n"))));
+    EXPECT_THAT(refusalOf(opened), AllOf(HasSubstr(" cannot be read: "), Not(HasSubstr("\n"))));
 }
 
 const std::string largest = "18446744073709551615";
