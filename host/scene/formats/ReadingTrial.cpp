@@ -52,7 +52,7 @@ host::HelperLimits limitsFor(const FileStates& files) {
     }
     constexpr std::uint64_t leastMemory = std::uint64_t{1} << 30U;
     constexpr std::uint64_t memoryPerByte = 64;
-    constexpr unsigned leastSeconds = 5;
+    constexpr unsigned leastSeconds = 20;
     constexpr std::uint64_t bytesPerSecond = std::uint64_t{1} << 19U;
     return {leastMemory + memoryPerByte * bytes,
             leastSeconds + static_cast<unsigned>(bytes / bytesPerSecond)};

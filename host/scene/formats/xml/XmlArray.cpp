@@ -229,44 +229,61 @@ std::vector<unsigned char> XmlArray::block(std::size_t index) {
     return plain;
 }
 
-std::optional<std::vector<unsigned char>> XmlArray::first(std::uint64_t count) {
-    if (m_isText) {
-        return std::nullopt;
-    }
-    return values(0, cappedProduct(count, m_type.size));
+std::int64_t XmlArray::integerFrom(const unsigned char* bytes) const {
+    const std::uint64_t number = numberFrom(bytes, m_type.size, m_storage.isSwapped);
+    const auto unused = static_cast<int>(64 - 8 * m_type.size);
+    return m_type.isSigned ? static_cast<std::int64_t>(number << unused) >> unused
+                           : static_cast<std::int64_t>(number);
 }
 
 std::optional<std::int64_t> XmlArray::integer(std::uint64_t index) {
     if (m_type.name.find("Int") == std::string::npos) {
         return std::nullopt;
     }
-    if (m_isText) {
-        return textInteger(index);
+    if (!m_isText) {
+        return integerFrom(values(index * m_type.size, m_type.size).data());
     }
-    const auto bytes = values(index * m_type.size, m_type.size);
-    const std::uint64_t number = numberFrom(bytes.data(), m_type.size, m_storage.isSwapped);
-    const auto unused = static_cast<int>(64 - 8 * m_type.size);
-    return m_type.isSigned ? static_cast<std::int64_t>(number << unused) >> unused
-                           : static_cast<std::int64_t>(number);
+    m_bytes.seek(m_start);
+    for (; index > 0; --index) {
+        textWord();
+    }
+    return host::parsedNumber<std::int64_t>(textWord());
 }
 
-std::optional<std::int64_t> XmlArray::textInteger(std::uint64_t index) {
-    m_bytes.seek(m_start);
-    std::string word;
-    for (std::uint64_t words = 0; words <= index;) {
-        word.clear();
-        while (m_bytes.position() < m_end && m_bytes.peek() <= ' ') {
-            m_bytes.next();
-        }
-        while (m_bytes.position() < m_end && m_bytes.peek() > ' ') {
-            word.push_back(static_cast<char>(m_bytes.next()));
-        }
-        if (word.empty()) {
-            refuse("an array has fewer values than it should");
-        }
-        ++words;
+bool XmlArray::areBelow(std::int64_t limit, std::uint64_t count) {
+    const auto isBelow = [limit](std::int64_t number) { return number >= 0 && number < limit; };
+    if (m_type.name.find("Int") == std::string::npos) {
+        return false;
     }
-    return host::parsedNumber<std::int64_t>(word);
+    if (m_isText) {
+        m_bytes.seek(m_start);
+        bool areBelow = true;
+        for (; count > 0 && areBelow; --count) {
+            areBelow = isBelow(host::parsedNumber<std::int64_t>(textWord()).value_or(-1));
+        }
+        return areBelow;
+    }
+    const auto bytes = values(0, cappedProduct(count, m_type.size));
+    for (std::size_t at = 0; at < bytes.size(); at += m_type.size) {
+        if (!isBelow(integerFrom(bytes.data() + at))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string XmlArray::textWord() {
+    std::string word;
+    while (m_bytes.position() < m_end && m_bytes.peek() <= ' ') {
+        m_bytes.next();
+    }
+    while (m_bytes.position() < m_end && m_bytes.peek() > ' ') {
+        word.push_back(static_cast<char>(m_bytes.next()));
+    }
+    if (word.empty()) {
+        refuse("an array has fewer values than it should");
+    }
+    return word;
 }
 
 } // namespace corvane::scene

@@ -47,8 +47,8 @@ public:
     /// One of the values, of a type of whole numbers. Nothing where it cannot be told. Throws
     /// ReadFailure when it cannot be read.
     std::optional<std::int64_t> integer(std::uint64_t index);
-    /// All bytes of the values from the first one on. Nothing when they are text.
-    std::optional<std::vector<unsigned char>> first(std::uint64_t count);
+    /// Whether the first values are whole numbers from 0 to below the limit.
+    bool areBelow(std::int64_t limit, std::uint64_t count);
 
 private:
     void findText();
@@ -60,7 +60,8 @@ private:
     std::vector<std::uint64_t> words(std::uint64_t from, std::size_t count);
     std::vector<unsigned char> values(std::uint64_t from, std::size_t count);
     std::vector<unsigned char> block(std::size_t index);
-    std::optional<std::int64_t> textInteger(std::uint64_t index);
+    std::int64_t integerFrom(const unsigned char* bytes) const;
+    std::string textWord();
 
     FileBytes& m_bytes;
     const XmlStorage& m_storage;

@@ -279,12 +279,15 @@ private:
     }
 
     void checkCells(const XmlElement* cells, std::uint64_t count) {
+        if (count == 0) {
+            return;
+        }
         if (cells == nullptr) {
             unknown();
             return;
         }
-        const XmlElement* const offsets = count == 0 ? nullptr : cellArray(*cells, "offsets");
-        const XmlElement* const points = count == 0 ? nullptr : cellArray(*cells, "connectivity");
+        const XmlElement* const offsets = cellArray(*cells, "offsets");
+        const XmlElement* const points = cellArray(*cells, "connectivity");
         if (offsets == nullptr || points == nullptr) {
             return;
         }
@@ -318,7 +321,9 @@ private:
         const auto type = xmlType(types->attribute("type"));
         XmlArray array(m_bytes, m_storage, *types, *type);
         expectRoom(array, *types, count, *type);
-        if (m_isOld && mayBeRenumbered(array, count, type->size)) {
+        // In old files VTK reorders the points of cells of higher order, which it trusts to have as
+        // many as it thinks.
+        if (m_isOld && !array.areBelow(VTK_HIGHER_ORDER_EDGE, count)) {
             unknown();
         }
     }
@@ -327,23 +332,6 @@ private:
         return std::ranges::any_of(cells.children, [](const XmlElement& array) {
             return array.attribute("Name") == "faces" || array.attribute("Name") == "faceoffsets";
         });
-    }
-
-    /// In old files VTK reorders the points of cells of higher order, which it trusts to have as
-    /// many as it thinks.
-    static bool mayBeRenumbered(XmlArray& array, std::uint64_t count, std::size_t size) {
-        const auto bytes = array.first(count);
-        if (!bytes) {
-            return false;
-        }
-        for (std::size_t at = 0; at < bytes->size(); at += size) {
-            for (std::size_t i = at; i < at + size; ++i) {
-                if ((*bytes)[i] >= VTK_HIGHER_ORDER_EDGE) {
-                    return true;
-                }
-            }
-        }
-        return false;
     }
 
     FileBytes& m_bytes;
