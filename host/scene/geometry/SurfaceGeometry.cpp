@@ -10,7 +10,7 @@
 #include <vtkSmartPointer.h>
 #include <vtkVertexGlyphFilter.h>
 
-#include <numeric>
+#include <functional>
 #include <vector>
 
 namespace corvane::scene {
@@ -34,10 +34,9 @@ vtkSmartPointer<vtkPolyData> outsideOf(vtkDataSet& mesh) {
     return outside->GetOutput();
 }
 
-/// Whether so many cells meet at points that comparing all with each other takes too long, as where
-/// a damaged file repeats a triangle a hundred thousand times.
-bool isCrowded(vtkPolyData& surface) {
-    std::vector<double> cellsOfPoint(static_cast<std::size_t>(surface.GetNumberOfPoints()));
+using VisitCell = std::function<void(vtkIdType count, const vtkIdType* points)>;
+
+void visitCells(vtkPolyData& surface, const VisitCell& visit) {
     for (vtkCellArray* const cells : {surface.GetPolys(), surface.GetStrips()}) {
         const auto iterator = vtk::TakeSmartPointer(cells->NewIterator());
         for (iterator->GoToFirstCell(); !iterator->IsDoneWithTraversal();
@@ -45,16 +44,31 @@ bool isCrowded(vtkPolyData& surface) {
             vtkIdType count = 0;
             const vtkIdType* points = nullptr;
             iterator->GetCurrentCell(count, points);
-            for (const vtkIdType* point = points; point < points + count; ++point) {
-                ++cellsOfPoint[static_cast<std::size_t>(*point)];
-            }
+            visit(count, points);
         }
     }
+}
+
+/// Whether finding the neighbours of cells takes too long, as where a damaged file repeats a
+/// triangle thousands of times: VTK compares all cells of one end of each edge with all of the
+/// other.
+bool isCrowded(vtkPolyData& surface) {
+    std::vector<double> cellsOfPoint(static_cast<std::size_t>(surface.GetNumberOfPoints()));
+    visitCells(surface, [&](vtkIdType count, const vtkIdType* points) {
+        for (vtkIdType i = 0; i < count; ++i) {
+            ++cellsOfPoint[static_cast<std::size_t>(points[i])];
+        }
+    });
+    double comparisons = 0.0;
+    visitCells(surface, [&](vtkIdType count, const vtkIdType* points) {
+        for (vtkIdType i = 0; i < count; ++i) {
+            comparisons += cellsOfPoint[static_cast<std::size_t>(points[i])] *
+                           cellsOfPoint[static_cast<std::size_t>(points[(i + 1) % count])];
+        }
+    });
     constexpr double bearable = 1e9;
     constexpr double usual = 1000.0;
-    const double comparisons =
-        std::inner_product(cellsOfPoint.begin(), cellsOfPoint.end(), cellsOfPoint.begin(), 0.0);
-    return comparisons > bearable + usual * static_cast<double>(cellsOfPoint.size());
+    return comparisons > bearable + usual * static_cast<double>(surface.GetNumberOfCells());
 }
 
 vtkSmartPointer<vtkPolyData> withNormals(vtkSmartPointer<vtkPolyData> surface) {

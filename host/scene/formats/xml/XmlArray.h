@@ -44,6 +44,8 @@ public:
 
     /// Bytes of values that it can hold at most.
     std::uint64_t capacity() const { return m_capacity; }
+    /// Whether the values are in the file as in memory, so that reading them cannot fail.
+    bool isPlain() const { return !m_isText && !m_isEncoded && m_storage.compressor == nullptr; }
     /// One of the values, of a type of whole numbers. Nothing where it cannot be told. Throws
     /// ReadFailure when it cannot be read.
     std::optional<std::int64_t> integer(std::uint64_t index);

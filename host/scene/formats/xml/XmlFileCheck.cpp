@@ -57,7 +57,8 @@ private:
         if (!ofPoints || !ofCells || m_pieces.has("TimeValues")) {
             return false;
         }
-        m_whole = {Certainty::Harmless, *ofPoints, *ofCells, pointsOf(m_pieces), std::nullopt};
+        m_whole = {Certainty::Harmless, true,        *ofPoints, *ofCells,
+                   pointsOf(m_pieces),  std::nullopt};
         if (m_pieces.has("WholeExtent")) {
             m_whole.extent = xmlExtent(m_pieces.attribute("WholeExtent"));
             if (!m_whole.extent) {
@@ -94,6 +95,11 @@ private:
         const auto mesh = meshIn(file, m_kind);
         if (!mesh || mesh->certainty == Certainty::Unknown ||
             !agrees(m_whole.ofPoints, mesh->ofPoints) || !agrees(m_whole.ofCells, mesh->ofCells)) {
+            return false;
+        }
+        // VTK takes it for granted that a piece has points, even where reading them failed.
+        const bool needsAll = m_kind == "StructuredGrid" || m_kind == "RectilinearGrid";
+        if (needsAll && !mesh->isPlain) {
             return false;
         }
         const bool hasPoints = m_kind != "ImageData" && m_kind != "RectilinearGrid";

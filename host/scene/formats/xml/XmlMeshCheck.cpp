@@ -243,6 +243,7 @@ private:
     void expectRoom(const XmlElement& element, const XmlArrayKind& kind, std::uint64_t tuples) {
         const auto type = xmlType(kind.type);
         const XmlArray array(m_bytes, m_storage, element, *type);
+        m_summary.isPlain = m_summary.isPlain && array.isPlain();
         expectRoom(array, element,
                    cappedProduct(tuples, static_cast<std::uint64_t>(kind.components)), *type);
     }

@@ -35,6 +35,7 @@ std::optional<XmlArrayKinds> xmlArrayKinds(const XmlElement* parent);
 
 struct XmlMeshSummary {
     Certainty certainty = Certainty::Harmless;
+    bool isPlain = true; ///< reading the arrays cannot fail
     XmlArrayKinds ofPoints;
     XmlArrayKinds ofCells;
     XmlArrayKind points;

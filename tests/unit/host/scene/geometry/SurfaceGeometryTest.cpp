@@ -40,7 +40,7 @@ TEST(SurfaceGeometry, sharpEdgesStaySharp) {
 
 // To find edges, all cells of a point are compared with each other.
 TEST(SurfaceGeometry, edgesAreNotSoughtWhereTooManyCellsMeet) {
-    const auto surface = scene::surfaceOf(*folded(40'000));
+    const auto surface = scene::surfaceOf(*folded(2000));
     EXPECT_EQ(surface->GetNumberOfPoints(), 4);
     EXPECT_NE(surface->GetPointData()->GetNormals(), nullptr);
 }
