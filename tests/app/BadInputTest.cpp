@@ -88,6 +88,13 @@ TEST_F(BadInput, brokenDataFile) {
     }
 }
 
+TEST_F(BadInput, dataThatLeadTheirReaderAstray) {
+    auto arguments = shortRun(folder, movie);
+    arguments[0] = folder.file("five.obj");
+    writeFile(arguments[0], "v 0 0 0\nv 1 0 0\nv 0 1 0\nvn 0 0 1\nf 1//1 2//2000000 3//1000000\n");
+    expectFailure(arguments, {"five.obj cannot be read: it is damaged: "});
+}
+
 TEST_F(BadInput, dataOfAnUnknownKind) {
     auto arguments = shortRun(folder, movie);
     arguments[0] = folder.file("data.xyz");

@@ -1,5 +1,6 @@
 #include "host/scene/formats/CgnsFile.h"
 
+#include "host/scene/formats/ReadingTrial.h"
 #include "host/scene/mesh/Hdf5Mutex.h"
 #include "host/scene/mesh/ReadError.h"
 
@@ -83,6 +84,7 @@ private:
 } // namespace
 
 vtkSmartPointer<vtkAlgorithm> CgnsFile::openReader() const {
+    expectHarmless(path(), contentsOnly, alwaysUnknown);
     silenceHdf5();
     const std::set<std::string> variables = CgnsContents(path()).variables();
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();

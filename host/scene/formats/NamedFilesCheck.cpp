@@ -1,12 +1,9 @@
 #include "host/scene/formats/NamedFilesCheck.h"
 
 #include "host/core/files/InputFiles.h"
+#include "host/scene/formats/xml/XmlHead.h"
+#include "host/scene/mesh/FileBytes.h"
 #include "host/scene/mesh/ReadError.h"
-#include "host/scene/vtk/VtkMessages.h"
-
-#include <vtkSmartPointer.h>
-#include <vtkXMLDataElement.h>
-#include <vtkXMLUtilities.h>
 
 #include <algorithm>
 #include <array>
@@ -35,27 +32,23 @@ bool namesFiles(const fs::path& path) {
     });
 }
 
-/// In the order of the file. Empty where it is not well-formed, which VTK's reader tells.
-std::vector<std::string> filesNamedIn(const fs::path& path) {
-    const VtkMessages messages;
-    const auto root = vtkSmartPointer<vtkXMLDataElement>::Take(
-        vtkXMLUtilities::ReadElementFromFile(path.c_str()));
-    std::vector<std::string> files;
-    std::vector<vtkXMLDataElement*> open;
-    if (root != nullptr) {
-        open.push_back(root);
+void collect(const XmlElement& element, std::vector<std::string>& files) {
+    for (const char* const name : {"file", "Source"}) {
+        if (element.has(name)) {
+            files.push_back(element.attribute(name));
+        }
     }
-    while (!open.empty()) {
-        vtkXMLDataElement* const element = open.back();
-        open.pop_back();
-        for (const char* const name : {"file", "Source"}) {
-            if (const char* const file = element->GetAttribute(name)) {
-                files.emplace_back(file);
-            }
-        }
-        for (int i = element->GetNumberOfNestedElements() - 1; i >= 0; --i) {
-            open.push_back(element->GetNestedElement(i));
-        }
+    for (const XmlElement& child : element.children) {
+        collect(child, files);
+    }
+}
+
+/// In the order of the file. Empty where it is not well-formed, which its reader tells.
+std::vector<std::string> filesNamedIn(const fs::path& path) {
+    FileBytes bytes(path.string());
+    std::vector<std::string> files;
+    if (const auto head = readXmlHead(bytes)) {
+        collect(head->root, files);
     }
     return files;
 }

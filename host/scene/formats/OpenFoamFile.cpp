@@ -2,6 +2,7 @@
 
 #include "host/core/base/Text.h"
 #include "host/core/files/InputFiles.h"
+#include "host/scene/formats/ReadingTrial.h"
 #include "host/scene/mesh/ReadError.h"
 
 #include <vtkCellData.h>
@@ -97,6 +98,23 @@ void dropCellCopies(vtkDataSet& mesh) {
     }
 }
 
+/// No look knows; but the mesh, and folders when they get another file, tell that a case is not the
+/// one that was tried.
+FileLook lookAtCase(const std::string& path) {
+    const fs::path folder = fs::path(path).parent_path();
+    FileLook look{Certainty::Unknown};
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        look.otherFiles.push_back(entry.path().string());
+    }
+    for (const fs::path& constant : {folder / "constant", folder / "processor0" / "constant"}) {
+        for (const auto& entry : fs::recursive_directory_iterator(constant, error)) {
+            look.otherFiles.push_back(entry.path().string());
+        }
+    }
+    return look;
+}
+
 } // namespace
 
 vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
@@ -109,7 +127,7 @@ vtkSmartPointer<vtkAlgorithm> OpenFoamFile::openReader() const {
     }
 
     std::call_once(m_checked, [&folder] { checkCase(folder); });
-
+    expectHarmless(path(), contentsOnly, lookAtCase);
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
     const vtkNew<vtkDummyController> controller;
     reader->SetController(controller);

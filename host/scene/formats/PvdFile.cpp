@@ -1,5 +1,7 @@
 #include "host/scene/formats/PvdFile.h"
 
+#include "host/scene/formats/ReadingTrial.h"
+#include "host/scene/formats/xml/XmlFileCheck.h"
 #include "host/scene/mesh/ReadError.h"
 #include "host/scene/vtk/VtkMessages.h"
 
@@ -23,6 +25,7 @@ std::string attribute(vtkXMLDataElement& element, const char* name) {
 }
 
 vtkSmartPointer<vtkXMLDataElement> parse(const std::string& path) {
+    expectHarmless(path, 0, checkXmlElements);
     const VtkMessages messages;
     const auto root = vtkSmartPointer<vtkXMLDataElement>::Take(
         vtkXMLUtilities::ReadElementFromFile(path.c_str()));

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <map>
+#include <utility>
 
 namespace corvane::scene {
 
@@ -79,6 +80,31 @@ bool hasPoints(vtkCellArray* cells, vtkIdType pointCount) {
     return range[0] >= 0.0 && range[1] < static_cast<double>(pointCount);
 }
 
+/// VTK has no kind for a cell of fewer points.
+bool hasLeastPoints(vtkCellArray* cells, vtkIdType least) {
+    if (cells == nullptr) {
+        return true;
+    }
+    for (vtkIdType i = 0; i < cells->GetNumberOfCells(); ++i) {
+        if (cells->GetCellSize(i) < least) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool hasSoundCells(vtkPolyData& surface) {
+    const vtkIdType points = surface.GetNumberOfPoints();
+    for (const auto& [cells, least] :
+         {std::pair{surface.GetVerts(), 1}, std::pair{surface.GetLines(), 2},
+          std::pair{surface.GetPolys(), 3}, std::pair{surface.GetStrips(), 3}}) {
+        if (!hasPoints(cells, points) || !hasLeastPoints(cells, least)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// For a polyhedron as VTK stores it: the number of faces, then for each face the number of its
 /// points and their ids.
 bool hasPoints(const vtkIdTypeArray& faces, vtkIdType start, vtkIdType pointCount) {
@@ -126,8 +152,7 @@ bool hasSoundCells(vtkDataSet& mesh) {
                hasSoundPolyhedra(*grid);
     }
     if (auto* const surface = vtkPolyData::SafeDownCast(&mesh)) {
-        return hasPoints(surface->GetVerts(), points) && hasPoints(surface->GetLines(), points) &&
-               hasPoints(surface->GetPolys(), points) && hasPoints(surface->GetStrips(), points);
+        return hasSoundCells(*surface);
     }
     return true;
 }

@@ -79,7 +79,7 @@ TEST(ExodusDamage, heapsThatCrashTheLibraryAreRefused) {
         try {
             scene::DataReaders().read({file});
         } catch (const host::HostError& error) {
-            EXPECT_THAT(error.what(), HasSubstr("box.e cannot be read: it is ")) << at;
+            EXPECT_THAT(error.what(), HasSubstr("box.e cannot be read: ")) << at;
             ++refused;
         }
     }

@@ -1,33 +1,38 @@
 // Work that may bring the process down.
 #include "host/scene/mesh/ForkedCheck.h"
 
+#include "host/core/base/HostError.h"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <ctime>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace corvane::test {
 namespace {
 
-using scene::survives;
-using scene::TrialTime;
-
-constexpr TrialTime enough{.cpuSeconds = 60, .patience = std::chrono::minutes(10)};
+using scene::TrialEnd;
+using scene::tryInHelper;
+using Kind = TrialEnd::Kind;
+using Arguments = std::vector<std::string>;
 
 int timesDone = 0;
 
-int endNormally(const host::TaskInput&) {
-    ++timesDone;
-    return 0;
+int work(const host::TaskInput& input) {
+    return scene::tellEnd(input, [](const Arguments& arguments) {
+        ++timesDone;
+        if (!arguments.empty()) {
+            throw host::HostError(arguments.front());
+        }
+    });
 }
-const host::Task ending("end normally", endNormally);
+const host::Task working("end normally or by an exception", work);
 
-int endByException(const host::TaskInput&) {
-    throw std::runtime_error("no");
+int endByAnyException(const host::TaskInput& input) {
+    return scene::tellEnd(input, [](const Arguments&) { throw std::runtime_error("no"); });
 }
-const host::Task throwing("end by an exception", endByException);
+const host::Task throwing("end by an exception that says nothing", endByAnyException);
 
 int raiseSignal(const host::TaskInput& input) {
     return std::raise(std::stoi(input.arguments.at(0)));
@@ -41,32 +46,35 @@ int computeForEver(const host::TaskInput&) {
 }
 const host::Task computing("compute for ever", computeForEver);
 
-int waitForEver(const host::TaskInput&) {
-    for (;;) {
-        pause();
-    }
-}
-const host::Task waiting("wait for ever", waitForEver);
-
-TEST(ForkedCheck, workThatEndsSurvives) {
-    EXPECT_TRUE(survives(ending, {}, enough));
-    EXPECT_TRUE(survives(throwing, {}, enough));
+TEST(ForkedCheck, workThatEndsIsDone) {
+    EXPECT_EQ(tryInHelper(working, {}, {}).kind, Kind::Done);
 }
 
-TEST(ForkedCheck, workThatCrashesDoesNot) {
-    EXPECT_FALSE(survives(crashing, {std::to_string(SIGSEGV)}, enough));
-    EXPECT_FALSE(survives(crashing, {std::to_string(SIGABRT)}, enough));
+TEST(ForkedCheck, whatWorkThrowsIsTold) {
+    const TrialEnd end = tryInHelper(working, {"There is a hole in it."}, {});
+    EXPECT_EQ(end.kind, Kind::Refused);
+    EXPECT_EQ(end.sentence, "There is a hole in it.");
+    EXPECT_EQ(tryInHelper(throwing, {}, {}).kind, Kind::Refused);
+    EXPECT_EQ(tryInHelper(throwing, {}, {}).sentence, "");
 }
 
-TEST(ForkedCheck, workThatDoesNotEndDoesNot) {
-    EXPECT_FALSE(
-        survives(computing, {}, TrialTime{.cpuSeconds = 1, .patience = std::chrono::minutes(10)}));
-    EXPECT_FALSE(
-        survives(waiting, {}, TrialTime{.cpuSeconds = 60, .patience = std::chrono::seconds(1)}));
+TEST(ForkedCheck, longSentencesAreCut) {
+    const TrialEnd end = tryInHelper(working, {std::string(100'000, 'a')}, {});
+    EXPECT_EQ(end.kind, Kind::Refused);
+    EXPECT_EQ(end.sentence.substr(0, 3), "aaa");
+}
+
+TEST(ForkedCheck, workThatCrashesIsTold) {
+    EXPECT_EQ(tryInHelper(crashing, {std::to_string(SIGSEGV)}, {}).kind, Kind::Crashed);
+    EXPECT_EQ(tryInHelper(crashing, {std::to_string(SIGABRT)}, {}).kind, Kind::Crashed);
+}
+
+TEST(ForkedCheck, workThatDoesNotEndIsEnded) {
+    EXPECT_EQ(tryInHelper(computing, {}, {.cpuSeconds = 1}).kind, Kind::Endless);
 }
 
 TEST(ForkedCheck, nothingOfItHappensHere) {
-    EXPECT_TRUE(survives(ending, {}, enough));
+    EXPECT_EQ(tryInHelper(working, {}, {}).kind, Kind::Done);
     EXPECT_EQ(timesDone, 0);
 }
 

@@ -57,6 +57,24 @@ TEST(MeshCheckTest, cellsMustHaveTheirPoints) {
     EXPECT_FALSE(isSound(*cube));
 }
 
+TEST(MeshCheckTest, cellsOfSurfacesMustHaveAsManyPointsAsTheirKindAtLeast) {
+    using Setter = void (vtkPolyData::*)(vtkCellArray*);
+    const std::vector<std::pair<Setter, vtkIdType>> kinds{{&vtkPolyData::SetVerts, 1},
+                                                          {&vtkPolyData::SetLines, 2},
+                                                          {&vtkPolyData::SetPolys, 3},
+                                                          {&vtkPolyData::SetStrips, 3}};
+    const std::vector<vtkIdType> points{0, 1, 2};
+    for (const auto& [set, least] : kinds) {
+        for (vtkIdType count = 0; count <= 3; ++count) {
+            const auto cube = sampleCube({0.0, 0.0, 0.0}, 1.0);
+            const vtkNew<vtkCellArray> cells;
+            cells->InsertNextCell(count, points.data());
+            ((*cube).*set)(cells);
+            EXPECT_EQ(isSound(*cube), count >= least) << count << " of " << least;
+        }
+    }
+}
+
 TEST(MeshCheckTest, cellsMustHaveAsManyPointsAsTheirKind) {
     const auto grid = sampleGrid();
     grid->GetCellData()->Initialize(); // which would have no values for the new cells
