@@ -3,6 +3,7 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 #include <utility>
 
@@ -24,7 +25,7 @@ CorBool append(const Operation& operation, CorArgList l, const char* name, T val
         return FALSE;
     }
     try {
-        l->set(name, value);
+        withSecondTry([&] { l->set(name, value); });
         return TRUE;
     } catch (...) {
         reportException(operation);

@@ -2,6 +2,7 @@
 #include "host/api/ArgumentList.h"
 
 #include "host/api/AllocationRegistry.h"
+#include "host/core/base/SecondTry.h"
 
 #include <memory>
 #include <new>
@@ -31,9 +32,11 @@ AllocationRegistry<CorArgList_s>& lists() {
 
 CorArgList newArgumentList() {
     try {
-        auto list = std::make_unique<CorArgList_s>();
-        lists().add(list.get());
-        return list.release();
+        return withSecondTry([] {
+            auto list = std::make_unique<CorArgList_s>();
+            lists().add(list.get());
+            return list.release();
+        });
     } catch (const std::bad_alloc&) {
         return nullptr;
     }

@@ -3,6 +3,7 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 #include <optional>
 
@@ -39,7 +40,7 @@ std::optional<StyleInput> inputLike(const StyleInput& kind, const CorArgList_s& 
     return value ? std::optional<StyleInput>(*value) : std::nullopt;
 }
 
-StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
+StyleSetResult_e setByPathOnce(Session& session, const CorArgList_s& args) {
     const StylePath path = pathOf(args);
     StyleInput present;
     switch (session.getStyle(path, present)) {
@@ -52,6 +53,11 @@ StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
     default:
         return StyleSet_BadPath;
     }
+}
+
+/// Add-ons put back by it what they have changed.
+StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
+    return withSecondTry([&] { return setByPathOnce(session, args); });
 }
 
 /// False when the caller left no room for a value of this kind.
@@ -69,6 +75,17 @@ bool deliver(const StyleInput& value, const CorArgList_s& args) {
         }
     }
     return false;
+}
+
+StyleGetResult_e getByPathOnce(Session& session, const CorArgList_s& args) {
+    StyleInput value;
+    const StyleGetResult_e result = session.getStyle(pathOf(args), value);
+    return result != StyleGet_Ok || deliver(value, args) ? result : StyleGet_NotAvailable;
+}
+
+/// Add-ons keep by it what they are going to change.
+StyleGetResult_e getByPath(Session& session, const CorArgList_s& args) {
+    return withSecondTry([&] { return getByPathOnce(session, args); });
 }
 
 } // namespace
@@ -91,8 +108,6 @@ int CorUtilStyleGet(CorArgList args) {
             call.misuse("args is no list of arguments");
             return StyleGet_BadPath;
         }
-        StyleInput value;
-        const StyleGetResult_e result = session.getStyle(pathOf(*args), value);
-        return result != StyleGet_Ok || deliver(value, *args) ? result : StyleGet_NotAvailable;
+        return getByPath(session, *args);
     });
 }

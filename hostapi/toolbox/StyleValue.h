@@ -13,6 +13,8 @@ namespace corvane::toolbox {
 
 // Holds the root path alone, never a frame: every call reaches the frame that is active at that
 // moment. Keywords compare without regard to letter case. A path ends at its first NULL keyword.
+// Only the constructors allocate: what is read and written later never throws, so that destructors
+// can put values back.
 class StyleValue {
 public:
     explicit StyleValue(const char* p1, const char* p2 = 0, const char* p3 = 0,
@@ -69,12 +71,15 @@ public:
 
     // Appends the root path and s1, s2 to args, as "Path1", "Path2" and so on.
     void setupSetValueArgList(ArgList& args, const char* s1, const char* s2 = 0) const {
-        long depth = 0;
-        const auto appendKeyword = [&](const std::string& keyword) {
-            args.appendString(("Path" + std::to_string(++depth)).c_str(), keyword);
+        if (!args.handle())
+            return;
+        char name[] = "Path0";
+        const auto appendKeyword = [&](const char* keyword) {
+            ++name[4];
+            CorUtilArgListAppendString(args.handle(), name, keyword);
         };
         for (long n = 1; n <= m_root.count(); ++n)
-            appendKeyword(m_root.string(n));
+            appendKeyword(m_root.string(n).c_str());
         for (const char* keyword : {s1, s2}) {
             if (!keyword)
                 break;
