@@ -11,28 +11,26 @@ unsigned long fadeLength(unsigned long totalFrames) {
     return totalFrames <= 90 ? totalFrames / 10 : 30;
 }
 
-toolbox::StyleValue orientationAxis() {
-    return toolbox::StyleValue("ThreeDAxis", "FrameAxis");
-}
-
 } // namespace
 
 AnimatorFade::AnimatorFade(const std::vector<KeyFrame_s>& keyFrames, const Settings_s& settings,
                            AnimatorAbstract* inner)
-    : AnimatorAbstract(keyFrames, inner), m_lightSource("GlobalThreeD", "LightSource") {
+    : AnimatorAbstract(keyFrames, inner),
+      m_lightSource("GlobalThreeD", "LightSource"),
+      m_orientationAxis("ThreeDAxis", "FrameAxis") {
     const unsigned long length = fadeLength(numTotalFrames());
     m_fadeInFrameCount = settings.fadeIn ? length : 0;
     m_fadeOutFrameCount = settings.fadeOut ? length : 0;
     m_lightSource.getDouble(m_savedIntensity, "Intensity");
     m_lightSource.getDouble(m_savedBackgroundLight, "BackgroundLight");
-    toolbox::StyleValue axis = orientationAxis();
-    axis.getBoolean(m_savedAxisShow, "Show");
-    axis.setBoolean(false, "Show");
+    m_orientationAxis.getBoolean(m_savedAxisShow, "Show");
+    m_orientationAxis.setBoolean(false, "Show");
 }
 
+// Both accessors are members, as making one allocates.
 AnimatorFade::~AnimatorFade() {
     setLight(1.0);
-    orientationAxis().setBoolean(m_savedAxisShow, "Show");
+    m_orientationAxis.setBoolean(m_savedAxisShow, "Show");
 }
 
 // The two ramps are deliberately no mirror images: the way in has one frame more and ends at full

@@ -28,6 +28,7 @@ private:
     double m_savedBackgroundLight = 0.0;
     bool m_savedAxisShow = false;
     toolbox::StyleValue m_lightSource;
+    toolbox::StyleValue m_orientationAxis;
 };
 
 } // namespace corvane::corutiltools

@@ -3,6 +3,7 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 #include <string>
 #include <utility>
@@ -26,7 +27,7 @@ CorBool append(const Operation& operation, CorArgList l, const char* name, Sourc
         return FALSE;
     }
     try {
-        l->set<T>(name, value);
+        withSecondTry([&] { l->set<T>(name, value); });
         return TRUE;
     } catch (...) {
         reportException(operation);

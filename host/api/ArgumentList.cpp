@@ -2,6 +2,7 @@
 #include "host/api/ArgumentList.h"
 
 #include "host/api/AllocationRegistry.h"
+#include "host/core/base/SecondTry.h"
 
 #include <array>
 #include <cstddef>
@@ -55,9 +56,11 @@ SpareLists& spareLists() {
 
 CorArgList newArgumentList() {
     try {
-        auto list = spareLists().take();
-        lists().add(list.get());
-        return list.release();
+        return withSecondTry([] {
+            auto list = spareLists().take();
+            lists().add(list.get());
+            return list.release();
+        });
     } catch (const std::bad_alloc&) {
         return nullptr;
     }

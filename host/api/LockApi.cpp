@@ -2,10 +2,16 @@
 #include "hostapi/CorLock.h"
 
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 using namespace corvane::host;
 
 namespace {
+
+/// A lock that is not counted would make its end an offence of the caller's.
+void take(Session& session, CorAddOnID owner) {
+    withSecondTry([&] { session.locks().start(owner); });
+}
 
 void release(Session& session, const auto& call, CorAddOnID id) {
     if (session.locks().finish(id)) {
@@ -27,7 +33,7 @@ CorAddOnID ownerOf(Session& session, const auto& call, CorAddOnID id) {
 } // namespace
 
 void CorUtilLockOn(void) {
-    TracedCall("CorUtilLockOn").perform([](Session& session) { session.locks().start(nullptr); });
+    TracedCall("CorUtilLockOn").perform([](Session& session) { take(session, nullptr); });
 }
 
 void CorUtilLockOff(void) {
@@ -37,7 +43,7 @@ void CorUtilLockOff(void) {
 
 void CorUtilLockStart(CorAddOnID id) {
     const TracedCall call("CorUtilLockStart", id);
-    call.perform([&](Session& session) { session.locks().start(ownerOf(session, call, id)); });
+    call.perform([&](Session& session) { take(session, ownerOf(session, call, id)); });
 }
 
 void CorUtilLockFinish(CorAddOnID id) {

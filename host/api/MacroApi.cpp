@@ -13,23 +13,39 @@ using namespace corvane::host;
 
 namespace {
 
+/// The text of an error that an add-on allocated; freed with the object.
+class AddOnMessage {
+public:
+    explicit AddOnMessage(CorMacroCommandCallback callback) : m_callback(callback) {}
+    /// In the add-on's name: a text that is not the host's is its fault.
+    ~AddOnMessage() {
+        takeBack({"CorUtilStringDealloc", reinterpret_cast<const void*>(m_callback)}, &m_text);
+    }
+    AddOnMessage(const AddOnMessage&) = delete;
+    AddOnMessage& operator=(const AddOnMessage&) = delete;
+
+    char** room() { return &m_text; }
+    std::string text() const { return textOf(m_text); }
+
+private:
+    CorMacroCommandCallback m_callback;
+    char* m_text = nullptr;
+};
+
 /// What went wrong, which may be empty, or nothing.
 std::optional<std::string> runCommand(Session& session, const std::string& macroName,
                                       CorMacroCommandCallback callback,
                                       const std::string& command) {
     std::string copy(trimmedAtEnd(command, " \t\r\n"));
-    char* message = nullptr;
+    AddOnMessage message(callback);
     bool succeeded = false;
     const std::string thrown =
         session.callAddOn(ofOwner("the command " + quoted(macroName), libraryOf(callback)),
-                          [&] { succeeded = callback(copy.data(), &message) != FALSE; });
-    const std::string reported = textOf(message);
-    // In the add-on's name: a text that is not the host's is its fault.
-    takeBack({"CorUtilStringDealloc", reinterpret_cast<const void*>(callback)}, &message);
+                          [&] { succeeded = callback(copy.data(), message.room()) != FALSE; });
     if (thrown.empty() && succeeded) {
         return std::nullopt;
     }
-    return thrown.empty() ? reported : thrown;
+    return thrown.empty() ? message.text() : thrown;
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 // The percent-done display.
 #include "hostapi/CorStatus.h"
 
+#include "host/api/Arguments.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 using namespace corvane::host;
 
@@ -14,7 +16,8 @@ void CorUtilStatusStartPercentDone(const char* text, CorBool showStopButton,
             call.misuse("text is NULL");
         }
         // The caller will finish what it started, with or without a text.
-        session.status().start(text ? text : "", showStopButton != FALSE, showProgressBar != FALSE);
+        const std::string shown = withSecondTry([&] { return textOf(text); });
+        session.status().start(shown, showStopButton != FALSE, showProgressBar != FALSE);
     });
 }
 

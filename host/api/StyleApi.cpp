@@ -3,6 +3,7 @@
 
 #include "host/api/ArgumentList.h"
 #include "host/api/TracedCall.h"
+#include "host/core/base/SecondTry.h"
 
 #include <array>
 #include <optional>
@@ -65,7 +66,7 @@ private:
     }
 };
 
-StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
+StyleSetResult_e setByPathOnce(Session& session, const CorArgList_s& args) {
     const PathWords path(args);
     const StyleTree* const styles = stylesFor(session, path);
     if (!styles) {
@@ -77,6 +78,11 @@ StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
     }
     const std::optional<StyleInput> input = std::visit(InputFor{args}, leaf->target);
     return input ? session.setStyle(*leaf, *input) : StyleSet_BadValue;
+}
+
+/// Add-ons put back by it what they have changed.
+StyleSetResult_e setByPath(Session& session, const CorArgList_s& args) {
+    return withSecondTry([&] { return setByPathOnce(session, args); });
 }
 
 /// False when the caller left no room for a value of this kind.
@@ -96,7 +102,7 @@ bool deliver(const StyleInput& value, const CorArgList_s& args) {
     return false;
 }
 
-StyleGetResult_e getByPath(const Session& session, const CorArgList_s& args) {
+StyleGetResult_e getByPathOnce(const Session& session, const CorArgList_s& args) {
     const PathWords path(args);
     const StyleTree* const styles = stylesFor(session, path);
     if (!styles) {
@@ -107,6 +113,11 @@ StyleGetResult_e getByPath(const Session& session, const CorArgList_s& args) {
         return StyleGet_BadPath;
     }
     return deliver(StyleTree::get(*leaf), args) ? StyleGet_Ok : StyleGet_NotAvailable;
+}
+
+/// Add-ons keep by it what they are going to change.
+StyleGetResult_e getByPath(const Session& session, const CorArgList_s& args) {
+    return withSecondTry([&] { return getByPathOnce(session, args); });
 }
 
 } // namespace

@@ -6,6 +6,20 @@
 
 namespace corvane::host {
 
+namespace {
+
+void tellCurrentException(const Operation& operation) {
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        reportMisuse(operation, error.what());
+    } catch (...) {
+        reportMisuse(operation, "failed for an unknown reason");
+    }
+}
+
+} // namespace
+
 bool mayProceedUntraced(const Operation& operation, bool hasResult) {
     if (isOnWrongThread(operation)) {
         return false;
@@ -26,13 +40,10 @@ bool isOnWrongThread(const Operation& operation) {
     return true;
 }
 
-void reportException(const Operation& operation) {
+void reportException(const Operation& operation) noexcept {
     try {
-        throw;
-    } catch (const std::exception& error) {
-        reportMisuse(operation, error.what());
-    } catch (...) {
-        reportMisuse(operation, "failed for an unknown reason");
+        tellCurrentException(operation);
+    } catch (...) { // NOLINT(bugprone-empty-catch): there is no one left to tell
     }
 }
 

@@ -42,6 +42,9 @@ private:
     template <class Step>
     void guarded(const Step& step) const;
     std::string text() const;
+    /// To be made before the work, which may free what the arguments point to. The work is done
+    /// where there is no memory for it, too.
+    std::string textOrNothing() const;
 
     Operation m_operation;
     std::tuple<Arguments...> m_arguments;
@@ -55,8 +58,8 @@ void reportMisuse(const Operation& operation, const std::string& what);
 /// True, and told to the trace, on any thread but that of the host.
 bool isOnWrongThread(const Operation& operation);
 
-/// To be called in a catch block: tells the trace about the exception.
-void reportException(const Operation& operation);
+/// To be called in a catch block: tells the trace about the exception, if there is memory for that.
+void reportException(const Operation& operation) noexcept;
 void record(Session& session, std::string call, std::string result);
 
 template <class Work>
@@ -84,6 +87,13 @@ std::string TracedCall<Arguments...>::text() const {
 }
 
 template <class... Arguments>
+std::string TracedCall<Arguments...>::textOrNothing() const {
+    std::string made;
+    guarded([&] { made = text(); });
+    return made;
+}
+
+template <class... Arguments>
 template <class Step>
 void TracedCall<Arguments...>::guarded(const Step& step) const {
     try {
@@ -104,22 +114,20 @@ void TracedCall<Arguments...>::run(bool hasResult, const Work& work,
     const CallTrace& trace = host->session().trace();
     const bool proceeds = trace.mayProceed(m_operation.name, hasResult);
     const bool isTraced = trace.isRecording();
-    std::string call;
-    guarded([&] {
-        if (isTraced) {
-            call = text(); // before the work, which may free what the arguments point to
-        }
-        if (proceeds) {
-            work(*host);
-        }
-    });
-    guarded([&] {
-        if (isTraced) {
+    std::string call = isTraced ? textOrNothing() : std::string();
+    if (proceeds) {
+        guarded([&] { work(*host); });
+    }
+    if (isTraced) {
+        guarded([&] {
+            if (call.empty()) {
+                call = m_operation.name;
+            }
             std::string result;
             appendResult(result);
             record(host->session(), std::move(call), std::move(result));
-        }
-    });
+        });
+    }
 }
 
 template <class... Arguments>

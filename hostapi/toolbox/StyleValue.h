@@ -13,6 +13,8 @@ namespace corvane::toolbox {
 
 // Holds the root path alone, never a frame: every call reaches the frame that is active at that
 // moment. Keywords compare without regard to letter case. A path ends at its first NULL keyword.
+// Only the constructors allocate: what is read and written later never throws, so that destructors
+// can put values back.
 class StyleValue {
 public:
     explicit StyleValue(const char* p1, const char* p2 = 0, const char* p3 = 0,

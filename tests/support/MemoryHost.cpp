@@ -26,10 +26,18 @@ MemoryHost::MemoryHost(bool hasWindows)
 }
 
 host::TraceSinks MemoryHost::misuseAndScript() {
-    return {
-        .onMisuse = [this](const std::string& what) { m_misuse.push_back(what); },
-        .onEnter = [this](const char* operation,
-                          bool hasResult) { return m_script.mayProceed(operation, hasResult); }};
+    return {.onMisuse = [this](const std::string& what) { m_misuse.push_back(what); },
+            .onEnter = [this](const char* operation,
+                              bool hasResult) { return mayProceed(operation, hasResult); }};
+}
+
+bool MemoryHost::mayProceed(const char* operation, bool hasResult) {
+    const bool hadFailed = hasFailedAt();
+    const bool proceeds = m_script.mayProceed(operation, hasResult);
+    if (hasFailedAt() && !hadFailed) {
+        m_callsBeforeFailure = m_records.size();
+    }
+    return proceeds;
 }
 
 void MemoryHost::stopRemembering() {

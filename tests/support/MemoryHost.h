@@ -98,7 +98,10 @@ public:
     ///     for (std::size_t k = 1;; ++k) { MemoryHost host; host.failAt(k); …
     ///         if (!host.hasFailedAt()) break; }
     void failAt(std::size_t k) { m_script.failAt(k); }
-    bool hasFailedAt() const { return m_script.hasFailedAt(); }
+    bool hasFailedAt() const { return !m_script.failedAt().empty(); }
+    /// The operation that failed so, and how many calls() there were before.
+    const std::string& failedAt() const { return m_script.failedAt(); }
+    std::size_t callsBeforeFailure() const { return m_callsBeforeFailure; }
     /// The user stops at the n-th time from now that the host asks (1 = the next one).
     void stopAtCheck(std::size_t n) { m_status.stopAtCheck(n); }
 
@@ -123,6 +126,7 @@ private:
     explicit MemoryHost(bool hasWindows);
 
     host::TraceSinks misuseAndScript();
+    bool mayProceed(const char* operation, bool hasResult);
     bool isExpected(const std::string& misuse) const;
 
     MemoryRenderer m_renderer;
@@ -135,6 +139,7 @@ private:
     MemoryWidgets m_widgets;
     MemoryMainMenu m_mainMenu;
     ScriptedCalls m_script;
+    std::size_t m_callsBeforeFailure = 0;
     std::vector<host::TraceRecord> m_records;
     std::vector<std::string> m_misuse;
     std::vector<std::string> m_expectedMisuse;

@@ -98,6 +98,8 @@ TEST(MemoryHostTest, anyCallWithAResultCanBeTheOneThatFails) {
     EXPECT_FALSE(host.hasFailedAt());
     EXPECT_EQ(CorUtilRedraw(TRUE), FALSE);
     EXPECT_TRUE(host.hasFailedAt());
+    EXPECT_EQ(host.failedAt(), "CorUtilRedraw");
+    EXPECT_EQ(host.callsBeforeFailure(), 3U);
     EXPECT_EQ(CorUtilRedraw(TRUE), TRUE);
     CorUtilLockFinish(nullptr);
 }

@@ -29,7 +29,7 @@ void ScriptedCalls::throwAt(std::string operation, std::size_t k) {
 
 void ScriptedCalls::failAt(std::size_t k) {
     m_failAt = k;
-    m_hasFailedAt = false;
+    m_failedAt.clear();
 }
 
 std::size_t ScriptedCalls::timesEntered(const std::string& operation) const {
@@ -49,7 +49,7 @@ void ScriptedCalls::countEntry(std::string_view operation) {
 bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
     countEntry(operation);
     if (hasResult && !cannotFail(operation) && m_failAt > 0 && --m_failAt == 0) {
-        m_hasFailedAt = true;
+        m_failedAt = operation;
         return false;
     }
     bool proceeds = true;

@@ -21,8 +21,8 @@ public:
 
     /// How often mayProceed() was asked about the operation.
     std::size_t timesEntered(const std::string& operation) const;
-    /// Whether the call that failAt() chose has come.
-    bool hasFailedAt() const { return m_hasFailedAt; }
+    /// The operation of the call that failAt() chose; empty while it has not come.
+    const std::string& failedAt() const { return m_failedAt; }
     /// Entries that no call ever met, as sentences: a name may be misspelt.
     std::vector<std::string> unmet() const;
 
@@ -40,7 +40,7 @@ private:
     std::vector<Entry> m_entries;
     std::map<std::string, std::size_t, std::less<>> m_timesEntered; ///< by operation
     std::size_t m_failAt = 0;                                       ///< 0: none
-    bool m_hasFailedAt = false;
+    std::string m_failedAt;
 };
 
 } // namespace corvane::test

@@ -27,10 +27,10 @@ int Locks::depthOf(Owner owner) const {
     return found == m_depths.end() ? 0 : found->second;
 }
 
-void Locks::restore(const Snapshot& snapshot) {
-    m_depths = snapshot;
+void Locks::restore(Snapshot snapshot) noexcept {
+    m_depths.swap(snapshot);
     m_total = std::accumulate(
-        snapshot.begin(), snapshot.end(), 0,
+        m_depths.begin(), m_depths.end(), 0,
         [](int sum, const Snapshot::value_type& entry) { return sum + entry.second; });
 }
 

@@ -21,7 +21,7 @@ public:
     /// For putting the counts back behind an add-on.
     using Snapshot = std::map<Owner, int>;
     const Snapshot& snapshot() const { return m_depths; }
-    void restore(const Snapshot& snapshot);
+    void restore(Snapshot snapshot) noexcept;
 
 private:
     Snapshot m_depths;

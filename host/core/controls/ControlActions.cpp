@@ -19,14 +19,14 @@ T* ControlActions::reachable(int handle) const {
 
 void ControlActions::tell(const Control& control, const OnPress& callback) {
     if (callback) {
-        m_controls.callAddOn(nameInTrace(control), callback);
+        m_controls.callAddOn(control, callback);
     }
 }
 
 void ControlActions::tellPosition(const Control& control, const OnPosition& callback,
                                   long position) {
     if (callback) {
-        m_controls.callAddOn(nameInTrace(control), [&] { callback(position); });
+        m_controls.callAddOn(control, [&] { callback(position); });
     }
 }
 
@@ -41,7 +41,7 @@ bool ControlActions::commit(TextField& field) {
     }
     const std::string text = field.committed;
     bool isAccepted = false;
-    m_controls.callAddOn(nameInTrace(field), [&] { isAccepted = field.onText(text); });
+    m_controls.callAddOn(field, [&] { isAccepted = field.onText(text); });
     return isAccepted;
 }
 
@@ -81,7 +81,7 @@ void ControlActions::switchOne(T& toggle, bool isOn) {
     }
     m_controls.setState(toggle, isOn);
     if (toggle.onState) {
-        m_controls.callAddOn(nameInTrace(toggle), [&] { toggle.onState(isOn); });
+        m_controls.callAddOn(toggle, [&] { toggle.onState(isOn); });
     }
 }
 

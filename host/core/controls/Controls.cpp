@@ -34,6 +34,17 @@ Controls::~Controls() {
     close();
 }
 
+/// Users act whether or not there is memory for a name, which only the trace wants.
+void Controls::callAddOn(const Control& control, const std::function<void()>& call) const {
+    std::string name;
+    try {
+        name = nameInTrace(control);
+    } catch (const std::bad_alloc&) {
+        name.clear();
+    }
+    m_caller(name, call);
+}
+
 void Controls::close() {
     if (Widgets* const toolkit = std::exchange(m_toolkit, nullptr)) {
         toolkit->close();
@@ -94,7 +105,7 @@ void Controls::launch(Dialog& dialog) {
     }
     m_toolkit->show(dialog);
     if (dialog.onInit) {
-        callAddOn("launch of " + nameInTrace(dialog), dialog.onInit);
+        m_caller("launch of " + nameInTrace(dialog), dialog.onInit);
     }
 }
 

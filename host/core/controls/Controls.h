@@ -79,10 +79,8 @@ public:
     /// Shows what a control is, whatever the user has made of it.
     void show(const Control& control, ControlChange change) const;
 
-    /// what says which control it is about, for the trace.
-    void callAddOn(const std::string& what, const std::function<void()>& call) const {
-        m_caller(what, call);
-    }
+    /// The call is about this control, for the trace.
+    void callAddOn(const Control& control, const std::function<void()>& call) const;
 
     /// Takes all windows away, for good. Nothing can be made afterwards.
     void close();

@@ -113,6 +113,7 @@ void PartFile::commit() {
     if (const std::string obstacle = obstacleAt(m_target); !obstacle.empty()) {
         throw cannotWrite(m_destination, obstacle);
     }
+    const std::string folder = folderOf(m_target).string();
     try {
         if (const std::error_code error = flush(path())) {
             throw std::system_error(error);
@@ -121,8 +122,9 @@ void PartFile::commit() {
     } catch (const std::system_error& error) {
         throw cannotWrite(m_destination, reasonAtTheEnd(error.code()));
     }
-    // The file stands at its name now; a folder that cannot be flushed does not take it away.
-    flush(folderOf(m_target).string());
+    // The file stands at its name now: nothing may fail any more. A folder that cannot be flushed
+    // does not take it away.
+    flush(folder);
 }
 
 } // namespace corvane::host

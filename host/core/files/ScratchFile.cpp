@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace corvane::host {
 
@@ -49,7 +50,7 @@ ScratchFile::ScratchFile(const std::string& destination) {
 }
 
 /// False when the name is taken.
-bool ScratchFile::make(const std::string& path) {
+bool ScratchFile::make(std::string path) {
     const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (file < 0 && errno == EEXIST) {
         return false;
@@ -62,7 +63,7 @@ bool ScratchFile::make(const std::string& path) {
         return false;
     }
     m_file = file;
-    m_path = path;
+    m_path = std::move(path);
     return true;
 }
 

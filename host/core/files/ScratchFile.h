@@ -20,7 +20,7 @@ public:
     void moveTo(const std::string& destination);
 
 private:
-    bool make(const std::string& path);
+    bool make(std::string path);
 
     std::string m_path;
     int m_file = -1; ///< holds the lock

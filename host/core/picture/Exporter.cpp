@@ -10,11 +10,15 @@
 #include "host/core/ports/Ports.h"
 
 #include <new>
+#include <string_view>
 #include <utility>
 
 namespace corvane::host {
 
 namespace {
+
+constexpr std::string_view noMemory =
+    "There is not enough memory for the movie. Choose a smaller width.";
 
 ExportRegion_e regionOf(const ExportSetup& setup) {
     return static_cast<ExportRegion_e>(setup.region);
@@ -43,7 +47,9 @@ Exporter::Exporter(const Page& page, const ExportSetup& setup, Drawing& drawing,
       m_drawing(drawing),
       m_renderer(renderer),
       m_writers(writers),
-      m_tell(std::move(tell)) {}
+      m_tell(std::move(tell)) {
+    m_failure.reserve(noMemory.size());
+}
 
 Exporter::~Exporter() = default;
 
@@ -105,17 +111,34 @@ bool Exporter::guarded(void (Exporter::*step)()) {
         (this->*step)();
         return true;
     } catch (const std::bad_alloc&) {
-        m_failure = "There is not enough memory for the movie. Choose a smaller width.";
-    } catch (const std::exception& error) {
-        const std::string cause = messageOf(error);
-        m_failure = m_file ? m_file->namingDestination(cause) : cause;
+        m_failure = noMemory;
     } catch (...) {
-        m_failure.clear();
-    }
-    if (m_failure.empty()) {
-        m_failure = "The movie could not be written for an unknown reason.";
+        keepFailure();
     }
     return false;
+}
+
+/// In a catch block.
+void Exporter::keepFailure() {
+    try {
+        m_failure.assign(causeOfFailure());
+    } catch (const std::bad_alloc&) {
+        m_failure = noMemory;
+    }
+}
+
+std::string Exporter::causeOfFailure() const {
+    std::string cause;
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        cause = messageOf(error);
+    } catch (...) { // NOLINT(bugprone-empty-catch): nobody knows more than that it failed
+    }
+    if (cause.empty()) {
+        return "The movie could not be written for an unknown reason.";
+    }
+    return m_file ? m_file->namingDestination(cause) : cause;
 }
 
 void Exporter::complete() {

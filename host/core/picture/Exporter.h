@@ -48,6 +48,8 @@ private:
     void open();
     void addPicture();
     bool guarded(void (Exporter::*step)());
+    void keepFailure();
+    std::string causeOfFailure() const;
     void complete();
     void close();
 
@@ -60,7 +62,7 @@ private:
     std::unique_ptr<PartFile> m_file;
     std::unique_ptr<MovieWriter> m_writer;
     PictureRequest m_request;
-    std::string m_failure;
+    std::string m_failure; ///< has room for want of memory, as there is none for more then
     unsigned long m_frames = 0;
 };
 

@@ -2,15 +2,20 @@
 #include "host/core/session/AddOnCallGuard.h"
 
 #include "host/core/addons/CallTrace.h"
+#include "host/core/base/SecondTry.h"
 #include "host/core/controls/Controls.h"
 #include "host/core/picture/Drawing.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace corvane::host {
 
 namespace {
+
+/// So short that strings hold it without memory of their own.
+constexpr const char* noMemory = "Out of memory.";
 
 std::string textOf(const std::exception& error) {
     const std::string text = error.what();
@@ -43,19 +48,38 @@ std::string addOnCallUnderway() {
 
 std::string AddOnCallGuard::call(const std::string& what, const std::function<void()>& work) {
     const Underway underway(what);
-    const State before = state();
-    std::string error;
+    try {
+        return callGuarded(what, work);
+    } catch (const std::bad_alloc&) {
+        return noMemory;
+    }
+}
+
+std::string AddOnCallGuard::callGuarded(const std::string& what,
+                                        const std::function<void()>& work) {
+    State before = withSecondTry([this] { return state(); });
     try {
         work();
-        putBackLeftovers(before, what);
-        return error;
+    } catch (...) {
+        putBackAfterThrow(before); // first, as telling needs memory
+        return tellThrown(what);
+    }
+    putBackLeftovers(before, what);
+    return {};
+}
+
+std::string AddOnCallGuard::tellThrown(const std::string& what) const {
+    std::string error;
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        error = noMemory;
     } catch (const std::exception& thrown) {
         error = textOf(thrown);
     } catch (...) {
         error = "The add-on failed for an unknown reason.";
     }
     m_trace.exception(what + ": " + error);
-    putBackAfterThrow(before);
     return error;
 }
 
@@ -74,25 +98,32 @@ bool AddOnCallGuard::gaveBackLockOfDialog(const State& before) const {
     return givenBack > 0 && givenBack <= m_controls.modalDrops() - before.modalDrops;
 }
 
-void AddOnCallGuard::putBackAfterThrow(const State& before) {
+void AddOnCallGuard::putBackAfterThrow(State& before) {
     if (!gaveBackLockOfDialog(before)) { // nobody is left to give it back a second time
-        m_locks.restore(before.locks);
+        m_locks.restore(std::move(before.locks));
     }
     m_drawing.restoreSuspensions(before.suspensions);
 }
 
-void AddOnCallGuard::putBackLeftovers(const State& before, const std::string& what) {
-    if (m_locks.snapshot() != before.locks && !tookLockForDialog(before) &&
-        !gaveBackLockOfDialog(before)) {
-        m_trace.misuse(what + ": locks are not balanced (" + fromTo(m_locks.depth(), before.depth) +
-                       ")");
-        m_locks.restore(before.locks);
+void AddOnCallGuard::putBackLeftovers(State& before, const std::string& what) {
+    const int depth = m_locks.depth();
+    const int suspensions = m_drawing.suspensions();
+    const bool hasLeftLocks = m_locks.snapshot() != before.locks && !tookLockForDialog(before) &&
+                              !gaveBackLockOfDialog(before);
+    if (hasLeftLocks) {
+        m_locks.restore(std::move(before.locks));
         m_drawing.schedule(); // what the locks held back
     }
-    if (m_drawing.suspensions() != before.suspensions) {
-        m_trace.misuse(what + ": suspended drawing is not balanced (" +
-                       fromTo(m_drawing.suspensions(), before.suspensions) + ")");
+    if (suspensions != before.suspensions) {
         m_drawing.restoreSuspensions(before.suspensions);
+    }
+    // Last, as telling needs memory.
+    if (hasLeftLocks) {
+        m_trace.misuse(what + ": locks are not balanced (" + fromTo(depth, before.depth) + ")");
+    }
+    if (suspensions != before.suspensions) {
+        m_trace.misuse(what + ": suspended drawing is not balanced (" +
+                       fromTo(suspensions, before.suspensions) + ")");
     }
 }
 

@@ -26,7 +26,8 @@ public:
     AddOnCallGuard(Locks& locks, Drawing& drawing, const Controls& controls, const CallTrace& trace)
         : m_locks(locks), m_drawing(drawing), m_controls(controls), m_trace(trace) {}
 
-    /// Answers the text of what was thrown, never empty; empty when nothing was.
+    /// Answers the text of what was thrown, never empty; empty when nothing was. Without any memory
+    /// the add-on may not be called at all, which the text tells, too.
     std::string call(const std::string& what, const std::function<void()>& work);
 
 private:
@@ -41,8 +42,12 @@ private:
     State state() const;
     bool tookLockForDialog(const State& before) const;
     bool gaveBackLockOfDialog(const State& before) const;
-    void putBackAfterThrow(const State& before);
-    void putBackLeftovers(const State& before, const std::string& what);
+    std::string callGuarded(const std::string& what, const std::function<void()>& work);
+    /// In a catch block.
+    std::string tellThrown(const std::string& what) const;
+    /// Both need no memory to put back what was before, and take it from there.
+    void putBackAfterThrow(State& before);
+    void putBackLeftovers(State& before, const std::string& what);
 
     Locks& m_locks;
     Drawing& m_drawing;

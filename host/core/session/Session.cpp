@@ -2,6 +2,7 @@
 #include "host/core/session/Session.h"
 
 #include "host/core/base/HostError.h"
+#include "host/core/base/SecondTry.h"
 #include "host/core/base/Text.h"
 #include "host/core/files/PartFile.h"
 #include "host/core/picture/PictureRequests.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <utility>
 
 namespace corvane::host {
@@ -305,9 +307,18 @@ AddOnCaller Session::addOnCaller() {
     return [this](const std::string& what, const std::function<void()>& call) {
         const std::string error = callAddOn(what, call);
         if (!error.empty()) {
-            m_ports.prompts.showError(error);
+            showAddOnError(error);
         }
     };
+}
+
+/// A message that finds no memory gets lost: there is nobody whom its loss could be told.
+void Session::showAddOnError(const std::string& error) {
+    try {
+        withSecondTry([&] { m_ports.prompts.showError(error); });
+    } catch (const std::bad_alloc&) {
+        m_trace.exception("Out of memory.");
+    }
 }
 
 void Session::onIdle() {

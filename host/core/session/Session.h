@@ -145,6 +145,7 @@ private:
     /// Makes the change, and tells when another frame is active than before. Answers what it did.
     bool announceIfActivated(const std::function<bool()>& change);
     AddOnCaller addOnCaller(); ///< calls behind the guard, and tells the user what was thrown
+    void showAddOnError(const std::string& error);
 
     Ports m_ports;
     CallTrace m_trace;
