@@ -3,10 +3,20 @@
 
 #include "host/api/TracedCall.h"
 
+#include <atomic>
+#include <cstddef>
 #include <mutex>
 #include <unordered_set>
 
 namespace corvane::host {
+
+/// Of all registries, for themselves.
+std::atomic<std::size_t>& heldThings();
+
+/// How many strings, arrays, sets and argument lists add-ons have not given back.
+inline std::size_t thingsHeldByAddOns() {
+    return heldThings();
+}
 
 /// Remembers what was given to add-ons and not given back, so that freeing something twice, or
 /// something that never came from here, is told to the trace and harms nothing. An address may be
@@ -18,6 +28,7 @@ public:
     void add(const T* thing) {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_things.insert(thing);
+        ++heldThings();
     }
     bool has(const T* thing) const {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -39,7 +50,9 @@ public:
 private:
     bool remove(const T* thing) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_things.erase(thing) != 0;
+        const bool wasHere = m_things.erase(thing) != 0;
+        heldThings() -= wasHere ? 1 : 0;
+        return wasHere;
     }
 
     mutable std::mutex m_mutex;

@@ -1,12 +1,12 @@
 // Reads data that tests made.
-#include "tests/support/MemoryReader.h"
+#include "host/memory/MemoryReader.h"
 
 #include "host/core/base/HostError.h"
-#include "tests/support/MemoryData.h"
+#include "host/memory/MemoryData.h"
 
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 std::shared_ptr<const host::DataSet> MemoryReader::read(const std::vector<std::string>& files) {
     m_reads.push_back(files);
@@ -16,4 +16,4 @@ std::shared_ptr<const host::DataSet> MemoryReader::read(const std::vector<std::s
     return m_data ? m_data : makeTransientData(files);
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

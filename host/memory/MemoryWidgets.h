@@ -2,13 +2,13 @@
 #pragma once
 
 #include "host/core/controls/Widgets.h"
-#include "tests/support/MemoryDialog.h"
+#include "host/memory/MemoryDialog.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 ///     host.gui().dialog("Kites").field("Name:").type("red");
 ///     host.gui().dialog("Kites").button("Add").click();
@@ -63,4 +63,4 @@ private:
     bool m_isClosed = false;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

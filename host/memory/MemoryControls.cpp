@@ -1,12 +1,12 @@
 // The controls of add-ons as a user of the tests sees and uses them.
-#include "tests/support/MemoryControls.h"
+#include "host/memory/MemoryControls.h"
 
 #include <algorithm>
 #include <cctype>
 #include <stdexcept>
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 namespace {
 
@@ -123,4 +123,4 @@ MemoryMenu MemoryMenu::menu(const std::string& label) const {
     return {entryOf<host::Menu>(control(), label), *m_actions};
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

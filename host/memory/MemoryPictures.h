@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// The file itself holds nothing but the size, since a host renames what it had written.
 class MemoryPictures : public host::PictureFiles {
@@ -24,4 +24,4 @@ private:
     std::string m_failure; ///< empty: none
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

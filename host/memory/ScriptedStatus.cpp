@@ -1,7 +1,7 @@
 // A percent-done display that remembers what it showed, and a user who stops on cue.
-#include "tests/support/ScriptedStatus.h"
+#include "host/memory/ScriptedStatus.h"
 
-namespace corvane::test {
+namespace corvane::memory {
 
 void ScriptedStatus::start(const std::string& text, bool showStop, bool showProgress) {
     m_events.push_back("start \"" + text + '"' + (showStop ? " stop" : "") +
@@ -26,10 +26,18 @@ void ScriptedStatus::finish() {
     m_isUp = false;
 }
 
+void ScriptedStatus::stopAtCheck(std::size_t n) {
+    m_stopAt = n;
+    m_hasStoppedAt = false;
+    m_checksAfterStop = 0;
+}
+
 bool ScriptedStatus::isStopRequested() {
     ++m_checks;
+    m_checksAfterStop += m_stopped ? 1 : 0;
     if (m_stopAt > 0 && --m_stopAt == 0) {
         m_stopped = true;
+        m_hasStoppedAt = true;
     }
     return m_stopped;
 }
@@ -41,4 +49,4 @@ void ScriptedStatus::clear() {
     m_checks = 0;
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

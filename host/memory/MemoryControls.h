@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// One control. Copies mean the same one; it must not be used after the host has gone. What a user
 /// cannot do, because the control is dimmed, its dialog hidden or behind a modal one, throws
@@ -144,4 +144,4 @@ private:
     host::ControlActions* m_actions;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

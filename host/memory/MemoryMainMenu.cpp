@@ -1,10 +1,10 @@
 // Menus of a main window without a window: tests choose from them as a user would.
-#include "tests/support/MemoryMainMenu.h"
+#include "host/memory/MemoryMainMenu.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 std::vector<std::string> MemoryMainMenu::menus() const {
     std::vector<std::string> titles;
@@ -53,4 +53,4 @@ void MemoryMainMenu::close() {
     m_options.clear();
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

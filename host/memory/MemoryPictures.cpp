@@ -1,11 +1,11 @@
 // Picture files, kept in memory.
-#include "tests/support/MemoryPictures.h"
+#include "host/memory/MemoryPictures.h"
 
 #include "host/core/base/HostError.h"
 
 #include <fstream>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 void MemoryPictures::write(const host::Picture& picture, const std::string& path) {
     if (!m_failure.empty()) {
@@ -15,4 +15,4 @@ void MemoryPictures::write(const host::Picture& picture, const std::string& path
     m_written.push_back(picture);
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -1,12 +1,12 @@
 // A dialog of an add-on as a user of the tests sees and uses it.
-#include "tests/support/MemoryDialog.h"
+#include "host/memory/MemoryDialog.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <stdexcept>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 namespace {
 
@@ -209,4 +209,4 @@ void MemoryDialog::pressReturn() const {
     act().ok(handle());
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -6,15 +6,21 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 class ScriptedCalls {
 public:
     void failNext(std::string operation, std::size_t n);
     void throwAt(std::string operation, std::size_t k);
     void failAt(std::size_t k);
+    /// Asked when the call that failAt() chose has come, with its operation, before it fails;
+    /// false: it is spared.
+    void askBeforeFailing(std::function<bool(const std::string& operation)> mayFail) {
+        m_mayFail = std::move(mayFail);
+    }
 
     /// For TraceSinks::onEnter. Throws std::runtime_error where the script says so.
     bool mayProceed(std::string_view operation, bool hasResult);
@@ -41,6 +47,7 @@ private:
     std::map<std::string, std::size_t, std::less<>> m_timesEntered; ///< by operation
     std::size_t m_failAt = 0;                                       ///< 0: none
     bool m_hasFailedAt = false;
+    std::function<bool(const std::string&)> m_mayFail = [](const std::string&) { return true; };
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 struct MemoryMovie {
     host::MovieRequest request;
@@ -47,4 +47,4 @@ private:
     Script m_script;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

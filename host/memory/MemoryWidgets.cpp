@@ -1,10 +1,10 @@
 // A toolkit without windows: tests use its dialogs as a user would.
-#include "tests/support/MemoryWidgets.h"
+#include "host/memory/MemoryWidgets.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 const host::Dialog* MemoryWidgets::find(const std::string& title) const {
     for (const host::Control* each : m_all) {
@@ -77,4 +77,4 @@ void MemoryWidgets::close() {
     m_all.clear();
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// What one picture showed of the active frame.
 struct RenderedState {
@@ -50,4 +50,4 @@ private:
     int m_largestSize = 32768;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

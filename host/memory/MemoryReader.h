@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// Any file holds the transient data of makeTransientData, unless a test said otherwise.
 class MemoryReader : public host::DataReader {
@@ -30,4 +30,4 @@ private:
     std::vector<std::vector<std::string>> m_reads;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -1,12 +1,12 @@
 // A dialog of an add-on as a user of the tests sees and uses it.
 #pragma once
 
-#include "tests/support/MemoryControls.h"
+#include "host/memory/MemoryControls.h"
 
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// Controls are found by their label, by the label beside them, or by handle; without an argument
 /// the only one of its kind is meant. std::logic_error when there is none, or more than one.
@@ -71,4 +71,4 @@ private:
     host::ControlActions* m_actions;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

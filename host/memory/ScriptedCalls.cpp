@@ -1,11 +1,11 @@
-#include "tests/support/ScriptedCalls.h"
+#include "host/memory/ScriptedCalls.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 namespace {
 
@@ -50,7 +50,7 @@ bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
     countEntry(operation);
     if (hasResult && !cannotFail(operation) && m_failAt > 0 && --m_failAt == 0) {
         m_hasFailedAt = true;
-        return false;
+        return !m_mayFail(std::string(operation));
     }
     bool proceeds = true;
     for (Entry& entry : m_entries) {
@@ -87,4 +87,4 @@ std::vector<std::string> ScriptedCalls::unmet() const {
     return sentences;
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

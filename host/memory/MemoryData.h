@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 /// Zones 1 to 3: the volume block "flow" at the times 0, 1 and 2, strand 1. Zone 4: the static
 /// surface block "body". Variables "pressure" (0 to 1) and "velocity" (a vector of length 0 to 2).
@@ -21,4 +21,4 @@ std::shared_ptr<host::DataSet> makeStaticData(std::vector<std::string> files = {
 /// 0 to 8). The box reaches from 0 0 0 to 4 2 1: x is its longest side and z its shortest.
 std::shared_ptr<host::DataSet> makeVolumeData();
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -1,12 +1,25 @@
 // Dialogs that answer by a script, and remember what they showed.
-#include "tests/support/ScriptedPrompts.h"
+#include "host/memory/ScriptedPrompts.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 using Kind = ShownDialog::Kind;
+
+namespace {
+
+/// Users can choose only what exists to read it.
+std::optional<std::string> nameIn(const std::string& folder, const std::string& filter,
+                                  bool forWriting) {
+    const std::string extension = std::filesystem::path(filter).extension().string();
+    const std::string name = folder + "/file" + extension;
+    return forWriting || std::filesystem::exists(name) ? std::optional(name) : std::nullopt;
+}
+
+} // namespace
 
 void ScriptedPrompts::showError(const std::string& message) {
     m_shown.push_back({Kind::Error, message, {}, {}});
@@ -31,7 +44,7 @@ std::optional<std::string> ScriptedPrompts::askFileName(bool forWriting,
     m_shown.push_back(
         {forWriting ? Kind::FileToWrite : Kind::FileToRead, fileType, defaultName, filter});
     if (m_fileNames.empty()) {
-        return std::nullopt;
+        return m_folder.empty() ? std::nullopt : nameIn(m_folder, filter, forWriting);
     }
     std::string name = std::move(m_fileNames.front());
     m_fileNames.pop_front();
@@ -57,4 +70,4 @@ std::vector<std::string> ScriptedPrompts::shown(ShownDialog::Kind kind) const {
     return texts;
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -1,9 +1,9 @@
 // A small data set without a file.
-#include "tests/support/MemoryData.h"
+#include "host/memory/MemoryData.h"
 
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::shared_ptr<host::DataSet> makeVolumeData() {
     return data;
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 struct ShownDialog {
     enum class Kind { Error, Notice, Question, FileToRead, FileToWrite, Help };
@@ -36,6 +36,9 @@ public:
     void answer(std::string partOfQuestion, bool yes);
     /// The next file dialog gives this name; more of them queue up.
     void answerFile(std::string name) { m_fileNames.push_back(std::move(name)); }
+    /// From now on file dialogs that no name waits for give one in this folder, with the extension
+    /// that they ask for; empty: they are cancelled again.
+    void answerFilesIn(std::string folder) { m_folder = std::move(folder); }
     /// From now on there are no help pages.
     void loseHelp() { m_hasHelp = false; }
 
@@ -53,7 +56,8 @@ private:
     std::vector<ShownDialog> m_shown;
     std::vector<Answer> m_answers;
     std::deque<std::string> m_fileNames;
+    std::string m_folder; ///< empty: none
     bool m_hasHelp = true;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

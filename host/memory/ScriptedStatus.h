@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 class ScriptedStatus : public host::StatusDisplay {
 public:
@@ -18,7 +18,11 @@ public:
     bool isStopRequested() override;
 
     /// The user stops at the n-th time from now that the host asks (1 = the next one).
-    void stopAtCheck(std::size_t n) { m_stopAt = n; }
+    void stopAtCheck(std::size_t n);
+    /// Whether the stop that stopAtCheck() chose has come.
+    bool hasStoppedAt() const { return m_hasStoppedAt; }
+    /// How often the host asked again in the display in which the user had stopped last.
+    std::size_t checksAfterStop() const { return m_checksAfterStop; }
     /// The next checks know nothing of a stop that an earlier one told.
     void forgetStop() { m_stopped = false; }
 
@@ -37,9 +41,11 @@ private:
     std::vector<std::string> m_texts;
     std::vector<int> m_percents;
     std::size_t m_checks = 0;
+    std::size_t m_checksAfterStop = 0;
     std::size_t m_stopAt = 0; ///< 0: never
+    bool m_hasStoppedAt = false;
     bool m_stopped = false;
     bool m_isUp = false;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

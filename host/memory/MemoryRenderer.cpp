@@ -1,12 +1,12 @@
 // Draws nothing, and remembers what was to be drawn.
-#include "tests/support/MemoryRenderer.h"
+#include "host/memory/MemoryRenderer.h"
 
 #include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
 
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 host::Picture MemoryRenderer::draw(const host::Page& page, const host::PictureRequest& request) {
     RenderedState state;
@@ -58,4 +58,4 @@ void MemoryRenderer::remember(const host::Page& page, RenderedState state) {
     m_states.push_back(std::move(state));
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

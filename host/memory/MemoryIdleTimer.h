@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 class MemoryIdleTimer : public host::IdleTimer {
 public:
@@ -16,4 +16,4 @@ private:
     std::size_t m_requests = 0;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -1,11 +1,13 @@
-// The host of the tests: the real core and C operations, with everything outside in memory.
-#include "tests/support/MemoryHost.h"
+// A host for tests: the real core and C operations, with everything outside in memory.
+#include "host/memory/MemoryHost.h"
+
+#include "host/api/AllocationRegistry.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 MemoryHost::MemoryHost(bool hasWindows)
     : m_program(std::make_unique<host::Host>(
@@ -27,9 +29,23 @@ MemoryHost::MemoryHost(bool hasWindows)
 
 host::TraceSinks MemoryHost::misuseAndScript() {
     return {
-        .onMisuse = [this](const std::string& what) { m_misuse.push_back(what); },
+        .onMisuse =
+            [this](const std::string& what) {
+                const std::lock_guard<std::mutex> lock(m_misuseMutex);
+                m_misuse.push_back(what);
+            },
+        .onException = [this](const std::string& what) { m_exceptions.push_back(what); },
         .onEnter = [this](const char* operation,
                           bool hasResult) { return m_script.mayProceed(operation, hasResult); }};
+}
+
+Complaints MemoryHost::takeComplaints() {
+    const std::lock_guard<std::mutex> lock(m_misuseMutex);
+    return {std::exchange(m_misuse, {}), std::exchange(m_exceptions, {})};
+}
+
+std::size_t MemoryHost::thingsHeld() {
+    return host::thingsHeldByAddOns();
 }
 
 void MemoryHost::stopRemembering() {
@@ -138,4 +154,4 @@ std::vector<std::string> MemoryHost::leftBehind() const {
     return findings;
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

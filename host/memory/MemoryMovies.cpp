@@ -1,12 +1,12 @@
 // Movies that are counted instead of encoded.
-#include "tests/support/MemoryMovies.h"
+#include "host/memory/MemoryMovies.h"
 
 #include "host/core/base/HostError.h"
 
 #include <fstream>
 #include <utility>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 class MemoryMovies::Writer : public host::MovieWriter {
 public:
@@ -64,4 +64,4 @@ std::unique_ptr<host::MovieWriter> MemoryMovies::open(const host::MovieRequest& 
     return std::make_unique<Writer>(m_movies.back(), m_script);
 }
 
-} // namespace corvane::test
+} // namespace corvane::memory

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane::test {
+namespace corvane::memory {
 
 class MemoryMainMenu : public host::MainMenu {
 public:
@@ -34,4 +34,4 @@ private:
     bool m_isClosed = false;
 };
 
-} // namespace corvane::test
+} // namespace corvane::memory
