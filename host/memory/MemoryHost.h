@@ -108,7 +108,9 @@ public:
     ///         if (!host.hasFailedAt()) break; }
     void failAt(std::size_t k) { m_script.failAt(k); }
     bool hasFailedAt() const { return m_script.hasFailedAt(); }
-    /// See ScriptedCalls::askBeforeFailing.
+    /// See ScriptedCalls.
+    void keepCandidates() { m_script.keepCandidates(); }
+    std::vector<std::string> takeCandidates() { return m_script.takeCandidates(); }
     void askBeforeFailing(std::function<bool(const std::string& operation)> mayFail) {
         m_script.askBeforeFailing(std::move(mayFail));
     }

@@ -32,6 +32,11 @@ void ScriptedCalls::failAt(std::size_t k) {
     m_hasFailedAt = false;
 }
 
+std::vector<std::string> ScriptedCalls::takeCandidates() {
+    m_keepsCandidates = false;
+    return std::exchange(m_candidates, {});
+}
+
 std::size_t ScriptedCalls::timesEntered(const std::string& operation) const {
     const auto found = m_timesEntered.find(operation);
     return found != m_timesEntered.end() ? found->second : 0;
@@ -48,7 +53,11 @@ void ScriptedCalls::countEntry(std::string_view operation) {
 
 bool ScriptedCalls::mayProceed(std::string_view operation, bool hasResult) {
     countEntry(operation);
-    if (hasResult && !cannotFail(operation) && m_failAt > 0 && --m_failAt == 0) {
+    const bool isCandidate = hasResult && !cannotFail(operation);
+    if (isCandidate && m_keepsCandidates) {
+        m_candidates.emplace_back(operation);
+    }
+    if (isCandidate && m_failAt > 0 && --m_failAt == 0) {
         m_hasFailedAt = true;
         return !m_mayFail(std::string(operation));
     }

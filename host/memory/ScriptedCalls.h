@@ -16,6 +16,9 @@ public:
     void failNext(std::string operation, std::size_t n);
     void throwAt(std::string operation, std::size_t k);
     void failAt(std::size_t k);
+    /// From now on the operations that failAt() counts are kept, in order; taking them ends that.
+    void keepCandidates() { m_keepsCandidates = true; }
+    std::vector<std::string> takeCandidates();
     /// Asked when the call that failAt() chose has come, with its operation, before it fails;
     /// false: it is spared.
     void askBeforeFailing(std::function<bool(const std::string& operation)> mayFail) {
@@ -47,6 +50,8 @@ private:
     std::map<std::string, std::size_t, std::less<>> m_timesEntered; ///< by operation
     std::size_t m_failAt = 0;                                       ///< 0: none
     bool m_hasFailedAt = false;
+    bool m_keepsCandidates = false;
+    std::vector<std::string> m_candidates;
     std::function<bool(const std::string&)> m_mayFail = [](const std::string&) { return true; };
 };
 
