@@ -120,6 +120,10 @@ MemoryList MemoryDialog::list() const {
     return {only<host::List>("list"), *m_actions};
 }
 
+MemoryList MemoryDialog::list(const std::string& labelBeside) const {
+    return {beside<host::List>("list", labelBeside), *m_actions};
+}
+
 MemoryList MemoryDialog::list(int handle) const {
     return {byHandle<host::List>("list", handle), *m_actions};
 }

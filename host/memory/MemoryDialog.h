@@ -29,6 +29,7 @@ public:
     MemorySpinField spinField() const;
     MemorySpinField spinField(const std::string& labelBeside) const;
     MemoryList list() const;
+    MemoryList list(const std::string& labelBeside) const;
     MemoryList list(int handle) const;
     MemoryOptionMenu optionMenu() const;
     MemoryOptionMenu optionMenu(const std::string& labelBeside) const;
