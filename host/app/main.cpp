@@ -39,7 +39,14 @@ ExitCode printSystemReport() {
 /// Needs neither drawing nor a window.
 ExitCode validateAddOn(const ValidateOptions& options) {
     try {
-        const validate::Verdict verdict = validate::validate(options.library, options.cpuSeconds);
+        const int stop = stopSignalDescriptor();
+        watchStopSignals();
+        const validate::Verdict verdict =
+            validate::validate(options.library, options.cpuSeconds, stop);
+        if (verdict.wasStopped) {
+            say("Stopped; not all was tried.");
+            return ExitStopped;
+        }
         const ExitCode printed = print(validate::reportOf(onOneLine(options.library), verdict));
         return validate::isKept(verdict) ? printed : ExitFailed;
     } catch (const std::exception& error) {

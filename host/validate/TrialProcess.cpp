@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 #include <utility>
 
@@ -50,19 +51,31 @@ class JournalReader {
 public:
     explicit JournalReader(TrialEnd& end) : m_end(end) {}
 
-    void readAll(int descriptor) {
-        std::array<char, 4096> buffer{};
-        ssize_t count = 0;
-        while ((count = read(descriptor, buffer.data(), buffer.size())) > 0 ||
-               (count < 0 && errno == EINTR)) {
-            for (ssize_t i = 0; i < count; ++i) {
-                take(buffer.at(static_cast<std::size_t>(i)));
-            }
+    /// To its end, or until the other descriptor can be read from.
+    void readAll(int descriptor, int stop) {
+        while (!m_isComplete && !m_end.wasStopped && waitFor(descriptor, stop)) {
         }
     }
     bool isComplete() const { return m_isComplete; }
 
 private:
+    /// False at the end.
+    bool waitFor(int descriptor, int stop) {
+        std::array<pollfd, 2> ends{pollfd{descriptor, POLLIN, 0}, pollfd{stop, POLLIN, 0}};
+        if (poll(ends.data(), ends.size(), -1) < 0) {
+            return errno == EINTR;
+        }
+        m_end.wasStopped = ends[1].revents != 0;
+        return m_end.wasStopped || readSome(descriptor);
+    }
+    bool readSome(int descriptor) {
+        std::array<char, 4096> buffer{};
+        const ssize_t count = read(descriptor, buffer.data(), buffer.size());
+        for (ssize_t i = 0; i < count; ++i) {
+            take(buffer.at(static_cast<std::size_t>(i)));
+        }
+        return count > 0;
+    }
     void take(char c) {
         if (c != '\n') {
             m_line += c;
@@ -104,13 +117,16 @@ void JournalReader::take(const JournalLine& line) {
 
 } // namespace
 
-TrialEnd runTrial(const TrialOrder& order) {
+TrialEnd runTrial(const TrialOrder& order, int stop) {
     Pipe journal = makePipe();
     host::Helper helper(trying, argumentsOf(order), {}, {journal.writeEnd.get()});
     journal.writeEnd.reset();
     TrialEnd end;
     JournalReader reader(end);
-    reader.readAll(journal.readEnd.get());
+    reader.readAll(journal.readEnd.get(), stop);
+    if (end.wasStopped) {
+        return end; // which ends the helper
+    }
     const host::HelperEnd processEnd = helper.wait();
     if (!reader.isComplete()) {
         end.death = sentenceAbout(processEnd, order.cpuSeconds);

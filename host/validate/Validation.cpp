@@ -23,7 +23,7 @@ std::string pathForTrials(const std::string& library) {
 
 class Validation {
 public:
-    Validation(const std::string& library, unsigned cpuSeconds) {
+    Validation(const std::string& library, unsigned cpuSeconds, int stop) : m_stop(stop) {
         m_order.library = pathForTrials(library);
         m_order.folder = m_folder.path();
         m_order.cpuSeconds = cpuSeconds;
@@ -44,6 +44,10 @@ private:
     void failInEntry();
     TrialEnd tryOnce();
 
+    /// Nothing more is to be tried.
+    bool isOver() const { return m_verdict.gaveUp || m_verdict.wasStopped; }
+
+    int m_stop;
     ScratchFolder m_folder;
     TrialOrder m_order;
     Verdict m_verdict;
@@ -51,7 +55,8 @@ private:
 };
 
 TrialEnd Validation::tryOnce() {
-    const TrialEnd end = runTrial(m_order);
+    const TrialEnd end = runTrial(m_order, m_stop);
+    m_verdict.wasStopped = end.wasStopped;
     m_verdict.findings.insert(m_verdict.findings.end(), end.findings.begin(), end.findings.end());
     m_verdict.counts.actions += end.counts.actions;
     m_verdict.counts.failures += end.counts.failures;
@@ -59,7 +64,7 @@ TrialEnd Validation::tryOnce() {
     if (!end.death.empty()) {
         const std::string failing = end.failing.empty() ? "" : " (" + end.failing + ')';
         m_verdict.findings.push_back({Rule::Survival, end.at.text() + failing, end.death});
-        ++m_deaths;
+        m_verdict.gaveUp = ++m_deaths >= mostDeaths;
     }
     return end;
 }
@@ -67,12 +72,11 @@ TrialEnd Validation::tryOnce() {
 /// Again without what ended the process, as long as there is something new to leave out.
 bool Validation::tryAs(TrialOrder::Kind kind) {
     m_order.kind = kind;
-    while (!m_verdict.gaveUp) {
+    while (!isOver()) {
         const TrialEnd end = tryOnce();
         if (end.death.empty()) {
             return true;
         }
-        m_verdict.gaveUp = m_deaths >= mostDeaths;
         const bool isNew = m_order.avoided.insert(nameToAvoid(end.at, end.failing)).second;
         if (!isNew) {
             return false;
@@ -83,7 +87,7 @@ bool Validation::tryAs(TrialOrder::Kind kind) {
 
 void Validation::failInEntry() {
     m_order.kind = TrialOrder::Kind::Entry;
-    for (std::size_t n = 1; n <= mostCallsOfEntry && m_deaths < mostDeaths; ++n) {
+    for (std::size_t n = 1; n <= mostCallsOfEntry && !isOver(); ++n) {
         m_order.failingCall = n;
         const TrialEnd end = tryOnce();
         if (end.death.empty() && !end.wasFailureReached) {
@@ -91,13 +95,12 @@ void Validation::failInEntry() {
         }
         m_verdict.counts.failures += end.wasFailureReached ? 1 : 0;
     }
-    m_verdict.gaveUp = m_deaths >= mostDeaths;
 }
 
 } // namespace
 
-Verdict validate(const std::string& library, unsigned cpuSeconds) {
-    return Validation(library, cpuSeconds).run();
+Verdict validate(const std::string& library, unsigned cpuSeconds, int stop) {
+    return Validation(library, cpuSeconds, stop).run();
 }
 
 } // namespace corvane::validate

@@ -6,6 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <filesystem>
+
 using namespace corvane::test;
 using testing::ContainsRegex;
 using testing::HasSubstr;
@@ -47,6 +50,20 @@ TEST(Validate, needsALibrary) {
     const ProgramResult help = runProgram({"validate", "--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_THAT(help.output, HasSubstr("--cpu-seconds"));
+}
+
+TEST(Validate, canBeStopped) {
+    const TempFolder folder;
+    const std::string hanging = folder.file("hang.so");
+    std::filesystem::create_symlink(builtFile("tests/libraries/RuleBreaker.so"), hanging);
+    Program program({"validate", hanging, "--cpu-seconds", "3600"});
+    // Standard output is for the verdict, whatever an add-on prints.
+    ASSERT_TRUE(program.waitForError("computing"));
+    program.signal(SIGINT);
+    const ProgramResult result = program.finish();
+    EXPECT_EQ(result.exitCode, 130);
+    EXPECT_THAT(result.errors, HasSubstr("Stopped"));
+    EXPECT_THAT(result.output, IsEmpty());
 }
 
 TEST(Validate, saysWhyALibraryIsNoAddOn) {

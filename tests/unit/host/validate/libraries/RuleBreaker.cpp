@@ -3,6 +3,7 @@
 #include "hostapi/CorHost.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <filesystem>
@@ -31,6 +32,8 @@ void useWhatWasNotGiven() {
 }
 
 void computeForEver() {
+    std::puts("computing");
+    std::fflush(stdout);
     volatile bool goesOn = true;
     while (goesOn) {
     }
