@@ -43,7 +43,7 @@ std::optional<JournalLine> brokenRule(const std::vector<std::string>& fields) {
     }
     JournalLine line;
     line.kind = JournalLine::Kind::Broken;
-    line.finding = {allRules().at(rule).rule, fields[2], fields[3]};
+    line.finding = {allRules().at(rule).rule, {fields[2], fields[3]}, fields[4]};
     return line;
 }
 
@@ -65,7 +65,8 @@ void Journal::fails(const std::string& operation) {
 
 void Journal::broken(const Finding& finding) {
     write("broken" + (separator + std::to_string(static_cast<std::size_t>(finding.rule))) +
-          separator + inOneField(finding.where) + separator + inOneField(finding.what));
+          separator + inOneField(finding.action.what) + separator +
+          inOneField(finding.action.condition) + separator + inOneField(finding.what));
 }
 
 void Journal::failureWasReached() {
@@ -88,7 +89,7 @@ std::optional<JournalLine> readJournalLine(const std::string& text) {
         return fields[0] == kind && fields.size() == fieldCount;
     };
     JournalLine line;
-    if (is("broken", 4)) {
+    if (is("broken", 5)) {
         return brokenRule(fields);
     }
     if (is("at", 3)) {

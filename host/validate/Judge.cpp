@@ -14,7 +14,7 @@ constexpr std::size_t leastTimes = 3;
 
 void Judge::broken(Rule rule, const Action& action, const std::string& what) {
     if (m_told.emplace(rule, action.what, what).second) {
-        m_journal.broken({rule, action.text(), what});
+        m_journal.broken({rule, action, what});
     }
 }
 

@@ -1,7 +1,7 @@
 #include "host/validate/Report.h"
 
-#include <map>
 #include <set>
+#include <utility>
 
 namespace corvane::validate {
 
@@ -14,11 +14,12 @@ std::string countOf(std::size_t count, const std::string& thing) {
     return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
 }
 
+/// What an action breaks in itself it breaks whatever fails in it: the first place is enough.
 std::vector<Finding> breachesOf(Rule rule, const Verdict& verdict) {
     std::vector<Finding> breaches;
-    std::set<std::string> told;
+    std::set<std::pair<std::string, std::string>> told;
     for (const Finding& finding : verdict.findings) {
-        if (finding.rule == rule && told.insert(finding.where + '\n' + finding.what).second) {
+        if (finding.rule == rule && told.emplace(finding.action.what, finding.what).second) {
             breaches.push_back(finding);
         }
     }
@@ -33,7 +34,7 @@ std::string linesAbout(const RuleText& rule, const Verdict& verdict) {
     }
     std::string lines;
     for (std::size_t i = 0; i < breaches.size() && i < mostPerRule; ++i) {
-        lines += name + ": broken: " + breaches[i].where + ": " + breaches[i].what + ". " +
+        lines += name + ": broken: " + breaches[i].action.text() + ": " + breaches[i].what + ". " +
                  rule.remedy + '\n';
     }
     if (breaches.size() > mostPerRule) {

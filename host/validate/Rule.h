@@ -47,7 +47,7 @@ struct Action {
 /// A rule that was broken.
 struct Finding {
     Rule rule = Rule::Survival;
-    std::string where; ///< the callback, and which call of the host failed in it
+    Action action;
     std::string what;
 };
 

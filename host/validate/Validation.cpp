@@ -62,8 +62,9 @@ TrialEnd Validation::tryOnce() {
     m_verdict.counts.failures += end.counts.failures;
     m_verdict.counts.stops += end.counts.stops;
     if (!end.death.empty()) {
-        const std::string failing = end.failing.empty() ? "" : " (" + end.failing + ')';
-        m_verdict.findings.push_back({Rule::Survival, end.at.text() + failing, end.death});
+        Action action = end.at;
+        action.condition += end.failing.empty() ? "" : " (" + end.failing + ')';
+        m_verdict.findings.push_back({Rule::Survival, action, end.death});
         m_verdict.gaveUp = ++m_deaths >= mostDeaths;
     }
     return end;

@@ -45,11 +45,11 @@ TEST_F(JournalTest, keepsActionsApartFromWhatHappenedInThem) {
 }
 
 TEST_F(JournalTest, keepsFindings) {
-    journal().broken({Rule::Movies, "here", "that"});
+    journal().broken({Rule::Movies, {"here", "now"}, "that"});
     const JournalLine read = line();
     EXPECT_EQ(read.kind, JournalLine::Kind::Broken);
     EXPECT_EQ(read.finding.rule, Rule::Movies);
-    EXPECT_EQ(read.finding.where, "here");
+    EXPECT_EQ(read.finding.action.text(), "here, now");
     EXPECT_EQ(read.finding.what, "that");
 }
 

@@ -38,7 +38,8 @@ TEST(Report, hasALineForEachRuleThatWasKept) {
 
 TEST(Report, tellsWhereARuleWasBrokenAndWhatToDo) {
     Verdict verdict;
-    verdict.findings = {{Rule::Drawing, "pressing \"Go\"", "suspended drawing is not balanced"}};
+    verdict.findings = {
+        {Rule::Drawing, {"pressing \"Go\"", ""}, "suspended drawing is not balanced"}};
     EXPECT_FALSE(isKept(verdict));
     const std::string report = reportOf("libX.so", verdict);
     EXPECT_THAT(report, HasSubstr("\ndrawing: broken: pressing \"Go\": suspended drawing is not "
@@ -51,8 +52,8 @@ TEST(Report, doesNotRepeatItselfForEver) {
     Verdict verdict;
     for (int i = 0; i < 20; ++i) {
         const std::string where = "pressing button " + std::to_string(i);
-        verdict.findings.push_back({Rule::Locks, where, "locks are not balanced"});
-        verdict.findings.push_back({Rule::Locks, where, "locks are not balanced"});
+        verdict.findings.push_back({Rule::Locks, {where, ""}, "locks are not balanced"});
+        verdict.findings.push_back({Rule::Locks, {where, "failing"}, "locks are not balanced"});
     }
     verdict.gaveUp = true;
     const std::string report = reportOf("libX.so", verdict);

@@ -13,13 +13,10 @@
 
 using namespace corvane::test;
 using namespace corvane::validate;
-using testing::Contains;
 using testing::Each;
-using testing::ElementsAre;
 using testing::Field;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 
 namespace {
 
@@ -55,8 +52,11 @@ TEST_P(ValidationTest, findsTheRuleThatIsBroken) {
     const Verdict verdict = verdictOn(breaker.name);
     SCOPED_TRACE(reportOf(breaker.name, verdict));
     EXPECT_THAT(verdict.findings, Each(Field(&Finding::rule, breaker.rule)));
-    EXPECT_THAT(verdict.findings, Contains(AllOf(Field(&Finding::where, HasSubstr(breaker.where)),
-                                                 Field(&Finding::what, HasSubstr(breaker.what)))));
+    const auto isExpected = [&](const Finding& finding) {
+        return finding.action.text().find(breaker.where) != std::string::npos &&
+               finding.what.find(breaker.what) != std::string::npos;
+    };
+    EXPECT_TRUE(std::any_of(verdict.findings.begin(), verdict.findings.end(), isExpected));
     EXPECT_FALSE(isKept(verdict));
 }
 
