@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <exception>
 #include <filesystem>
+#include <iterator>
+#include <string_view>
 
 namespace corvane::validate {
 
@@ -21,6 +23,8 @@ constexpr int timesForRows = 3;
 constexpr int mostReplays = 8;
 /// A dialog within a dialog within a dialog.
 constexpr int mostOpeners = 5;
+/// A dialog that is left may bring another one up.
+constexpr int mostModals = 20;
 constexpr std::size_t mostRecorded = 30;
 constexpr std::size_t mostStepsOfRound = 2000;
 
@@ -249,11 +253,10 @@ void Walk::failEverywhere() {
     m_judge.rest();
 }
 
-bool Walk::mayFail(Action& action, const std::string& operation) {
+bool Walk::mayFail(const Action& action, const std::string& operation) {
     if (!canFail(operation) || isAvoided(action, operation)) {
         return false;
     }
-    action.condition += ", " + operation + ',';
     ++m_counts.failures;
     m_journal.fails(operation);
     return true;
@@ -273,14 +276,16 @@ void Walk::failEachCallOf(const Step& step) {
         if (!reach(step)) {
             return;
         }
-        Action action{step.what, "when its call " + std::to_string(n)};
-        m_host.askBeforeFailing(
-            [&](const std::string& operation) { return mayFail(action, operation); });
+        const std::string condition = "when its call " + std::to_string(n);
+        Action action{step.what, ""}; // until the call has failed
+        m_host.askBeforeFailing([&](const std::string& operation) {
+            const bool fails = mayFail({step.what, condition}, operation);
+            action.condition = fails ? condition + ", " + operation + ", of the host fails" : "";
+            return fails;
+        });
         m_host.failAt(n);
-        perform(action, step.perform);
-        const bool wasReached = m_host.hasFailedAt();
+        perform({step.what, condition}, step.perform);
         m_host.failAt(0);
-        action.condition = wasReached ? action.condition + " of the host fails" : "";
         m_judge.endAction(action);
     }
 }
@@ -361,31 +366,45 @@ void Walk::noteOpened(const Step& opening, const std::set<std::string>& possible
     }
 }
 
+host::Dialog* Walk::modalOnTop() {
+    const host::Controls& controls = m_host.session().controls();
+    for (const auto& control : controls.all()) {
+        auto* const dialog = dynamic_cast<host::Dialog*>(control.get());
+        const bool isUp = dialog != nullptr && dialog->isModal && dialog->isUp;
+        if (isUp && !controls.isBlocked(*dialog)) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
 void Walk::leaveModals() {
-    // By index: callbacks may add controls.
-    const auto& all = m_host.session().controls().all();
-    for (std::size_t index = all.size(); index-- > 0;) {
-        auto* const dialog = dynamic_cast<host::Dialog*>(all[index].get());
-        if (dialog != nullptr && dialog->isModal && dialog->isUp && !leave(*dialog)) {
-            m_judge.broken(Rule::Dialogs, {"cancelling " + host::nameInTrace(*dialog), ""},
-                           "the dialog stays");
+    for (int times = 0; times < mostModals; ++times) {
+        host::Dialog* const dialog = modalOnTop();
+        if (dialog == nullptr) {
+            return;
+        }
+        const Action cancelling{"cancelling " + host::nameInTrace(*dialog), ""};
+        leave(*dialog, cancelling);
+        if (dialog->isUp) {
+            if (!isAvoided(cancelling)) {
+                m_judge.broken(Rule::Dialogs, cancelling, "the dialog stays");
+            }
             m_host.session().controls().drop(*dialog);
         }
     }
 }
 
 /// Whatever the user answers when he is asked whether he means it.
-bool Walk::leave(const host::Dialog& dialog) {
-    const Action action{"cancelling " + host::nameInTrace(dialog), ""};
+void Walk::leave(const host::Dialog& dialog, const Action& cancelling) {
     for (const bool yes : {true, false}) {
-        if (dialog.isUp && !isAvoided(action)) {
+        if (dialog.isUp && !isAvoided(cancelling)) {
             answer(yes);
-            perform(action, [&] { m_host.session().controlActions().dismiss(dialog.handle); });
-            m_judge.endAction(action);
+            perform(cancelling, [&] { m_host.session().controlActions().dismiss(dialog.handle); });
+            m_judge.endAction(cancelling);
         }
     }
     answer(m_manner.agrees);
-    return !dialog.isUp;
 }
 
 } // namespace corvane::validate

@@ -64,9 +64,10 @@ private:
     void failEachCallOf(const Step& step);
     void stopAtEachCheckOf(const Step& step);
     std::vector<std::size_t> callsToFail(const Step& step);
-    bool mayFail(Action& action, const std::string& operation);
+    bool mayFail(const Action& action, const std::string& operation);
     void leaveModals();
-    bool leave(const host::Dialog& dialog);
+    host::Dialog* modalOnTop();
+    void leave(const host::Dialog& dialog, const Action& cancelling);
     std::size_t rowCount();
 
     memory::MemoryHost& m_host;
