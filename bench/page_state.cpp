@@ -1,7 +1,7 @@
 // How long does it take to take the state of a page, to put it back, and to write it down?
 #include "host/core/page/Page.h"
 #include "host/core/page/PageStateText.h"
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 
 #include <benchmark/benchmark.h>
 

@@ -51,8 +51,8 @@ set(CPACK_DEBIAN_SDK_DESCRIPTION "files for writing Corvane add-ons
 Corvane shows 3D simulation results, flies a camera smoothly through them,
 and makes a film of it.
 
-These are headers and CMake files for writing add-ons for it, with a guide
-and an example.")
+These are headers and CMake files for writing add-ons for it, and a host in
+memory to test them with, with a guide and an example.")
 set(CPACK_DEBIAN_SDK_PACKAGE_DEPENDS "corvane (= ${CORVANE_DEBIAN_VERSION})")
 
 # What Debian wants in each package beyond what is installed elsewhere. cpack puts it there.

@@ -19,6 +19,11 @@ AllocationRegistry<void>& blocks() {
 
 } // namespace
 
+std::atomic<std::size_t>& heldThings() {
+    static std::atomic<std::size_t> count{0};
+    return count;
+}
+
 void* allocateForAddOn(std::size_t count, std::size_t size) {
     std::unique_ptr<void, decltype(&std::free)> block(std::calloc(count, size), &std::free);
     try {

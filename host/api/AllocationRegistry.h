@@ -4,11 +4,20 @@
 #include "host/api/TracedCall.h"
 
 #include <atomic>
+#include <cstddef>
 #include <mutex>
 #include <unordered_set>
 #include <utility>
 
 namespace corvane::host {
+
+/// Of all registries, for themselves.
+std::atomic<std::size_t>& heldThings();
+
+/// How many strings, arrays, sets and argument lists add-ons have not given back.
+inline std::size_t thingsHeldByAddOns() {
+    return heldThings();
+}
 
 /// Remembers what was given to add-ons and not given back, so that freeing something twice, or
 /// something that never came from here, is told to the trace and harms nothing. An address may be
@@ -25,6 +34,7 @@ public:
             m_spare.value() = thing;
             m_things.insert(std::move(m_spare));
         }
+        ++heldThings();
         m_latest = thing;
     }
     bool has(const T* thing) const {
@@ -54,6 +64,7 @@ private:
         if (node.empty()) {
             return false;
         }
+        --heldThings();
         m_spare = std::move(node);
         if (m_latest == thing) {
             m_latest = nullptr;

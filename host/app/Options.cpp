@@ -103,6 +103,9 @@ Options parseCommandLine(int argc, const char* const* argv,
     CLI::App app{"Shows 3D simulation results, and flies a camera smoothly through them.",
                  "corvane"};
     const CLI::Validator named(complaintAboutName, "");
+    app.footer(
+        "corvane validate LIBRARY tells whether an add-on keeps to the contract; see corvane "
+        "validate --help.");
     app.set_version_flag("--version", "corvane " CORVANE_VERSION);
     app.add_option("DATA", options.data,
                    "data files: one data set together (" + extensionsOf(dataFormats) + ")")

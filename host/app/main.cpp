@@ -5,13 +5,17 @@
 #include "host/app/Options.h"
 #include "host/app/Signals.h"
 #include "host/app/StandardStreams.h"
+#include "host/app/ValidateOptions.h"
 #include "host/app/WindowRun.h"
 #include "host/app/system/Bundle.h"
 #include "host/app/system/DriverChoice.h"
 #include "host/app/system/SystemReport.h"
+#include "host/core/base/HostError.h"
 #include "host/core/process/ProcessServer.h"
 #include "host/scene/DataReaders.h"
+#include "host/validate/Report.h"
 
+#include <exception>
 #include <iostream>
 
 namespace corvane::app {
@@ -30,6 +34,25 @@ ExitCode printSystemReport() {
     const SystemReport report = reportSystem();
     const ExitCode printed = print(report.text);
     return report.canDraw ? printed : ExitFailed;
+}
+
+/// Needs neither drawing nor a window.
+ExitCode validateAddOn(const ValidateOptions& options) {
+    try {
+        const int stop = stopSignalDescriptor();
+        watchStopSignals();
+        const validate::Verdict verdict =
+            validate::validate(options.library, options.cpuSeconds, stop);
+        if (verdict.wasStopped) {
+            say("Stopped; not all was tried.");
+            return ExitStopped;
+        }
+        const ExitCode printed = print(validate::reportOf(onOneLine(options.library), verdict));
+        return validate::isKept(verdict) ? printed : ExitFailed;
+    } catch (const std::exception& error) {
+        say(host::messageOf(error));
+        return ExitFailed;
+    }
 }
 
 ExitCode run(const Options& options) {
@@ -52,6 +75,9 @@ int main(int argc, char** argv) {
     surviveFailedWrites();
     distrustExitOfAddOns();
     try {
+        if (asksToValidate(argc, argv)) {
+            return validateAddOn(parseValidateCommandLine(argc, argv));
+        }
         return run(parseCommandLine(argc, argv, scene::DataReaders().formats()));
     } catch (const PrintAndExit& text) {
         return print(text.what());

@@ -3,7 +3,7 @@
 #include "host/gui/view/DrawingArea.h"
 #include "host/gui/view/ViewMotion.h"
 #include "tests/gui/WindowTest.h"
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 #include "tests/support/TempFolder.h"
 
 #include <QApplication>

@@ -2,11 +2,7 @@
 #pragma once
 
 #include "host/gui/desktop/WindowedHost.h"
-#include "tests/support/MemoryMovies.h"
-#include "tests/support/MemoryPictures.h"
-#include "tests/support/MemoryReader.h"
-#include "tests/support/MemoryRenderer.h"
-#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/MemoryHost.h"
 
 #include <functional>
 #include <gmock/gmock.h>

@@ -179,6 +179,76 @@ TEST(MemoryHostTest, whatIsLeftBehindIsTold) {
                             "a movie is being recorded"));
 }
 
+TEST(MemoryHostTest, complaintsAreTakenAway) {
+    MemoryHost host;
+    CorUtilZoneGetStrandID(99);
+    host.session().callAddOn("the test", [] { throw std::runtime_error("no ears"); });
+    const memory::Complaints complaints = host.takeComplaints();
+    EXPECT_THAT(complaints.misuse, ElementsAre(HasSubstr("no such zone")));
+    EXPECT_THAT(complaints.exceptions, ElementsAre("the test: no ears"));
+    EXPECT_THAT(host.takeComplaints().misuse, IsEmpty());
+    EXPECT_THAT(host.exceptions(), IsEmpty());
+}
+
+TEST(MemoryHostTest, callsThatCanFailAreKeptAndMayBeSpared) {
+    MemoryHost host;
+    host.keepCandidates();
+    CorUtilDrawGraphics(TRUE);
+    CorUtilRedraw(TRUE);
+    CorUtilExportIsRecording();
+    CorUtilFrameGetCount();
+    EXPECT_THAT(host.takeCandidates(), ElementsAre("CorUtilRedraw", "CorUtilFrameGetCount"));
+    host.askBeforeFailing(
+        [](const std::string& operation) { return operation != "CorUtilRedraw"; });
+    host.failAt(1);
+    EXPECT_TRUE(CorUtilRedraw(TRUE));
+    EXPECT_TRUE(host.hasFailedAt());
+    host.failAt(1);
+    EXPECT_EQ(CorUtilFrameGetCount(), 0);
+    host.expectMisuse("drawing is not suspended");
+}
+
+TEST(MemoryHostTest, thingsThatAreNotGivenBackAreCounted) {
+    MemoryHost host;
+    const std::size_t before = MemoryHost::thingsHeld();
+    char* text = CorUtilStringAlloc(3);
+    CorArgList list = CorUtilArgListAlloc();
+    CorSet set = nullptr;
+    EXPECT_TRUE(CorUtilZoneGetEnabled(&set));
+    EXPECT_EQ(MemoryHost::thingsHeld(), before + 3);
+    CorUtilStringDealloc(&text);
+    CorUtilArgListDealloc(&list);
+    CorUtilSetDealloc(&set);
+    EXPECT_EQ(MemoryHost::thingsHeld(), before);
+}
+
+TEST(MemoryHostTest, whoGoesOnAfterAStopIsCounted) {
+    MemoryHost host;
+    CorUtilStatusStartPercentDone("a", TRUE, TRUE);
+    host.stopAtCheck(2);
+    EXPECT_TRUE(CorUtilStatusCheckPercentDone(1));
+    EXPECT_FALSE(host.status().hasStoppedAt());
+    EXPECT_FALSE(CorUtilStatusCheckPercentDone(2));
+    EXPECT_TRUE(host.status().hasStoppedAt());
+    EXPECT_EQ(host.status().checksAfterStop(), 0U);
+    CorUtilStatusCheckPercentDone(3);
+    EXPECT_EQ(host.status().checksAfterStop(), 1U);
+    CorUtilStatusFinishPercentDone();
+}
+
+TEST(MemoryHostTest, fileDialogsCanAnswerInAFolder) {
+    const TempFolder folder;
+    MemoryHost host;
+    host.prompts().answerFilesIn(folder.path().string());
+    char* name = nullptr;
+    EXPECT_FALSE(CorUtilDialogGetFileName(SelectFile_Read, &name, "Kites", "kite", "*.kite"));
+    EXPECT_TRUE(CorUtilDialogGetFileName(SelectFile_Write, &name, "Kites", "kite", "*.kite"));
+    EXPECT_EQ(name, folder.write("file.kite", "red"));
+    CorUtilStringDealloc(&name);
+    EXPECT_TRUE(CorUtilDialogGetFileName(SelectFile_Read, &name, "Kites", "kite", "*.kite"));
+    CorUtilStringDealloc(&name);
+}
+
 TEST(MemoryHostTest, expectedMisuseIsNotLeftBehind) {
     MemoryHost host;
     host.expectMisuse("no such zone");

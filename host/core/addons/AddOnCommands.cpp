@@ -14,4 +14,13 @@ const AddOnCommand* AddOnCommands::find(const std::string& macroName) const {
     return found == m_commands.end() ? nullptr : &found->second;
 }
 
+std::vector<std::string> AddOnCommands::names() const {
+    std::vector<std::string> names;
+    names.reserve(m_commands.size());
+    for (const auto& [name, command] : m_commands) {
+        names.push_back(name);
+    }
+    return names;
+}
+
 } // namespace corvane::host

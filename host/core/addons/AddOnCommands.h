@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace corvane::host {
 
@@ -17,6 +18,7 @@ public:
     /// False: the name is taken or empty.
     bool add(const std::string& macroName, AddOnCommand command);
     const AddOnCommand* find(const std::string& macroName) const; ///< exact name
+    std::vector<std::string> names() const;
 
 private:
     std::map<std::string, AddOnCommand> m_commands;

@@ -13,6 +13,7 @@ TEST(AddOnCommandsTest, findsCommandsByTheirExactName) {
     EXPECT_EQ((*commands.find("Flight"))("go"), "go!");
     EXPECT_EQ(commands.find("flight"), nullptr);
     EXPECT_EQ(commands.find(""), nullptr);
+    EXPECT_EQ(commands.names(), std::vector<std::string>{"Flight"});
 }
 
 TEST(AddOnCommandsTest, aNameIsTakenOnce) {

@@ -1,7 +1,7 @@
 // Tests of work that waits for idle time.
 #include "host/core/addons/IdleQueue.h"
 
-#include "tests/support/MemoryIdleTimer.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

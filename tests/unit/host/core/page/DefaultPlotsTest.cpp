@@ -1,7 +1,7 @@
 // Tests of the first picture of data.
 #include "host/core/page/Frame.h"
 
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gtest/gtest.h>
 

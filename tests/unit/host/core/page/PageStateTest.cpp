@@ -2,7 +2,7 @@
 #include "host/core/page/PageState.h"
 
 #include "host/core/page/Page.h"
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

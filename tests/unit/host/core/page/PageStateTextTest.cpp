@@ -3,7 +3,7 @@
 
 #include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

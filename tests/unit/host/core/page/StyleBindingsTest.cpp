@@ -2,7 +2,7 @@
 #include "host/core/page/Frame.h"
 #include "host/core/page/PointList.h"
 
-#include "tests/support/MemoryData.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gtest/gtest.h>
 

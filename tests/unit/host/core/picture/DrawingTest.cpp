@@ -4,8 +4,7 @@
 #include "host/core/addons/Locks.h"
 #include "host/core/base/HostError.h"
 #include "host/core/page/Page.h"
-#include "tests/support/MemoryIdleTimer.h"
-#include "tests/support/MemoryRenderer.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -8,8 +8,7 @@
 #include "host/core/page/Page.h"
 #include "host/core/picture/Drawing.h"
 #include "host/core/picture/ExportSetup.h"
-#include "tests/support/MemoryMovies.h"
-#include "tests/support/MemoryRenderer.h"
+#include "tests/support/MemoryHost.h"
 #include "tests/support/TempFolder.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 // Tests of the percent-done display's nesting and its wish to stop.
 #include "host/core/session/StatusLine.h"
 
-#include "tests/support/ScriptedStatus.h"
+#include "tests/support/MemoryHost.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -4,13 +4,8 @@
 #include "host/core/Host.h"
 #include "host/gui/widgets/QtWidgets.h"
 #include "hostapi/CorHost.h"
-#include "tests/support/MemoryMovies.h"
-#include "tests/support/MemoryPictures.h"
-#include "tests/support/MemoryReader.h"
-#include "tests/support/MemoryRenderer.h"
+#include "tests/support/MemoryHost.h"
 #include "tests/support/NotedCallbacks.h"
-#include "tests/support/ScriptedPrompts.h"
-#include "tests/support/ScriptedStatus.h"
 
 #include <QMainWindow>
 #include <QtTest/QTest>
