@@ -110,6 +110,7 @@ const std::array<User::Act, 19> User::acts{&User::append,
 
 // What users cannot reach they cannot do: dimmed, or not up.
 void User::act(unsigned what, unsigned how) {
+    host.prompts().forgetFiles();
     try {
         (this->*acts[what % acts.size()])(how);
     } catch (const std::logic_error&) {

@@ -36,6 +36,8 @@ public:
     void answer(std::string partOfQuestion, bool yes);
     /// The next file dialog gives this name; more of them queue up.
     void answerFile(std::string name) { m_fileNames.push_back(std::move(name)); }
+    /// Drops the names that no dialog has asked for.
+    void forgetFiles() { m_fileNames.clear(); }
     /// From now on there are no help pages.
     void loseHelp() { m_hasHelp = false; }
 
