@@ -7,6 +7,15 @@ using namespace corvane::host;
 
 namespace {
 
+/// Word by word: GCC 12 destroys the words of a braced list that is cut short for want of memory
+/// after their end.
+StylePath pathOf(const char* name) {
+    StylePath path;
+    path.emplace_back("ExportSetup");
+    path.emplace_back(name);
+    return path;
+}
+
 /// Integers, numbers and texts come in different arguments; the setting decides which one counts.
 bool setSetting(Session& session, const StylePath& path, const char* text, long integer,
                 double number) {
@@ -68,7 +77,7 @@ CorBool CorUtilExportSetup(const char* name, const char* text, int integerValue,
                            double doubleValue) {
     const TracedCall call("CorUtilExportSetup", name, text, integerValue, doubleValue);
     return call.answer(false, [&](Session& session) {
-        return name ? setSetting(session, {"ExportSetup", name}, text, integerValue, doubleValue)
+        return name ? setSetting(session, pathOf(name), text, integerValue, doubleValue)
                     : call.misuse("name is NULL");
     });
 }

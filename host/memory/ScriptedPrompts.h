@@ -39,6 +39,8 @@ public:
     /// From now on file dialogs that no name waits for give one in this folder, with the extension
     /// that they ask for; empty: they are cancelled again.
     void answerFilesIn(std::string folder) { m_folder = std::move(folder); }
+    /// Drops the names that no dialog has asked for.
+    void forgetFiles() { m_fileNames.clear(); }
     /// From now on there are no help pages.
     void loseHelp() { m_hasHelp = false; }
 
