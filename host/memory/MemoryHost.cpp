@@ -28,15 +28,14 @@ MemoryHost::MemoryHost(bool hasWindows)
 }
 
 host::TraceSinks MemoryHost::misuseAndScript() {
-    return {
-        .onMisuse =
-            [this](const std::string& what) {
-                const std::lock_guard<std::mutex> lock(m_misuseMutex);
-                m_misuse.push_back(what);
-            },
-        .onException = [this](const std::string& what) { m_exceptions.push_back(what); },
-        .onEnter = [this](const char* operation,
-                          bool hasResult) { return mayProceed(operation, hasResult); }};
+    return {.onMisuse =
+                [this](const std::string& what) {
+                    const std::lock_guard<std::mutex> lock(m_misuseMutex);
+                    m_misuse.push_back(what);
+                },
+            .onException = [this](const std::string& what) { m_exceptions.push_back(what); },
+            .onEnter = [this](const char* operation,
+                              bool hasResult) { return mayProceed(operation, hasResult); }};
 }
 
 bool MemoryHost::mayProceed(const char* operation, bool hasResult) {
