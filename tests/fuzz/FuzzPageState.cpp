@@ -2,8 +2,8 @@
 // being written and read again.
 #include "host/core/base/HostError.h"
 #include "host/core/page/PageStateText.h"
+#include "host/memory/MemoryData.h"
 #include "tests/fuzz/Require.h"
-#include "tests/support/MemoryData.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,7 +28,7 @@ std::shared_ptr<const DataSet> dataOf(const std::vector<std::string>& files) {
     if (all.size() == mostKept) {
         throw HostError("There are no such data.");
     }
-    all.push_back(corvane::test::makeTransientData(files));
+    all.push_back(corvane::memory::makeTransientData(files));
     return all.back();
 }
 
