@@ -83,16 +83,15 @@ TEST_F(AddOnLoaderTest, survivesLibrariesThatEndTheProgram) {
     }
 }
 
-// The loader maps what is not there, and finds out by a signal. It needs nothing of the last part.
+// The loader maps what is not there, and finds out by a signal.
 TEST_F(AddOnLoaderTest, survivesALibraryThatIsCutOff) {
     const test::TempFolder folder;
     const std::string cut = folder.file("Cut.so");
-    const std::uintmax_t whole = std::filesystem::file_size(library("WellBehaved"));
-    for (std::uintmax_t part = 1; part < 6; ++part) {
+    for (const std::uintmax_t size : {100U, 1000U, 4096U, 8000U}) {
         std::filesystem::copy_file(library("WellBehaved"), cut,
                                    std::filesystem::copy_options::overwrite_existing);
-        std::filesystem::resize_file(cut, whole * part / 8);
-        EXPECT_THAT(failureOf(cut), HasSubstr("Cannot load the add-on " + cut)) << part;
+        std::filesystem::resize_file(cut, size);
+        EXPECT_THAT(failureOf(cut), HasSubstr("Cannot load the add-on " + cut)) << size;
     }
 }
 
