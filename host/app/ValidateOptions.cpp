@@ -25,7 +25,7 @@ ValidateOptions parseValidateCommandLine(int argc, const char* const* argv) {
         "Tries an add-on in processes of its own, and tells which rules of the contract with "
         "its host it keeps and which it breaks. No window is opened.",
         "corvane validate"};
-    app.add_option("LIBRARY", options.library, "the library of the add-on")->required();
+    app.add_option("LIBRARY", options.addOn, "the library of the add-on")->required();
     app.add_option("--cpu-seconds", options.cpuSeconds,
                    "the most computing for one callback, in seconds (10)")
         ->type_name("N")
@@ -38,7 +38,7 @@ ValidateOptions parseValidateCommandLine(int argc, const char* const* argv) {
         throw UsageError(std::string(error.what()) +
                          " (corvane validate --help lists the options)");
     }
-    if (options.library.empty()) {
+    if (options.addOn.empty()) {
         throw UsageError(
             "LIBRARY: the name of a file is missing (corvane validate --help lists the "
             "options)");

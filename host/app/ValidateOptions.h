@@ -6,7 +6,7 @@
 namespace corvane::app {
 
 struct ValidateOptions {
-    std::string library;
+    std::string addOn;
     unsigned cpuSeconds = 10; ///< of computing, for one callback of the add-on
 };
 

@@ -42,12 +42,12 @@ ExitCode validateAddOn(const ValidateOptions& options) {
         const int stop = stopSignalDescriptor();
         watchStopSignals();
         const validate::Verdict verdict =
-            validate::validate(options.library, options.cpuSeconds, stop);
+            validate::validate(options.addOn, options.cpuSeconds, stop);
         if (verdict.wasStopped) {
             say("Stopped; not all was tried.");
             return ExitStopped;
         }
-        const ExitCode printed = print(validate::reportOf(onOneLine(options.library), verdict));
+        const ExitCode printed = print(validate::reportOf(onOneLine(options.addOn), verdict));
         return validate::isKept(verdict) ? printed : ExitFailed;
     } catch (const std::exception& error) {
         say(host::messageOf(error));

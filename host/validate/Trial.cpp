@@ -84,7 +84,7 @@ bool Trial::load() {
     m_host->failAt(m_order.failingCall);
     m_judge.startAction();
     try {
-        host::loadAddOn(m_host->session(), m_order.library);
+        host::loadAddOn(m_host->session(), m_order.addOn);
     } catch (const host::HostError& error) {
         m_judge.broken(Rule::Loading, {"the library", ""}, error.what());
         return false;
@@ -128,7 +128,7 @@ int work(const host::TaskInput& input) {
 const host::Task trying("try an add-on", work);
 
 std::vector<std::string> argumentsOf(const TrialOrder& order) {
-    std::vector<std::string> arguments{std::to_string(static_cast<int>(order.kind)), order.library,
+    std::vector<std::string> arguments{std::to_string(static_cast<int>(order.kind)), order.addOn,
                                        order.folder, std::to_string(order.cpuSeconds),
                                        std::to_string(order.failingCall)};
     arguments.insert(arguments.end(), order.avoided.begin(), order.avoided.end());
@@ -138,7 +138,7 @@ std::vector<std::string> argumentsOf(const TrialOrder& order) {
 TrialOrder orderFrom(const std::vector<std::string>& arguments) {
     TrialOrder order;
     order.kind = static_cast<Kind>(host::parsedNumber<int>(arguments.at(0)).value());
-    order.library = arguments.at(1);
+    order.addOn = arguments.at(1);
     order.folder = arguments.at(2);
     order.cpuSeconds = host::parsedNumber<unsigned>(arguments.at(3)).value();
     order.failingCall = host::parsedNumber<std::size_t>(arguments.at(4)).value();

@@ -20,7 +20,7 @@ struct TrialOrder {
     };
 
     Kind kind = Kind::Everything;
-    std::string library;         ///< the loader's path
+    std::string addOn;           ///< the loader's path
     std::string folder;          ///< to work in; files that the add-on writes lie there
     unsigned cpuSeconds = 0;     ///< for one action
     std::size_t failingCall = 0; ///< of the entry point

@@ -24,7 +24,7 @@ std::string pathForTrials(const std::string& library) {
 class Validation {
 public:
     Validation(const std::string& library, unsigned cpuSeconds, int stop) : m_stop(stop) {
-        m_order.library = pathForTrials(library);
+        m_order.addOn = pathForTrials(library);
         m_order.folder = m_folder.path();
         m_order.cpuSeconds = cpuSeconds;
     }
