@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 #include <unistd.h>
 

@@ -6,8 +6,6 @@
 
 namespace corvane::app {
 
-class Bundle;
-
 /// What of a machine decides it.
 struct Graphics {
     /// Files of graphics devices that this user may open.

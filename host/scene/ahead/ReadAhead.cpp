@@ -33,8 +33,6 @@ void ReadAhead::cancel(const void* owner) {
     std::unique_lock lock(m_mutex);
     dropWaiting(owner);
     m_changed.wait(lock, [this, owner] { return !m_running || m_running->owner != owner; });
-    // Whoever waits for everything waits for what was dropped as well.
-    m_changed.notify_all();
 }
 
 void ReadAhead::wait() {
@@ -56,6 +54,7 @@ ReadAhead::Pause::~Pause() {
 
 void ReadAhead::dropWaiting(const void* owner) {
     m_waiting.remove_if([owner](const auto& work) { return work->owner == owner; });
+    m_changed.notify_all(); // whoever waits for everything waits no longer for this
 }
 
 void ReadAhead::work() {
